@@ -1,0 +1,17 @@
+# Compile options that every target of this project shares.
+add_library(dravolin_warnings INTERFACE)
+target_compile_options(dravolin_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_compile_definitions(dravolin_warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(DRAVOLIN_WERROR)
+    target_compile_options(dravolin_warnings INTERFACE -Werror)
+endif()
+if(DRAVOLIN_SANITIZE STREQUAL "address")
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+elseif(DRAVOLIN_SANITIZE STREQUAL "thread")
+    set(sanitizers -fsanitize=thread -fno-omit-frame-pointer)
+elseif(DRAVOLIN_SANITIZE)
+    message(FATAL_ERROR "DRAVOLIN_SANITIZE is address, thread or empty, not '${DRAVOLIN_SANITIZE}'")
+endif()
+target_compile_options(dravolin_warnings INTERFACE ${sanitizers})
+target_link_options(dravolin_warnings INTERFACE ${sanitizers})
