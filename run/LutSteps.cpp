@@ -1,5 +1,7 @@
 #include "run/LutSteps.h"
 
+#include "config/LutDiscovery.h"
+
 namespace dravolin {
 
 bool bindTable(const RunContext &, RunOptions &)
@@ -7,8 +9,15 @@ bool bindTable(const RunContext &, RunOptions &)
     return true;
 }
 
-void constructTable(const RunContext &, const Drop &) {}
+void constructTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &) {}
 
-void propagateTable(const RunContext &, const Drop &) {}
+void propagateTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &) {}
+
+void refreshTables(const RunContext &context)
+{
+    const TitleToPath found = findLuts(context.paths);
+    context.state.set(&RunState::allLUTsPaths, found);
+    context.host.setLUTTitles(found.keys());
+}
 
 } // namespace dravolin

@@ -10,10 +10,16 @@ namespace dravolin {
 // that says why is then up.
 [[nodiscard]] bool bindTable(const RunContext &context, RunOptions &options);
 
-// Collects the values of the construction's attribute from everything dropped and writes the table file.
-void constructTable(const RunContext &context, const Drop &drop);
+// Collects the values of the construction's attribute from everything dropped, writes the table file to the
+// desktop and refreshes the table pop-up.
+void constructTable(const RunContext &context, const QStringList &folders, const QStringList &files,
+                    const RunOptions &options);
 
 // Writes the loaded table's new values into everything dropped.
-void propagateTable(const RunContext &context, const Drop &drop);
+void propagateTable(const RunContext &context, const QStringList &folders, const QStringList &files,
+                    const RunOptions &options);
+
+// Looks for table files again and refills the table pop-up. Any thread.
+void refreshTables(const RunContext &context);
 
 } // namespace dravolin

@@ -36,30 +36,30 @@ bool loadRules(const RunContext &context, RunOptions &options)
     return !refusesEmptyTagList(context, path);
 }
 
-void anonymizeDrop(const RunContext &context, const Drop &drop)
+void anonymize(const RunContext &context, const QStringList &folders, const QStringList &files,
+               const RunOptions &options)
 {
-    for (const QString &folder : drop.folders)
+    for (const QString &folder : folders)
         countFolderTree(context, folder);
-    if (!drop.individualFiles.isEmpty())
+    if (!files.isEmpty())
         context.state.add(&RunState::totalFolders, 1);
 
     const QStringList tags = context.state.get(&RunState::allTagsToAnonymize);
-    for (const QString &folder : drop.folders) {
+    for (const QString &folder : folders) {
         context.host.setStatus(workingText(context));
-        context.state.add(&RunState::errCount, anonymizeFolderTree(context, tags, folder, drop.options));
+        context.state.add(&RunState::errCount, anonymizeFolderTree(context, tags, folder, options));
     }
-    if (drop.individualFiles.isEmpty())
+    if (files.isEmpty())
         return;
     // intended: all the files are taken to lie in the first one's folder
-    const QString folder = parentPath(drop.individualFiles.first());
+    const QString folder = parentPath(files.first());
     context.state.update([&](RunState &state) { state.AllFoldersNames.append(folder.toLower()); });
-    context.state.add(&RunState::errCount,
-                      anonymizeFiles(context, tags, drop.individualFiles, folder, drop.options));
+    context.state.add(&RunState::errCount, anonymizeFiles(context, tags, files, folder, options));
 }
 
-void searchDicomdirs(const RunContext &context, const Drop &drop)
+void searchDicomdirs(const RunContext &context, const QStringList &folders)
 {
-    for (const QString &folder : drop.folders) {
+    for (const QString &folder : folders) {
         const QStringList found = findDicomdirs(context, folder);
         context.state.update([&](RunState &state) { state.DICOMDIRpaths += found; });
     }
@@ -122,27 +122,29 @@ bool refusesEmptyTagList(const RunContext &context, const QString &configuration
     return true;
 }
 
-quint64 processDroppedItems(const RunContext &context, Drop &drop)
+quint64 processDroppedItems(const RunContext &context, const QStringList &folders, const QStringList &files,
+                            RunOptions &options)
 {
     // intended: a run that only generates UIDs works with the tags and the table state that the last run left
-    if (!isOn(context, CheckBox::OnlyGenerateSOP) && !loadRules(context, drop.options))
+    if (!isOn(context, CheckBox::OnlyGenerateSOP) && !loadRules(context, options))
         return 1;
     if (isOn(context, CheckBox::Prepopulate)) {
-        constructTable(context, drop);
+        constructTable(context, folders, files, options);
     } else {
-        anonymizeDrop(context, drop);
+        anonymize(context, folders, files, options);
         if (context.state.get(&RunState::usingLUT))
-            propagateTable(context, drop);
+            propagateTable(context, folders, files, options);
     }
     if (!isOn(context, CheckBox::Prepopulate) && !isOn(context, CheckBox::OnlyGenerateSOP))
-        searchDicomdirs(context, drop);
+        searchDicomdirs(context, folders);
     return 0;
 }
 
 void performRun(const RunContext &context, Drop &drop)
 {
     // intended: the result replaces whatever the operations counted during the run
-    context.state.set(&RunState::errCount, processDroppedItems(context, drop));
+    context.state.set(&RunState::errCount,
+                      processDroppedItems(context, drop.folders, drop.individualFiles, drop.options));
     parseLog(context);
 }
 

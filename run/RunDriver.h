@@ -21,8 +21,9 @@ void dropTableMarkers(SharedRunState &state);
 // True when there is nothing to anonymize; the sheet that says so is then up.
 [[nodiscard]] bool refusesEmptyTagList(const RunContext &context, const QString &configurationPath);
 
-// The whole run. 1 when it was refused before any file was touched, else 0.
-[[nodiscard]] quint64 processDroppedItems(const RunContext &context, Drop &drop);
+// The whole run over `folders` and `files`. 1 when it was refused before any file was touched, else 0.
+[[nodiscard]] quint64 processDroppedItems(const RunContext &context, const QStringList &folders,
+                                          const QStringList &files, RunOptions &options);
 
 // A run and its analysis: what the run's thread does. The result replaces errCount.
 void performRun(const RunContext &context, Drop &drop);
