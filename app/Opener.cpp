@@ -22,7 +22,9 @@ void logFailure(const QString &url)
 
 } // namespace
 
-Opener::Opener(QObject *parent) : QObject(parent) {}
+Opener::Opener(QObject *parent) : QObject(parent)
+{
+}
 
 void Opener::openUrl(const QString &url)
 {
@@ -30,17 +32,19 @@ void Opener::openUrl(const QString &url)
     auto *process = new QProcess;
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setStandardInputFile(QProcess::nullDevice());
-    QObject::connect(process, &QProcess::errorOccurred, process, [process, url](QProcess::ProcessError error) {
-        if (error != QProcess::FailedToStart)
-            return;
-        logFailure(url);
-        process->deleteLater();
-    });
-    QObject::connect(process, &QProcess::finished, process, [process, url](int exitCode, QProcess::ExitStatus) {
-        if (exitCode != 0)
-            logFailure(url);
-        process->deleteLater();
-    });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, url](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         logFailure(url);
+                         process->deleteLater();
+                     });
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, url](int exitCode, QProcess::ExitStatus) {
+                         if (exitCode != 0)
+                             logFailure(url);
+                         process->deleteLater();
+                     });
     process->start(QStringLiteral("xdg-open"), {url});
 }
 
