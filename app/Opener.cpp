@@ -2,6 +2,7 @@
 
 #include "config/FileSystem.h"
 #include "identifiers/SystemLog.h"
+#include "run/jobs/JobRunner.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -13,6 +14,7 @@ namespace dravolin {
 
 namespace {
 
+constexpr int startTimeout = 1000;  // milliseconds for a process to be created, which takes a few
 constexpr int answerTimeout = 2000; // milliseconds for a file browser to start and to answer
 
 void logFailure(const QString &url)
@@ -45,7 +47,9 @@ void Opener::openUrl(const QString &url)
                              logFailure(url);
                          process->deleteLater();
                      });
+    const std::lock_guard lock(processStartMutex());
     process->start(QStringLiteral("xdg-open"), {url});
+    process->waitForStarted(startTimeout);
 }
 
 void Opener::reveal(const QString &path, std::function<void()> then)
