@@ -192,4 +192,24 @@ BigInt BigInt::abs() const
     return isNegative() ? negate() : *this;
 }
 
+BigInt BigInt::sqrt() const
+{
+    const qint32 bits = (bitCount() + 1) / 2;
+    const qint32 bitPosition = bits % 32;
+    quint32 mask = bitPosition != 0 ? 1U << bitPosition : words::topBit;
+    BigInt root;
+    // intended: the root of zero has length 0
+    root.m_dataLength = bits / 32 + (bitPosition != 0 ? 1 : 0);
+    for (qint32 i = root.m_dataLength - 1; i >= 0; --i, mask = words::topBit) {
+        quint32 &word = root.m_data[static_cast<size_t>(i)];
+        for (; mask != 0; mask >>= 1) {
+            word |= mask;
+            if (root.multiply(root).greaterThan(*this))
+                word &= ~mask;
+        }
+    }
+    root.trim();
+    return root;
+}
+
 } // namespace dravolin
