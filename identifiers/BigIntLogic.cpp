@@ -3,7 +3,6 @@
 #include "identifiers/BigIntWords.h"
 
 #include <algorithm>
-#include <bit>
 #include <functional>
 
 namespace dravolin {
@@ -106,10 +105,7 @@ qint32 BigInt::bitCount() const
 {
     // intended: the length of a value that is only counted is trimmed
     trim();
-    if (isZero())
-        return 0;
-    return bitsPerWord * (m_dataLength - 1) +
-           static_cast<qint32>(std::bit_width(getDataAtIndex(m_dataLength - 1)));
+    return words::bitLength(m_data.data(), m_dataLength);
 }
 
 bool BigInt::equals(const BigInt &other) const

@@ -7,6 +7,7 @@
 
 #include <QtGlobal>
 
+#include <bit>
 #include <limits>
 
 namespace dravolin::words {
@@ -36,6 +37,13 @@ inline constexpr quint32 topBit = 0x80000000U;
     while (size > 1 && words[size - 1] == 0)
         --size;
     return size;
+}
+
+/// The position of the highest set bit counted from 1; 0 when there is none.
+[[nodiscard]] inline qint32 bitLength(const quint32 *words, qint32 size)
+{
+    const qint32 length = trimmedLength(words, size);
+    return length < 1 ? 0 : 32 * (length - 1) + static_cast<qint32>(std::bit_width(words[length - 1]));
 }
 
 /// -1, 0 or 1 for left below, equal to, above right.
