@@ -3,7 +3,7 @@
 #include "identifiers/BigIntWords.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace dravolin {
 
@@ -20,14 +20,41 @@ constexpr qint32 signWord = BigInt::maxLength - 1;
            std::all_of(data, data + signWord, [](quint32 word) { return word == 0; });
 }
 
+using Words = std::array<quint32, BigInt::maxLength>;
+
 /// The words of |value|, those of the most negative value being their own negation. Only a negative value is
 /// copied.
-[[nodiscard]] const quint32 *magnitude(const BigInt &value, std::optional<BigInt> &copy)
+[[nodiscard]] const quint32 *magnitude(const BigInt &value, Words &copy)
 {
     if ((value.getDataAtIndex(signWord) & words::topBit) == 0)
         return value.getData();
-    words::negate(copy.emplace(value).getData(), BigInt::maxLength);
-    return copy->getData();
+    std::copy_n(value.getData(), copy.size(), copy.begin());
+    words::negate(copy.data(), BigInt::maxLength);
+    return copy.data();
+}
+
+/// product = left * right in 70 words, all zero before. The shorter factor goes row by row, the longer one is
+/// the row.
+void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, const quint32 *right,
+                   qint32 rightLength)
+{
+    // Two top words that are not zero and meet above word 69.
+    if (leftLength + rightLength > BigInt::maxLength + 1)
+        raiseArithmetic("Multiplication overflow.");
+    if (leftLength > rightLength) {
+        std::swap(left, right);
+        std::swap(leftLength, rightLength);
+    }
+    for (qint32 i = 0; i < leftLength; ++i) {
+        if (left[i] == 0)
+            continue;
+        const quint32 carry = words::addMultiple(product + i, right, rightLength, left[i]);
+        if (carry == 0)
+            continue;
+        if (i + rightLength >= BigInt::maxLength)
+            raiseArithmetic("Multiplication overflow.");
+        product[i + rightLength] = carry;
+    }
 }
 
 } // namespace
@@ -140,38 +167,23 @@ BigInt BigInt::subtract(const BigInt &other) const
 
 BigInt BigInt::multiply(const BigInt &other) const
 {
-    std::optional<BigInt> leftCopy;
-    std::optional<BigInt> rightCopy;
+    Words leftCopy;
+    Words rightCopy;
     const quint32 *left = magnitude(*this, leftCopy);
     const quint32 *right = magnitude(other, rightCopy);
-    const qint32 leftLength = words::trimmedLength(left, m_dataLength);
-    const qint32 rightLength = words::trimmedLength(right, other.m_dataLength);
-    // Two top words that are not zero and meet above word 69.
-    if (leftLength + rightLength > maxLength + 1)
-        raiseArithmetic("Multiplication overflow.");
-
     BigInt product;
-    for (qint32 i = 0; i < leftLength; ++i) {
-        if (left[i] == 0)
-            continue;
-        const quint32 carry = words::addMultiple(product.m_data.data() + i, right, rightLength, left[i]);
-        if (carry == 0)
-            continue;
-        if (i + rightLength >= maxLength)
-            raiseArithmetic("Multiplication overflow.");
-        product.setDataAtIndex(carry, i + rightLength);
-    }
+    multiplyWords(product.getData(), left, words::trimmedLength(left, m_dataLength), right,
+                  words::trimmedLength(right, other.m_dataLength));
     product.m_dataLength = std::min(m_dataLength + other.m_dataLength, maxLength);
     product.trim();
 
     const bool signsDiffer = isNegative() != other.isNegative();
-    if (product.isNegative()) {
-        if (signsDiffer && isMostNegative(product.getData()))
-            return product;
-        // intended: another text than that of a product that does not fit at all
+    // intended: another text than that of a product that does not fit at all
+    if (product.isNegative() && !(signsDiffer && isMostNegative(product.getData())))
         raiseArithmetic("overflow.");
-    }
-    return signsDiffer ? product.negate() : product;
+    if (signsDiffer && !product.isNegative() && !product.isZero())
+        product = product.negate();
+    return product;
 }
 
 BigInt BigInt::negate() const

@@ -7,7 +7,6 @@
 #include <QtGlobal>
 
 #include <array>
-#include <utility>
 
 namespace dravolin {
 
@@ -203,7 +202,9 @@ private:
     [[nodiscard]] bool isOne() const { return m_dataLength == 1 && m_data[0] == 1; }
     [[nodiscard]] bool isEven() const { return (m_data[0] & 1U) == 0; }
     void trim() const;
-    [[nodiscard]] std::pair<BigInt, BigInt> divideWithRemainder(const BigInt &other) const;
+    static void divideMagnitudes(const BigInt &dividend, const BigInt &divisor, BigInt &quotient,
+                                 BigInt &remainder);
+    void divideInto(const BigInt &other, BigInt &quotient, BigInt &remainder) const;
 
     // bitCount() trims the length of a value that it otherwise only reads.
     mutable qint32 m_dataLength = 1;

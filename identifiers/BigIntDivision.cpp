@@ -14,8 +14,8 @@ namespace {
 constexpr quint64 digitLimit = 0x10000000;
 
 /// Step D3. partTop points at the highest word of the current part; first and second are the divisor's two
-/// highest words, normalised. The digit is the true one or at most two above it; only at the limit it can be
-/// one below.
+/// highest words, normalised. The digit is the true one or a few above it; only at the limit it can be one
+/// below.
 [[nodiscard]] quint64 estimateDigit(const quint32 *partTop, quint32 first, quint32 second)
 {
     const quint64 head = (quint64{partTop[0]} << 32) | partTop[-1];
@@ -32,15 +32,17 @@ constexpr quint64 digitLimit = 0x10000000;
 bool subtractMultiple(quint32 *part, const quint32 *divisor, qint32 size, quint32 digit)
 {
     quint64 carry = 0;
+    quint64 borrow = 0;
     for (qint32 i = 0; i < size; ++i) {
-        carry += quint64{digit} * divisor[i];
-        const quint32 product = words::low(carry);
-        carry = (carry >> 32) + (part[i] < product ? 1 : 0);
-        part[i] -= product;
+        const quint64 product = quint64{digit} * divisor[i] + carry;
+        const quint64 difference = quint64{part[i]} - words::low(product) - borrow;
+        part[i] = words::low(difference);
+        carry = product >> 32;
+        borrow = difference >> 63;
     }
-    const bool isBelowZero = part[size] < carry;
-    part[size] -= words::low(carry);
-    return isBelowZero;
+    const quint64 difference = quint64{part[size]} - carry - borrow;
+    part[size] = words::low(difference);
+    return difference >> 63 != 0;
 }
 
 /// part += divisor after a subtraction that went below zero; whether it is back at zero or above.
@@ -80,12 +82,14 @@ void BigInt::singleByteDivideBi2OutQuotientOutRemainder(const BigInt &bi1, const
     const quint32 divisor = bi2.getDataAtIndex(0);
     if (divisor == 0)
         words::raiseArithmetic("Division by zero.");
-    BigInt quotient = initWithBigInt(bi1);
-    BigInt remainder;
-    remainder.m_data[0] = words::divide(quotient.m_data.data(), quotient.m_dataLength, divisor);
-    quotient.m_dataLength = std::max(words::trimmedLength(quotient.m_data.data(), quotient.m_dataLength), 1);
-    outQuotient = quotient;
-    outRemainder = remainder;
+    const qint32 length = bi1.m_dataLength;
+    outQuotient = bi1;
+    std::fill(outQuotient.m_data.begin() + std::max(length, 0), outQuotient.m_data.end(), 0U);
+    outRemainder = BigInt();
+    outRemainder.m_dataLength = std::min(length, 1);
+    outRemainder.m_data[0] = words::divide(outQuotient.m_data.data(), length, divisor);
+    outQuotient.m_dataLength = std::max(length, 1);
+    outQuotient.trim();
 }
 
 void BigInt::multiByteDivideBi2OutQuotientOutRemainder(const BigInt &bi1, const BigInt &bi2,
@@ -97,58 +101,69 @@ void BigInt::multiByteDivideBi2OutQuotientOutRemainder(const BigInt &bi1, const 
         return;
     }
     // Plain unsigned words: the running remainder takes one more than a value has.
-    std::array<quint32, maxLength + 1> running{};
-    std::array<quint32, maxLength> divisor = bi2.m_data;
     const qint32 length = std::max(bi1.m_dataLength, 0);
+    std::array<quint32, maxLength + 1> running; // length + 1 words
+    std::array<quint32, maxLength> divisor;     // size words
     std::copy_n(bi1.m_data.begin(), length, running.begin());
+    running[static_cast<size_t>(length)] = 0;
+    std::copy_n(bi2.m_data.begin(), size, divisor.begin());
     const qint32 shift = std::countl_zero(divisor[static_cast<size_t>(size - 1)]);
     shiftLeftWithSizeOfBits(running.data(), length + 1, shift);
     shiftLeftWithSizeOfBits(divisor.data(), size, shift);
 
-    BigInt quotient;
-    quotient.m_dataLength = std::max(length + 1 - size, 1);
+    outQuotient = BigInt();
     // intended: each part begins where the digit before ended, so a word that a digit one short has left
     // above it stays where it is and is part of the remainder
     for (qint32 i = length - size; i >= 0; --i)
-        quotient.setDataAtIndex(divideStep(running.data() + i, divisor.data(), size), i);
-    quotient.trim();
+        outQuotient.setDataAtIndex(divideStep(running.data() + i, divisor.data(), size), i);
+    outQuotient.m_dataLength = std::max(length + 1 - size, 1);
+    outQuotient.trim();
 
-    BigInt remainder;
     shiftRightWithSizeOfBits(running.data(), length + 1, shift);
-    std::copy_n(running.begin(), length, remainder.m_data.begin());
-    remainder.m_dataLength = std::max(length, 1);
-    remainder.trim();
-    outQuotient = quotient;
-    outRemainder = remainder;
+    outRemainder = BigInt();
+    std::copy_n(running.begin(), length, outRemainder.m_data.begin());
+    outRemainder.m_dataLength = std::max(length, 1);
+    outRemainder.trim();
 }
 
-std::pair<BigInt, BigInt> BigInt::divideWithRemainder(const BigInt &other) const
+void BigInt::divideMagnitudes(const BigInt &dividend, const BigInt &divisor, BigInt &quotient,
+                              BigInt &remainder)
 {
-    const BigInt dividend = abs();
-    const BigInt divisor = other.abs();
     if (dividend.lessThan(divisor))
-        return {BigInt(), *this};
-    std::pair<BigInt, BigInt> result;
-    auto &[quotient, remainder] = result;
-    if (divisor.m_dataLength == 1)
+        remainder = dividend;
+    else if (divisor.m_dataLength == 1)
         singleByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
     else
         multiByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
+}
+
+void BigInt::divideInto(const BigInt &other, BigInt &quotient, BigInt &remainder) const
+{
+    if (!isNegative() && !other.isNegative()) {
+        divideMagnitudes(*this, other, quotient, remainder);
+        return;
+    }
+    divideMagnitudes(abs(), other.abs(), quotient, remainder);
     if (isNegative())
         remainder = remainder.negate();
     if (isNegative() != other.isNegative())
         quotient = quotient.negate();
-    return result;
 }
 
 BigInt BigInt::divide(const BigInt &other) const
 {
-    return divideWithRemainder(other).first;
+    BigInt quotient;
+    BigInt remainder;
+    divideInto(other, quotient, remainder);
+    return quotient;
 }
 
 BigInt BigInt::mod(const BigInt &other) const
 {
-    return divideWithRemainder(other).second;
+    BigInt quotient;
+    BigInt remainder;
+    divideInto(other, quotient, remainder);
+    return remainder;
 }
 
 BigInt BigInt::gcd(const BigInt &other) const
