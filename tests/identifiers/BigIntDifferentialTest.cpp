@@ -12,20 +12,6 @@ namespace {
 constexpr int rounds = 5000;
 constexpr quint32 limit = 0x10000000;
 
-/// The divisor's magnitude has two words and the quotient a word at which a digit may be cut short.
-[[nodiscard]] bool mayMeetTheLimit(const Reference &dividend, const Reference &divisor)
-{
-    if (divisor.bits() <= 32)
-        return false;
-    Reference quotient;
-    mpz_tdiv_q(quotient.get(), dividend.get(), divisor.get());
-    for (qint32 i = 0; i <= quotient.bits() / 32; ++i) {
-        if (quotient.word(i) == limit)
-            return true;
-    }
-    return false;
-}
-
 struct Division
 {
     Reference quotient;

@@ -108,6 +108,19 @@ BigInt withLength(const BigInt &value, qint32 length)
     return result;
 }
 
+bool mayMeetTheLimit(const Reference &dividend, const Reference &divisor)
+{
+    if (divisor.bits() <= 32)
+        return false;
+    Reference quotient;
+    mpz_tdiv_q(quotient.get(), dividend.get(), divisor.get());
+    for (qint32 i = 0; i <= quotient.bits() / 32; ++i) {
+        if (quotient.word(i) == 0x10000000U)
+            return true;
+    }
+    return false;
+}
+
 quint32 Operands::word()
 {
     switch (below(5)) {

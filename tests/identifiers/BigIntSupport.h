@@ -7,8 +7,8 @@
 #include <QByteArray>
 #include <QList>
 
-#include <initializer_list>
 #include <random>
+#include <utility>
 
 namespace dravolin::test {
 
@@ -64,6 +64,10 @@ private:
 /// The image when the value is in range, else the error.
 [[nodiscard]] QByteArray imageOrError(const Reference &value, const QByteArray &error);
 
+/// Whether the divisor's magnitude has two words or more and the quotient a word of 2^28: then a digit may be
+/// cut short and neither quotient nor remainder is that of the textbook.
+[[nodiscard]] bool mayMeetTheLimit(const Reference &dividend, const Reference &divisor);
+
 /// Seeded operands, dense where words begin and end.
 class Operands
 {
@@ -92,7 +96,7 @@ public:
     {
     };
 
-    ScriptedSource(std::initializer_list<quint32> words) : m_words(words) {}
+    explicit ScriptedSource(QList<quint32> words) : m_words(std::move(words)) {}
 
     quint32 nextWord() override;
     [[nodiscard]] qsizetype left() const { return m_words.size(); }
