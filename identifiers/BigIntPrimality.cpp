@@ -87,6 +87,7 @@ struct Factors
 }
 
 /// The running values of a Lucas sequence: U, V, the V that follows it and Q^index, all modulo n.
+// intended: doublings by shiftLeft(1), which lose the top bit of a word that is full
 class LucasSequence
 {
 public:
@@ -259,7 +260,7 @@ bool BigInt::rabinMillerTestWithConfidence(qint32 rounds, RandomSource &source) 
     for (qint32 round = 0; round < rounds; ++round) {
         const BigInt base = randomBase(bits, source);
         const BigInt common = base.gcd(n);
-        // intended: a common factor of more than one word does not end the test
+        // A longer common factor is left to the strong test, which it fails.
         if (common.m_dataLength == 1 && !common.isOne())
             return false;
         if (!passesStrongTest(n, base))
