@@ -33,8 +33,17 @@ using Words = std::array<quint32, BigInt::maxLength>;
     return copy.data();
 }
 
-/// product = left * right in 70 words, all zero before. The shorter factor goes row by row, the longer one is
-/// the row.
+/// Stores what is carried out of a row.
+void storeCarry(quint32 *product, qint32 index, quint64 carry)
+{
+    for (; carry != 0; carry >>= 32, ++index) {
+        if (index >= BigInt::maxLength)
+            raiseArithmetic("Multiplication overflow.");
+        product[index] = low(carry);
+    }
+}
+
+/// product = left * right in 70 words, all zero before. The longer factor is the row.
 void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, const quint32 *right,
                    qint32 rightLength)
 {
@@ -45,16 +54,12 @@ void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, con
         std::swap(left, right);
         std::swap(leftLength, rightLength);
     }
-    for (qint32 i = 0; i < leftLength; ++i) {
-        if (left[i] == 0)
-            continue;
-        const quint32 carry = words::addMultiple(product + i, right, rightLength, left[i]);
-        if (carry == 0)
-            continue;
-        if (i + rightLength >= BigInt::maxLength)
-            raiseArithmetic("Multiplication overflow.");
-        product[i + rightLength] = carry;
-    }
+    qint32 i = 0;
+    for (; i + 1 < leftLength; i += 2)
+        storeCarry(product, i + rightLength,
+                   words::addTwoMultiples(product + i, right, rightLength, left[i], left[i + 1]));
+    if (i < leftLength)
+        storeCarry(product, i + rightLength, words::addMultiple(product + i, right, rightLength, left[i]));
 }
 
 } // namespace

@@ -84,10 +84,9 @@ public:
     /// "overflow.", except that -2^2239 itself is a result.
     [[nodiscard]] BigInt multiply(const BigInt &other) const;
     /// x / y rounded towards zero; "Division by zero.". The most negative value on either side: "Overflow in
-    /// negation.". Quotients by two words and more are those of the division below, with what it says about
-    /// digits.
+    /// negation.". By two words and more it is the division below, with what it says about digits.
     [[nodiscard]] BigInt divide(const BigInt &other) const;
-    /// x - y * (x / y), with the sign of x; errors as divide().
+    /// The remainder of that division, with the sign of x; errors as divide().
     [[nodiscard]] BigInt mod(const BigInt &other) const;
     /// -x; "Overflow in negation." for the most negative value.
     [[nodiscard]] BigInt negate() const;

@@ -103,6 +103,26 @@ inline quint32 addMultiple(quint32 *sum, const quint32 *row, qint32 size, quint3
     return low(carry);
 }
 
+/// sum += (lowFactor + highFactor * b) * row, where the words above sum are zero; the result is what is
+/// carried out, of two words. Two rows at once take little longer than one, as their carries do not wait for
+/// each other.
+inline quint64 addTwoMultiples(quint32 *sum, const quint32 *row, qint32 size, quint32 lowFactor,
+                               quint32 highFactor)
+{
+    quint64 lowCarry = 0;
+    quint64 highCarry = 0;
+    quint32 wordBefore = 0;
+    for (qint32 i = 0; i < size; ++i) {
+        lowCarry += quint64{lowFactor} * row[i] + sum[i];
+        highCarry += quint64{highFactor} * wordBefore + low(lowCarry);
+        sum[i] = low(highCarry);
+        wordBefore = row[i];
+        lowCarry >>= 32;
+        highCarry >>= 32;
+    }
+    return quint64{highFactor} * wordBefore + lowCarry + highCarry;
+}
+
 /// number /= divisor; the result is the remainder.
 inline quint32 divide(quint32 *number, qint32 size, quint32 divisor)
 {

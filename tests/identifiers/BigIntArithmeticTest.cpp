@@ -70,6 +70,10 @@ private Q_SLOTS:
         QCOMPARE(errorOf([] { return mostPositive().multiply(number(3)); }), storeOverflow);
         QCOMPARE(errorOf([] { return mostPositive().multiply(mostPositive()); }), storeOverflow);
         QCOMPARE(errorOf([] { return mostPositive().multiply(mostNegative()); }), storeOverflow);
+        // 2 and 69 words: the carry of the only two rows goes to words 69 and 70.
+        QCOMPARE(
+            errorOf([] { return hex("ffffffffffffffff").multiply(powerOfTwo(2208).subtract(number(1))); }),
+            storeOverflow);
         // The signs do not decide which of the two it is.
         QCOMPARE(errorOf([] { return mostPositive().multiply(number(-2)); }), productOverflow);
         QCOMPARE(errorOf([] { return mostPositive().multiply(number(-3)); }), storeOverflow);
