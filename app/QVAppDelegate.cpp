@@ -1,0 +1,27 @@
+#include "app/QVAppDelegate.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+
+namespace dravolin {
+
+void QVAppDelegate::applicationDidFinishLaunching()
+{
+    m_controller = std::make_unique<MainController>(
+        AppPorts{AppPaths::forExecutable(QCoreApplication::applicationFilePath()), m_jobs, m_uuids, m_presenter,
+                 Delays()});
+    QObject::connect(m_controller.get(), &MainController::closed, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
+    m_controller->initAndShow();
+}
+
+void QVAppDelegate::applicationWillTerminate(int code)
+{
+    if (!m_controller->runIsUnderWay())
+        return;
+    m_controller->closeGate();
+    std::_Exit(code);
+}
+
+} // namespace dravolin

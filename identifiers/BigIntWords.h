@@ -1,0 +1,110 @@
+#pragma once
+
+// Natural numbers as rows of 32-bit words, least significant first: what BigInt's sources share. Sizes are in
+// words; a size below 1 is an empty row.
+
+#include "identifiers/BigIntError.h"
+
+#include <QtGlobal>
+
+#include <limits>
+
+namespace dravolin::words {
+
+inline constexpr quint64 base = quint64{1} << 32;
+inline constexpr quint32 largest = std::numeric_limits<quint32>::max();
+inline constexpr quint32 topBit = 0x80000000U;
+
+[[noreturn]] inline void raiseArithmetic(const char *reason)
+{
+    throw BigIntError("ArithmeticException", reason);
+}
+
+[[nodiscard]] inline quint32 low(quint64 value)
+{
+    return static_cast<quint32>(value);
+}
+
+[[nodiscard]] inline quint32 high(quint64 value)
+{
+    return static_cast<quint32>(value >> 32);
+}
+
+/// The size without high zero words, but not taken below 1.
+[[nodiscard]] inline qint32 trimmedLength(const quint32 *words, qint32 size)
+{
+    while (size > 1 && words[size - 1] == 0)
+        --size;
+    return size;
+}
+
+/// -1, 0 or 1 for left below, equal to, above right.
+[[nodiscard]] inline int compare(const quint32 *left, const quint32 *right, qint32 size)
+{
+    for (qint32 i = size - 1; i >= 0; --i) {
+        if (left[i] != right[i])
+            return left[i] < right[i] ? -1 : 1;
+    }
+    return 0;
+}
+
+/// Two's complement in place; the value that has only its top bit set stays as it is.
+inline void negate(quint32 *words, qint32 size)
+{
+    quint64 carry = 1;
+    for (qint32 i = 0; i < size; ++i) {
+        carry += low(~quint64{words[i]});
+        words[i] = low(carry);
+        carry >>= 32;
+    }
+}
+
+/// left -= right; the result is the borrow, 0 or 1.
+inline quint32 subtract(quint32 *left, const quint32 *right, qint32 size)
+{
+    quint64 borrow = 0;
+    for (qint32 i = 0; i < size; ++i) {
+        const quint64 difference = quint64{left[i]} - right[i] - borrow;
+        left[i] = low(difference);
+        borrow = difference >> 63;
+    }
+    return low(borrow);
+}
+
+/// left += right; the result is the carry, 0 or 1.
+inline quint32 add(quint32 *left, const quint32 *right, qint32 size)
+{
+    quint64 carry = 0;
+    for (qint32 i = 0; i < size; ++i) {
+        carry += quint64{left[i]} + right[i];
+        left[i] = low(carry);
+        carry >>= 32;
+    }
+    return low(carry);
+}
+
+/// sum += factor * row; the result is the word carried out.
+inline quint32 addMultiple(quint32 *sum, const quint32 *row, qint32 size, quint32 factor)
+{
+    quint64 carry = 0;
+    for (qint32 i = 0; i < size; ++i) {
+        carry += quint64{factor} * row[i] + sum[i];
+        sum[i] = low(carry);
+        carry >>= 32;
+    }
+    return low(carry);
+}
+
+/// number /= divisor; the result is the remainder.
+inline quint32 divide(quint32 *number, qint32 size, quint32 divisor)
+{
+    quint64 rest = 0;
+    for (qint32 i = size - 1; i >= 0; --i) {
+        rest = (rest << 32) | number[i];
+        number[i] = low(rest / divisor);
+        rest %= divisor;
+    }
+    return low(rest);
+}
+
+} // namespace dravolin::words
