@@ -8,7 +8,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QProcess>
-#include <QUrl>
 
 namespace dravolin {
 
@@ -47,13 +46,18 @@ void Opener::openUrl(const QString &url)
 
 void Opener::reveal(const QString &path, std::function<void()> then)
 {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        openUrl(parentPath(path));
+        then();
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
-    const QString url = QString::fromLatin1(QUrl::toPercentEncoding(path, "/").prepend("file://"));
+    const QString url = QString::fromLatin1(toBytes(path).toPercentEncoding("/").prepend("file://"));
     call.setArguments({QStringList{url}, QString()});
-    auto *answer = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(call, answerTimeout), this);
+    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(call, answerTimeout), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
                      [this, answer, path, then = std::move(then)] {
                          answer->deleteLater();
