@@ -14,7 +14,7 @@ import unittest
 
 from outside.configuration import asked_for, read_rules
 from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge
-from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, Home, Program, take_picture
+from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture
 from outside.verdict import expected_report, problems, wrong_report
 from outside.waiting import wait_until
 
@@ -127,10 +127,12 @@ class MainJob(unittest.TestCase):
         self.assertEqual(self.home.stored_root(), ROOT)
 
     def test_saves_the_default_configuration_and_finds_it_at_the_next_start(self):
+        browser = self.enterContext(FileBrowser())
         program = self.start()
         program.answer(DEFAULT_CONFIGURATION, "Save copy to Configuration folder & Quit")
         self.assertEqual(program.wait_for_end(), 0)
         saved = self.home.configurations / "AnonymizationConfiguration_Default.txt"
+        self.assertEqual(browser.shown(), [saved.as_uri()])
         self.assertEqual(saved.read_bytes(), (EXECUTABLE.parent / "resources" / DEFAULT).read_bytes())
 
         program = self.start()

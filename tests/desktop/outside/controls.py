@@ -66,10 +66,9 @@ class Control:
         """What a person reads in it: the content of a text control, else the name."""
         if self.role in LABEL_ROLES:  # an empty label has the name of its caption
             return "" if plain(self.name) in self.captions else self.name
-        interface = self.node.get_text_iface()
-        if interface is None:
+        if "Text" not in self.node.get_interfaces():
             return self.name
-        return Atspi.Text.get_text(interface, 0, Atspi.Text.get_character_count(interface))
+        return Atspi.Text.get_text(self.node, 0, Atspi.Text.get_character_count(self.node))
 
     @property
     def box(self):

@@ -4,7 +4,7 @@ import shutil
 from collections import namedtuple
 
 from .configuration import asked_for, read_rules
-from .program import OVERWRITE, take_picture
+from .program import OVERWRITE
 from .study import make_study
 from .verdict import expected_report, problems, wrong_report
 
@@ -33,7 +33,7 @@ def default_rules(executable):
     return read_rules(pathlib.Path(executable).resolve().parent / "resources" / DEFAULT)
 
 
-def run_and_judge(program, study, rules, picture=None):
+def run_and_judge(program, study, rules):
     """Drops the whole study to be overwritten, with new instance UIDs, and judges what comes of it."""
     program.tick("Overwrite source files")
     program.tick("Generate new instance UIDs")
@@ -41,8 +41,6 @@ def run_and_judge(program, study, rules, picture=None):
     program.answer(OVERWRITE, "Ok, Overwrite source data")
     summary = program.wait_for_summary()
     log = program.log_window_text()
-    if picture:
-        take_picture(picture)
     asked = asked_for(rules, CASE, program.read("UID root"))
     wrong, kept = problems(study.before, study.after, study.files, asked, new_instances=True)
     wrong += wrong_report(summary, log, expected_report(study.tried), ["./disc/DICOMDIR"])

@@ -6,7 +6,7 @@ import sys
 import time
 
 from . import mouse
-from .controls import Application, Role, settled
+from .controls import Application, Role, State, settled
 from .waiting import Failure, wait_until
 
 WINDOW = "Dravolin"
@@ -153,6 +153,10 @@ class Program:
     def has_log_window(self):
         return self.application.window(LOG_WINDOW) is not None
 
+    def bring_to_front(self, title):
+        subprocess.run(["wmctrl", "-F", "-a", title], check=True, timeout=30)
+        wait_until(lambda: settled(lambda: self.application.window(title).has(State.ACTIVE)), f"'{title}' in front")
+
     def close(self):
         """What the window manager does for the button in the corner."""
         subprocess.run(["wmctrl", "-F", "-c", WINDOW], check=True, timeout=30)
@@ -163,6 +167,26 @@ class Program:
             return self.process.wait(timeout=seconds)
         except subprocess.TimeoutExpired:
             raise Failure(f"the program still runs {seconds} s after its window was closed") from None
+
+
+class FileBrowser:
+    """A file browser that only tells what it was asked to show."""
+
+    def __enter__(self):
+        script = pathlib.Path(__file__).with_name("file_browser.py")
+        self.process = subprocess.Popen([sys.executable, str(script)], stdout=subprocess.PIPE, text=True)
+        if self.process.stdout.readline() != "ready\n":
+            raise Failure("the session bus has no place for a file browser")
+        return self
+
+    def __exit__(self, *_):
+        self.process.kill()
+        self.process.communicate()
+
+    def shown(self):
+        """The addresses it was asked to show; to be called once, at the end."""
+        self.process.terminate()
+        return self.process.communicate(timeout=20)[0].split()
 
 
 def steady_middle(control):
@@ -177,4 +201,5 @@ def steady_middle(control):
 
 def take_picture(path):
     """A picture of the whole screen."""
+    time.sleep(0.2)  # what has just come to the front is still being drawn
     subprocess.run(["import", "-window", "root", str(path)], check=True, timeout=60)
