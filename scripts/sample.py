@@ -65,7 +65,7 @@ def report(study, outcome):
     say(indent(outcome.log))
     if outcome.kept:
         say()
-        say("Kept, because the configuration does not list the attribute:")
+        say("Still there, in attributes that the configuration does not list:")
         for line in outcome.kept:
             say("  " + line)
     if outcome.wrong:
@@ -76,7 +76,7 @@ def report(study, outcome):
 
 
 def main():
-    executable, results = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    executable, results = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     shutil.rmtree(results, ignore_errors=True)
     results.mkdir(parents=True)
     with tempfile.TemporaryDirectory() as folder:

@@ -85,8 +85,10 @@ class MainJob(unittest.TestCase):
         self.assertEqual(contents(study.after), contents(study.before), "changed although the user said no")
         self.assertEqual((program.status, program.running()), (status, False))
 
+        x, y, width, _ = program.window.box
         outcome = run_and_judge(program, study, default_rules(EXECUTABLE))
         self.assertEqual(outcome.wrong, [])
+        self.assertEqual(program.window.box, (x, y, width, 696), "the window grows downwards")
         self.assertFalse(list(study.after.rglob("*.bak")), "backups although the source is overwritten")
 
         root = program.read("UID root")

@@ -147,9 +147,6 @@ class Application:
         return settled(lambda: next((window for window in self.windows()
                                      if window.name == title and window.role not in QUESTION_ROLES), None))
 
-    def get_window(self, title, seconds=30):
-        return wait_until(lambda: self.window(title), f"a window titled '{title}'", seconds)
-
     def questions(self):
         """The texts of all questions that show, one string for each."""
         return settled(lambda: [said(window) for window in self.windows() if window.role in QUESTION_ROLES]) or []
@@ -158,9 +155,6 @@ class Application:
         """The question that says this text, now; None when there is none."""
         return settled(lambda: next((window for window in self.windows()
                                      if window.role in QUESTION_ROLES and text in said(window)), None))
-
-    def get_question(self, text, seconds=20):
-        return wait_until(lambda: self.question(text), f"a question that says '{text}'", seconds)
 
 
 def said(window):

@@ -57,11 +57,14 @@ class Program:
             self.process.kill()
             self.process.wait()
 
+    def must_run(self):
+        if self.process.poll() is not None:
+            raise Failure(f"the program has ended by itself, with the status {self.process.returncode}")
+        return True
+
     @property
     def window(self):
-        if self.process.poll() is not None:
-            raise Failure(f"the program has ended by itself, with {self.process.returncode}")
-        return self.application.get_window(WINDOW)
+        return wait_until(lambda: self.must_run() and self.application.window(WINDOW), "the main window")
 
     def control(self, name, roles=None):
         return self.window.get(name, roles)
@@ -110,7 +113,7 @@ class Program:
 
     def answer(self, text, button):
         """Waits for the question that says this text and presses the button with that name."""
-        question = self.application.get_question(text)
+        question = wait_until(lambda: self.must_run() and self.application.question(text), f"the question '{text}'")
         mouse.click(steady_middle(question.get(button, (Role.PUSH_BUTTON,))))
         wait_until(lambda: not self.application.question(text), f"the question '{text}' gone after '{button}'")
 
@@ -148,10 +151,8 @@ class Program:
         return wait_until(summary, "the summary of the run", seconds)
 
     def log_window_text(self):
-        return self.application.get_window(LOG_WINDOW).get("Log").text
-
-    def has_log_window(self):
-        return self.application.window(LOG_WINDOW) is not None
+        window = wait_until(lambda: self.must_run() and self.application.window(LOG_WINDOW), "the log window")
+        return window.get("Log").text
 
     def bring_to_front(self, title):
         subprocess.run(["wmctrl", "-F", "-a", title], check=True, timeout=30)

@@ -52,8 +52,8 @@ def spellings(text):
 def remaining(folder, files, asked):
     """(wrong, kept): the identifying texts that are still in any file of the folder, as lines for a person.
 
-    A text that stands only in attributes that were not asked for is kept rightly. DICOM directories and the text file are
-    not looked at: the program does not anonymize them.
+    A text that stands only in attributes that were not asked for is kept rightly. The DICOMDIR and the text file
+    are not looked at: the program does not anonymize them.
     """
     wrong, kept = [], []
     for place in sorted(path for path in folder.rglob("*") if path.is_file()):
@@ -110,7 +110,7 @@ def expected_report(*trees):
 
 
 def wrong_report(summary, log, expected, directories):
-    """What is wrong with the status text and the log window's text. `directories` are the DICOMDIR paths it must name."""
+    """What is wrong with the status text and the log window's text, which must name the DICOMDIR files."""
     if summary != expected.summary:
         yield f"the summary is {summary!r} and not {expected.summary!r}"
     note = DICOMDIR_NOTE + "".join(path + "\n" for path in directories) + "\n"
