@@ -2,6 +2,7 @@
 
 #include "config/FileSystem.h"
 #include "identifiers/SystemLog.h"
+#include "run/jobs/JobRunner.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -13,6 +14,7 @@ namespace dravolin {
 
 namespace {
 
+constexpr int startTimeout = 1000;  // milliseconds for a process to be created, which takes a few
 constexpr int answerTimeout = 2000; // milliseconds for a file browser to start and to answer
 
 void logFailure(const QString &url)
@@ -22,7 +24,9 @@ void logFailure(const QString &url)
 
 } // namespace
 
-Opener::Opener(QObject *parent) : QObject(parent) {}
+Opener::Opener(QObject *parent) : QObject(parent)
+{
+}
 
 void Opener::openUrl(const QString &url)
 {
@@ -30,18 +34,22 @@ void Opener::openUrl(const QString &url)
     auto *process = new QProcess;
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setStandardInputFile(QProcess::nullDevice());
-    QObject::connect(process, &QProcess::errorOccurred, process, [process, url](QProcess::ProcessError error) {
-        if (error != QProcess::FailedToStart)
-            return;
-        logFailure(url);
-        process->deleteLater();
-    });
-    QObject::connect(process, &QProcess::finished, process, [process, url](int exitCode, QProcess::ExitStatus) {
-        if (exitCode != 0)
-            logFailure(url);
-        process->deleteLater();
-    });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, url](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         logFailure(url);
+                         process->deleteLater();
+                     });
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, url](int exitCode, QProcess::ExitStatus) {
+                         if (exitCode != 0)
+                             logFailure(url);
+                         process->deleteLater();
+                     });
+    const std::lock_guard lock(processStartMutex());
     process->start(QStringLiteral("xdg-open"), {url});
+    process->waitForStarted(startTimeout);
 }
 
 void Opener::reveal(const QString &path, std::function<void()> then)

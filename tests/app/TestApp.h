@@ -26,9 +26,9 @@ public:
 // HOME and the XDG folders of this process point into `folder` from now on; call it before anything else.
 void useHome(const QString &folder);
 
-// A controller with its real window off screen, over a fake job runner, scripted questions and a temporary tree
-// that holds one configuration ("Test") on the desktop and the pictures of the application. The window is not
-// shown before start().
+// A controller with its real window off screen, over a fake job runner, scripted questions and a temporary
+// tree that holds one configuration ("Test") on the desktop and the pictures of the application. The window
+// is not shown before start().
 class TestApp
 {
 public:

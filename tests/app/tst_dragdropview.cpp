@@ -66,15 +66,16 @@ void DragDropViewTest::drops_data()
     QTest::addColumn<bool>("handedOn");
     const QString folder = QStringLiteral("/data/study");
     QTest::newRow("a folder") << QStringList{folder} << true << true;
-    QTest::newRow("a single png does nothing") << QStringList{QStringLiteral("/data/a.png")} << false << false;
+    QTest::newRow("a single png does nothing")
+        << QStringList{QStringLiteral("/data/a.png")} << false << false;
     QTest::newRow("extension in upper case") << QStringList{QStringLiteral("/data/a.JPG")} << false << false;
     QTest::newRow("a jpg first, a folder second")
         << QStringList{QStringLiteral("/data/a.jpg"), folder} << false << true;
     QTest::newRow("a folder first, pictures later")
         << QStringList{folder, QStringLiteral("/data/a.jpg"), QStringLiteral("/data/b.png")} << true << true;
     QTest::newRow("an empty list") << QStringList() << true << true;
-    QTest::newRow("a folder with a picture's extension") << QStringList{QStringLiteral("/data/study.pic")}
-                                                         << false << false;
+    QTest::newRow("a folder with a picture's extension")
+        << QStringList{QStringLiteral("/data/study.pic")} << false << false;
     QTest::newRow("no extension") << QStringList{QStringLiteral("/data/png")} << true << true;
     QTest::newRow("names with quotes, blanks, percent and line breaks")
         << QStringList{QStringLiteral("/data/a \"b\" 'c' $d `e` %20 [x] \n f ä")} << true << true;
@@ -96,8 +97,8 @@ void DragDropViewTest::everyPictureExtensionIsTold_data()
 {
     QTest::addColumn<QString>("extension");
     for (const char *extension :
-         {"png", "jpg", "jpeg", "tiff", "pdf", "pic", "ps", "bmp", "pct", "pict", "eps", "mac",
-          "pnt", "ico", "psd", "icns", "nef", "dng", "tif", "jpf", "jp2", "gif", "jfif"})
+         {"png", "jpg", "jpeg", "tiff", "pdf", "pic", "ps",  "bmp", "pct", "pict", "eps", "mac",
+          "pnt", "ico", "psd",  "icns", "nef", "dng", "tif", "jpf", "jp2", "gif",  "jfif"})
         QTest::newRow(extension) << QString::fromLatin1(extension);
 }
 
@@ -181,7 +182,8 @@ void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused()
 void DragDropViewTest::leavingAndDroppingClearTheHighlight()
 {
     const auto data = fileNames({QStringLiteral("/data")});
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton,
+                          Qt::NoModifier);
     enter.setDropAction(Qt::MoveAction);
     QApplication::sendEvent(m_view.get(), &enter);
     QCOMPARE(enter.dropAction(), Qt::CopyAction);

@@ -129,9 +129,10 @@ void MainControllerTest::windowDuringARun()
         QVERIFY(edit->isEnabled());
     QVERIFY(c.spIndicator->isSpinning());
     QVERIFY(c.horLine->isVisible());
-    QCOMPARE(c.outputTextField->toolTip(),
-             QStringLiteral("Processing may take a *very* long time...\n\nThe task is running on a background "
-                            "thread\nso you can continue to use your computer\n(stop watching this)."));
+    QCOMPARE(
+        c.outputTextField->toolTip(),
+        QStringLiteral("Processing may take a *very* long time...\n\nThe task is running on a background "
+                       "thread\nso you can continue to use your computer\n(stop watching this)."));
     QCOMPARE(m_app->status(), QStringLiteral("\nWorking... 0/1 folders"));
     m_jobMayEnd.release();
     QTRY_COMPARE(m_jobBegan.available(), 2);
@@ -203,11 +204,12 @@ void MainControllerTest::laterLogReplacesTheEarlierOne()
     QVERIFY(!first);
     QCOMPARE(m_app->controller->logWinController()->logTextView()->toPlainText(), QStringLiteral("two"));
 
-    const std::unique_ptr<QThread> other(QThread::create(
-        [this] { m_app->controller->showLogWindowWithLogText(QStringLiteral("three")); }));
+    const std::unique_ptr<QThread> other(
+        QThread::create([this] { m_app->controller->showLogWindowWithLogText(QStringLiteral("three")); }));
     other->start();
     QVERIFY(other->wait(5000)); // it does not wait for the main thread
-    QTRY_COMPARE(m_app->controller->logWinController()->logTextView()->toPlainText(), QStringLiteral("three"));
+    QTRY_COMPARE(m_app->controller->logWinController()->logTextView()->toPlainText(),
+                 QStringLiteral("three"));
 }
 
 void MainControllerTest::refusedQuestionStartsNothing()
@@ -301,7 +303,8 @@ void MainControllerTest::closingEndsTheRunBetweenTwoJobs()
     m_app->controller->window().close();
     QCOMPARE(closed.size(), 1);
     QCOMPARE(QSettings(QStringLiteral("Dravolin"), QStringLiteral("Dravolin"))
-                 .value(QStringLiteral("uidRoot")).toString(),
+                 .value(QStringLiteral("uidRoot"))
+                 .toString(),
              validRoot);
     m_jobMayEnd.release(10);
     m_app->controller.reset(); // closes the gate and waits for the thread

@@ -139,7 +139,8 @@ void MainWindowTest::everyControlHasItsNameForPeople()
     QCOMPARE(c.overWriteSourceCheckbox->text().remove(u'&'), QStringLiteral("Overwrite source files"));
     QCOMPARE(c.prepopulateLUTcheckbox->text().remove(u'&'), QStringLiteral("Construct look-up table"));
     QCOMPARE(c.generateSOPCheckbox->text().remove(u'&'), QStringLiteral("Generate new instance UIDs"));
-    QCOMPARE(c.onlyGenerateSOPCheckbox->text().remove(u'&'), QStringLiteral("Only generate new instance UIDs"));
+    QCOMPARE(c.onlyGenerateSOPCheckbox->text().remove(u'&'),
+             QStringLiteral("Only generate new instance UIDs"));
     QCOMPARE(c.progressBar->accessibleName(), QStringLiteral("Progress"));
     QCOMPARE(c.spIndicator->accessibleName(), QStringLiteral("Busy"));
     QCOMPARE(c.dragDropView->accessibleName(), QStringLiteral("Drop area"));
@@ -233,12 +234,13 @@ void MainWindowTest::noConfigurationGivesTheDefaultAndASheet()
     QCOMPARE(sheet.message, QStringLiteral("Reverting to default anonymization config from "
                                            "'DefaultAnonymizationConfiguration.txt'from the Application "
                                            "Bundle."));
-    QCOMPARE(sheet.informativeText,
-             QStringLiteral("\nThe application looks for 'AnonymizationConfiguration.txt' in 4 locations, in "
-                            "this order:\n\n1- In the Application Bundle itself\n2- On the Desktop\n3- In the "
-                            "folder where the Application Bundle is\n4- In ~/Library/Applications "
-                            "Support/Dravolin/\n\nIf not found in any of those places, it reverts to the "
-                            "default configuration, which may not be what you want.\n\n\n"));
+    QCOMPARE(
+        sheet.informativeText,
+        QStringLiteral("\nThe application looks for 'AnonymizationConfiguration.txt' in 4 locations, in "
+                       "this order:\n\n1- In the Application Bundle itself\n2- On the Desktop\n3- In the "
+                       "folder where the Application Bundle is\n4- In ~/Library/Applications "
+                       "Support/Dravolin/\n\nIf not found in any of those places, it reverts to the "
+                       "default configuration, which may not be what you want.\n\n\n"));
     QCOMPARE(sheet.buttons, QStringList({QStringLiteral("Save copy to Configuration folder & Quit"),
                                          QStringLiteral("Continue")}));
     QCOMPARE(sheet.escape, 1001);
@@ -287,16 +289,17 @@ void MainWindowTest::savedDefaultFallsBackToTheDesktop()
     QCOMPARE(m_app->presenter.alerts.size(), 1);
     const ModalAlert &alert = m_app->presenter.alerts.first();
     QCOMPARE(alert.title, QStringLiteral("Could not access or create config folder"));
-    QCOMPARE(alert.text, QStringLiteral("Failed to access or create the configuration folder at:\n%1\n\nSaving "
-                                        "a copy of the default Configuration to the Desktop instead.\n\n")
-                             .arg(m_app->run.path(QStringLiteral("home/file/Dravolin"))));
+    QCOMPARE(alert.text,
+             QStringLiteral("Failed to access or create the configuration folder at:\n%1\n\nSaving "
+                            "a copy of the default Configuration to the Desktop instead.\n\n")
+                 .arg(m_app->run.path(QStringLiteral("home/file/Dravolin"))));
     QCOMPARE(alert.defaultButton, QStringLiteral("Save to Desktop & Quit"));
     QCOMPARE(alert.alternateButton, QString());
     QTRY_COMPARE(closed.size(), 1);
-    QVERIFY(pathExists(joinPath(m_app->run.paths.desktopFolder,
-                                QStringLiteral("AnonymizationConfiguration_Default.txt"))));
-    QVERIFY(LogCatcher::messages().contains(QStringLiteral(
-        "Could not save default config to configuration folder, saving to desktop instead")));
+    QVERIFY(pathExists(
+        joinPath(m_app->run.paths.desktopFolder, QStringLiteral("AnonymizationConfiguration_Default.txt"))));
+    QVERIFY(LogCatcher::messages().contains(
+        QStringLiteral("Could not save default config to configuration folder, saving to desktop instead")));
 }
 
 void MainWindowTest::storedRootIsRestoredAndChecked()
@@ -344,13 +347,16 @@ void MainWindowTest::typing_data()
     for (const bool inRoot : {true, false}) {
         const char *const where = inRoot ? "root: " : "case: ";
         QTest::addRow("%s%s", where, "a letter at the end vanishes")
-            << inRoot << QStringLiteral("123") << QStringLiteral("a") << QStringLiteral("123") << (inRoot ? invalid : valid);
+            << inRoot << QStringLiteral("123") << QStringLiteral("a") << QStringLiteral("123")
+            << (inRoot ? invalid : valid);
         QTest::addRow("%s%s", where, "a pasted letter in the middle stays")
             << inRoot << QStringLiteral("") << QStringLiteral("1a2") << QStringLiteral("1a2") << invalid;
-        QTest::addRow("%s%s", where, "a dot is let through") << inRoot << QStringLiteral("1") << QStringLiteral(".") << QStringLiteral("1.") << invalid;
+        QTest::addRow("%s%s", where, "a dot is let through")
+            << inRoot << QStringLiteral("1") << QStringLiteral(".") << QStringLiteral("1.") << invalid;
     }
     QTest::newRow("root: becomes valid") << true << QStringLiteral("") << validRoot << validRoot << valid;
-    QTest::newRow("case: digits") << false << QStringLiteral("") << QStringLiteral("0042") << QStringLiteral("0042") << valid;
+    QTest::newRow("case: digits") << false << QStringLiteral("") << QStringLiteral("0042")
+                                  << QStringLiteral("0042") << valid;
 }
 
 void MainWindowTest::typing()
@@ -406,13 +412,17 @@ void MainWindowTest::checkBoxRules_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QChar>("clicked");
     QTest::addColumn<QString>("after");
-    QTest::newRow("generate on clears construction") << QStringLiteral("C") << QChar(u'G') << QStringLiteral("G");
+    QTest::newRow("generate on clears construction")
+        << QStringLiteral("C") << QChar(u'G') << QStringLiteral("G");
     QTest::newRow("generate off clears only") << QStringLiteral("GN") << QChar(u'G') << QStringLiteral("");
-    QTest::newRow("only on sets generate and clears construction") << QStringLiteral("OC") << QChar(u'N') << QStringLiteral("OGN");
+    QTest::newRow("only on sets generate and clears construction")
+        << QStringLiteral("OC") << QChar(u'N') << QStringLiteral("OGN");
     QTest::newRow("only off leaves generate") << QStringLiteral("GN") << QChar(u'N') << QStringLiteral("G");
     QTest::newRow("overwrite on has no rule") << QStringLiteral("C") << QChar(u'O') << QStringLiteral("OC");
-    QTest::newRow("overwrite off has no rule") << QStringLiteral("OGN") << QChar(u'O') << QStringLiteral("GN");
-    QTest::newRow("construction off has no rule") << QStringLiteral("OC") << QChar(u'C') << QStringLiteral("O");
+    QTest::newRow("overwrite off has no rule")
+        << QStringLiteral("OGN") << QChar(u'O') << QStringLiteral("GN");
+    QTest::newRow("construction off has no rule")
+        << QStringLiteral("OC") << QChar(u'C') << QStringLiteral("O");
 }
 
 void MainWindowTest::checkBoxRules()
@@ -526,8 +536,7 @@ void MainWindowTest::webSitePrompt()
     QTest::mouseClick(m_app->controls->webSiteButton, Qt::LeftButton);
     QCOMPARE(m_app->presenter.alerts.size(), 1);
     const ModalAlert &alert = m_app->presenter.alerts.first();
-    QCOMPARE(alert.title,
-             QStringLiteral("Open the web site https://dravolin.example/ in your web browser?"));
+    QCOMPARE(alert.title, QStringLiteral("Open the web site https://dravolin.example/ in your web browser?"));
     QCOMPARE(alert.text, QString());
     QCOMPARE(alert.defaultButton, QStringLiteral("Yes, sure"));
     QCOMPARE(alert.alternateButton, QStringLiteral("No, don't"));

@@ -10,8 +10,8 @@
 
 namespace dravolin::test {
 
-// A JobRunner that starts nothing: it writes down each job, with the script that lies in its folder, and gives
-// what `answer` gives (by default: it ran and printed nothing).
+// A JobRunner that starts nothing: it writes down each job, with the script that lies in its folder, and
+// gives what `answer` gives (by default: it ran and printed nothing).
 class RecordingJobRunner : public JobRunner
 {
 public:
