@@ -36,7 +36,7 @@ void TestNOXUtils::trimsBlanksAndNothingElse_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
     const auto row = [](const char *name, const char16_t *text, const char16_t *expected) {
-        QTest::newRow(name) << QString::fromUtf16(text) << QString::fromUtf16(expected);
+        QTest::newRow(name) << QStringView(text).toString() << QStringView(expected).toString();
     };
     row("two spaces in front and a tab behind", u"  1.2.3\t", u"1.2.3");
     row("empty", u"", u"");

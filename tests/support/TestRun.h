@@ -41,6 +41,9 @@ class TestRun
 {
 public:
     TestRun();
+    ~TestRun();
+    TestRun(const TestRun &) = delete;
+    TestRun &operator=(const TestRun &) = delete;
 
     [[nodiscard]] QString path(const QString &relative) const; // below the temporary tree
     QString makeFolder(const QString &relative);               // with parents; gives its path
