@@ -6,7 +6,6 @@ using namespace dravolin;
 
 namespace {
 
-
 const CaseTexts noTexts;
 const QString uid = QStringLiteral("1.2.3.42");
 
