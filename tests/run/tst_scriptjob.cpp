@@ -1,13 +1,9 @@
 #include "run/jobs/Script.h"
 #include "run/jobs/ScriptJob.h"
-#include "support/TestRun.h"
 #include "support/ScratchFolder.h"
+#include "support/TestRun.h"
 
 #include <QTest>
-
-#include <atomic>
-#include <thread>
-#include <vector>
 
 using namespace dravolin;
 using test::RecordingJobRunner;
@@ -66,7 +62,6 @@ private Q_SLOTS:
     void runsInFoldersWithOddNames();
     void keepsFolderNamesThatTheShellInterpretsFromRunning_data();
     void keepsFolderNamesThatTheShellInterpretsFromRunning();
-    void threadsBesideEachOtherNeverMeetABusyScript();
 
 private:
     [[nodiscard]] QString written(const QString &name) const
@@ -255,27 +250,6 @@ void TestScriptJob::keepsFolderNamesThatTheShellInterpretsFromRunning()
     QCOMPARE(result.output, QString());
     QVERIFY(!pathExists(m_paths.resource(QStringLiteral("arguments"))));
     QCOMPARE(listNames(folder), QStringList());
-}
-
-void TestScriptJob::threadsBesideEachOtherNeverMeetABusyScript()
-{
-    constexpr int threadCount = 4;
-    constexpr int times = 250;
-    std::atomic<int> good = 0;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < threadCount; ++i) {
-        const QString folder = m_scratch->folder(QStringLiteral("t%1").arg(i));
-        threads.emplace_back([this, folder, &good] {
-            for (int time = 0; time < times; ++time) {
-                const QString number = QString::number(time);
-                if (run(folder, QStringLiteral("echo ") + number + redirection).output == number + u'\n')
-                    ++good;
-            }
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
-    QCOMPARE(good.load(), threadCount * times);
 }
 
 QTEST_GUILESS_MAIN(TestScriptJob)
