@@ -1,4 +1,5 @@
 #include "run/jobs/ScriptJob.h"
+#include "support/AsOrdinaryUser.h"
 #include "support/ScratchFolder.h"
 #include "support/TestRun.h"
 
@@ -7,12 +8,12 @@
 #include <sys/prctl.h>
 
 using namespace dravolin;
+using test::AsOrdinaryUser;
 using test::LogCatcher;
 using test::RecordingJobRunner;
 using test::ScratchFolder;
 
-// Jobs that do not start. Tests run as root, too, whom permissions do not stop, so that other obstacles stand
-// for a folder that cannot be written.
+// Jobs that do not start.
 class TestScriptJobFailures : public QObject
 {
     Q_OBJECT
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void startsNothingWithoutAScript_data();
     void startsNothingWithoutAScript();
     void startsNothingWhenThePermissionsCannotBeSet();
+    void startsNothingInAFolderThatMayNotBeWritten_data();
+    void startsNothingInAFolderThatMayNotBeWritten();
     void reportsAShellThatCouldNotBeStarted();
     void leavesTheFileBesideTheFolderWhenNothingRan();
 
@@ -91,6 +94,30 @@ void TestScriptJobFailures::startsNothingWhenThePermissionsCannotBeSet()
     QVERIFY(m_jobs.jobs.isEmpty());
     QCOMPARE(listNames(folder), QStringList{scriptFileName}); // left behind
     QCOMPARE(log.messages(), QStringList());
+}
+
+void TestScriptJobFailures::startsNothingInAFolderThatMayNotBeWritten_data()
+{
+    QTest::addColumn<int>("permissions");
+    QTest::newRow("read-only") << 0555;
+    QTest::newRow("not to be entered") << 0666;
+    QTest::newRow("nothing at all") << 0000;
+}
+
+void TestScriptJobFailures::startsNothingInAFolderThatMayNotBeWritten()
+{
+    QFETCH(const int, permissions);
+    m_scratch.reset();
+    const AsOrdinaryUser user;
+    m_scratch = std::make_unique<ScratchFolder>();
+    const QString folder = m_scratch->folder(QStringLiteral("folder"));
+    QCOMPARE(::chmod(toBytes(folder).constData(), static_cast<mode_t>(permissions)), 0);
+    const ScriptJobResult result = runScriptJob(m_jobs, m_paths, folder, QStringLiteral("commands"));
+    ::chmod(toBytes(folder).constData(), 0777);
+    QVERIFY(!result.ran);
+    QVERIFY(m_jobs.jobs.isEmpty());
+    QCOMPARE(listNames(folder), QStringList());
+    m_scratch.reset();
 }
 
 void TestScriptJobFailures::reportsAShellThatCouldNotBeStarted()

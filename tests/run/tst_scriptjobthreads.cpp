@@ -85,7 +85,7 @@ void TestScriptJobThreads::scriptIsNeverBusyWhileOtherChildrenStart()
     });
     WithoutShell jobs;
     int good = 0;
-    constexpr int times = 200;
+    constexpr int times = 100;
     const QString longScript = QStringLiteral("exit\n") + QString(1000000, u'#'); // takes long to be written
     for (int time = 0; time < times; ++time)
         good += runScriptJob(jobs, m_paths, m_folder, longScript).ran ? 1 : 0;
