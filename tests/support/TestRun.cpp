@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <filesystem>
 #include <mutex>
 
 namespace dravolin::test {
@@ -50,6 +51,12 @@ TestRun::TestRun()
     paths.applicationFolder = path(QStringLiteral("app"));
     paths.desktopFolder = makeFolder(QStringLiteral("home/Desktop"));
     paths.applicationSupportFolders = {makeFolder(QStringLiteral("home/share"))};
+}
+
+TestRun::~TestRun()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(folder.path().toStdString(), ignored);
 }
 
 QString TestRun::path(const QString &relative) const
