@@ -38,7 +38,9 @@ void TestLutDiscovery::namesTablesAfterTheirFiles_data()
     const auto offered = [](const QString &file, const QString &title) {
         QTest::newRow(qPrintable(file)) << file << QStringList(title);
     };
-    const auto ignored = [](const QString &file) { QTest::newRow(qPrintable(file)) << file << QStringList(); };
+    const auto ignored = [](const QString &file) {
+        QTest::newRow(qPrintable(file)) << file << QStringList();
+    };
     offered(QStringLiteral("AnonymizationLUT_PatientID.txt"), QStringLiteral("PatientID"));
     offered(QStringLiteral("ANONYMIZATIONLUT_Site.TXT"), QStringLiteral("Site"));
     offered(QStringLiteral("anonymizationlut_a B.Txt"), QStringLiteral("a B"));
@@ -85,7 +87,8 @@ void TestLutDiscovery::typesAreNotLookedAt()
     const ScratchFolder folder;
     const TitleToPath expected = {
         {QStringLiteral("folder"), folder.folder(QStringLiteral("AnonymizationLUT_folder.txt"))},
-        {QStringLiteral("link"), folder.link(QStringLiteral("AnonymizationLUT_link.txt"), QStringLiteral("none"))},
+        {QStringLiteral("link"),
+         folder.link(QStringLiteral("AnonymizationLUT_link.txt"), QStringLiteral("none"))},
         {QStringLiteral("pipe"), folder.pipe(QStringLiteral("AnonymizationLUT_pipe.txt"))}};
     QCOMPARE(lutsAtPath(folder.path()), expected);
 }
@@ -132,8 +135,9 @@ void TestLutDiscovery::laterPlacesWin()
                                  QStringLiteral("home/Desktop"), QStringLiteral("home/share/Dravolin")};
     for (const QString &folder : folders.first(places))
         run.writeFile(folder + QStringLiteral("/AnonymizationLUT_A.txt"));
-    QCOMPARE(findLuts(run.paths),
-             (TitleToPath{{QStringLiteral("A"), run.path(winner + QStringLiteral("/AnonymizationLUT_A.txt"))}}));
+    QCOMPARE(
+        findLuts(run.paths),
+        (TitleToPath{{QStringLiteral("A"), run.path(winner + QStringLiteral("/AnonymizationLUT_A.txt"))}}));
 }
 
 void TestLutDiscovery::placesAreMerged()

@@ -8,32 +8,6 @@ using namespace dravolin;
 
 namespace {
 
-const QString explanation = QStringLiteral(R"(#
-# The format of this file is simple:
-#
-# <old_value>[one_or_more_tabs]<new_value>
-#
-#
-# The first line *must* contain the <missing> value replacement.
-# Enter anything to replace the missing value with.
-# Note that you can enter <skip> to leave the value un-anonymized.
-#
-# Lines starting with # are considered to be comments
-# !! Please make sure to use [tabs] (or a minimum of three spaces) to separate the fields in a row !!
-# !! Please make sure there are no tabs or spaces after the last field in a row !!
-#
-# Note that propagating a LUT may take a lot of time,
-# up to several mins/GB for non-4D data sets, even for data sets on an SSD.
-#
-#
-# This LUT file was prepopulated using tag (0010,1000)
-#
-#
-# THE ABOVE MESSAGE *MAY NOT* BE REMOVED
-#
-<missing>		<supply missing value replacement, eg: Unknown>
-)");
-
 // The table as text: "key=value" in order, joined by "|"; "none" for no table.
 QString described(const std::optional<LutTable> &table)
 {
@@ -70,12 +44,6 @@ private Q_SLOTS:
     void manyLinesComeInWhole();
     void aLongLineComesInWhole();
     void marksInsideStayCharacters();
-    void writesTheExplanationToTheLetter();
-    void writtenFileIsReadBack();
-    void writesRows_data();
-    void writesRows();
-    void numbersTheValues();
-    void theShippedExampleIsATable();
 };
 
 void TestLutFile::readsTheFields_data()
@@ -99,7 +67,11 @@ void TestLutFile::readsTheFields_data()
     row("spaces behind the first tab do not count", "John\tDoe   X   Y", "John=Doe   X   Y");
     row("keeps an empty new value of spaces before a tab", "A   B   \tX", "A=");
     row("fields are trimmed", "  ABC \t \tDEF  ", "ABC=DEF");
-    row("no-break spaces are trimmed", "\xC2\xA0" "ABC\xC2\xA0\t\xE2\x80\x83" "DEF\xC2\xA0", "ABC=DEF");
+    row("no-break spaces are trimmed",
+        "\xC2\xA0"
+        "ABC\xC2\xA0\t\xE2\x80\x83"
+        "DEF\xC2\xA0",
+        "ABC=DEF");
     row("blanks inside stay", "John Doe\tSubject  1", "John Doe=Subject  1");
     row("a dot stays", "ABC\t.", "ABC=.");
     row("dots stay", "...\t...", "...=...");
@@ -126,8 +98,15 @@ void TestLutFile::readsTheLines_data()
     row("CR LF", "A\t1\r\nB\t2\r\n", "A=1|B=2");
     row("CR", "A\t1\rB\t2", "A=1|B=2");
     row("VT and FF", "A\t1\vB\t2\fC\t3", "A=1|B=2|C=3");
-    row("next line", "A\t1\xC2\x85" "B\t2", "A=1|B=2");
-    row("line and paragraph separator", "A\t1\xE2\x80\xA8" "B\t2\xE2\x80\xA9" "C\t3", "A=1|B=2|C=3");
+    row("next line",
+        "A\t1\xC2\x85"
+        "B\t2",
+        "A=1|B=2");
+    row("line and paragraph separator",
+        "A\t1\xE2\x80\xA8"
+        "B\t2\xE2\x80\xA9"
+        "C\t3",
+        "A=1|B=2|C=3");
     row("no line break at the end", "A\t1\nB\t2", "A=1|B=2");
     row("empty lines", "\n\nA\t1\n\n\nB\t2\n\n", "A=1|B=2");
     row("comment", "# A\t0\nA\t1\n#B\t2", "A=1");
@@ -137,7 +116,10 @@ void TestLutFile::readsTheLines_data()
     row("a later line wins", "A\t1\nB\t2\nA\t3", "A=3|B=2");
     row("a later line with one field does not", "A\t1\nA", "A=1");
     row("keys differ by case", "abc\t1\nABC\t2", "ABC=2|abc=1");
-    row("byte-order mark", "\xEF\xBB\xBF" "A\t1\nB\t2", "A=1|B=2");
+    row("byte-order mark",
+        "\xEF\xBB\xBF"
+        "A\t1\nB\t2",
+        "A=1|B=2");
     row("nothing but comments", "#\n# text\tx\n", "");
     row("nothing but one-field lines", "A\nB\n", "");
     row("one line break", "\n", "");
@@ -212,7 +194,8 @@ void TestLutFile::manyLinesComeInWhole()
     constexpr int rows = 20000; // several times what is decoded at once
     QByteArray content;
     for (int i = 0; i < rows; ++i)
-        content += "K\xC3\xA4" + QByteArray::number(i) + "\t\t\xE2\x82\xAC" + QByteArray::number(i * 7) + '\n';
+        content +=
+            "K\xC3\xA4" + QByteArray::number(i) + "\t\t\xE2\x82\xAC" + QByteArray::number(i * 7) + '\n';
     const std::optional<LutTable> table = parseLut(content);
     QVERIFY(table);
     QCOMPARE(table->size(), rows);
@@ -226,8 +209,8 @@ void TestLutFile::aLongLineComesInWhole()
     const QByteArray key(200000, 'k');
     const QByteArray value(300000, 'v');
     for (const QByteArray &lineEnd : {QByteArray("\n"), QByteArray("\r"), QByteArray()}) {
-        const std::optional<LutTable> table = parseLut("A\t1" + (lineEnd.isEmpty() ? "\n" : lineEnd) + key +
-                                                       '\t' + value + lineEnd);
+        const std::optional<LutTable> table =
+            parseLut("A\t1" + (lineEnd.isEmpty() ? "\n" : lineEnd) + key + '\t' + value + lineEnd);
         QVERIFY(table);
         QCOMPARE(table->size(), 2);
         QCOMPARE(table->value(QStringLiteral("A")), QStringLiteral("1"));
@@ -248,64 +231,6 @@ void TestLutFile::marksInsideStayCharacters()
     QVERIFY(table->contains(mark + QStringLiteral("last")));
     for (const QString &key : table->keys())
         QVERIFY(key == QStringLiteral("0") || key.startsWith(mark));
-}
-
-void TestLutFile::writesTheExplanationToTheLetter()
-{
-    QCOMPARE(lutText(QStringLiteral("0010,1000"), {}), explanation);
-    QCOMPARE(explanation.count(u'\n'), 24);
-}
-
-void TestLutFile::writtenFileIsReadBack()
-{
-    const QString text = lutText(QStringLiteral("0010,1000"), {QStringLiteral("ABC"), QStringLiteral("DEF")});
-    QCOMPARE(described(parseLut(text.toUtf8())),
-             QStringLiteral("<missing>=Unknown|ABC=Subject_001|DEF=Subject_002"));
-}
-
-void TestLutFile::writesRows_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QString>("written");
-    const auto add = [](const char *name, const QString &value, int position, const QString &written) {
-        QTest::newRow(name) << value << position << written;
-    };
-    add("short", QStringLiteral("A"), 1, QStringLiteral("A\t\t\tSubject_001\n"));
-    add("seven characters", QStringLiteral("1234567"), 2, QStringLiteral("1234567\t\t\tSubject_002\n"));
-    add("eight characters", QStringLiteral("12345678"), 10, QStringLiteral("12345678\t\tSubject_010\n"));
-    add("keeps counting UTF-16 units", QStringLiteral("\U0001F600\U0001F600\U0001F600\U0001F600"), 3,
-        QStringLiteral("\U0001F600\U0001F600\U0001F600\U0001F600\t\tSubject_003\n"));
-    add("seven umlauts", QString(7, QChar(u'\u00E4')), 4,
-        QString(7, QChar(u'\u00E4')) + QStringLiteral("\t\t\tSubject_004\n"));
-    add("999th", QStringLiteral("A"), 999, QStringLiteral("A\t\t\tSubject_999\n"));
-    add("1000th", QStringLiteral("A"), 1000, QStringLiteral("A\t\t\tSubject_1000\n"));
-    add("blanks stay", QStringLiteral(" A "), 5, QStringLiteral(" A \t\t\tSubject_005\n"));
-    add("percent signs stay", QStringLiteral("%1%s"), 6, QStringLiteral("%1%s\t\t\tSubject_006\n"));
-}
-
-void TestLutFile::writesRows()
-{
-    QFETCH(QString, value);
-    QFETCH(int, position);
-    QFETCH(QString, written);
-    QCOMPARE(lutRow(value, position), written);
-}
-
-void TestLutFile::numbersTheValues()
-{
-    QCOMPARE(lutText(QStringLiteral("0010,1000"), {QStringLiteral("B"), QStringLiteral("A")}),
-             explanation + QStringLiteral("B\t\t\tSubject_001\nA\t\t\tSubject_002\n"));
-}
-
-void TestLutFile::theShippedExampleIsATable()
-{
-    const QString path = QStringLiteral(DRAVOLIN_EXAMPLE_LUT);
-    const QStringList lines = readText(path).value_or(QString()).split(u'\n');
-    QCOMPARE(lines.mid(0, 23), explanation.split(u'\n').mid(0, 23));
-    QCOMPARE(described(loadLut(path)),
-             QStringLiteral("1-2345=Subject_001|<missing>=unknown|H-0012/2019=Subject_002|KH-77-A=Subject_003|"
-                            "PAT-00417=Subject_004|PHANTOM=<skip>"));
 }
 
 QTEST_GUILESS_MAIN(TestLutFile)
