@@ -23,6 +23,11 @@ QMessageBox *createAlert(const QString &title, const QString &text, const QStrin
     alert->setInformativeText(text);
     for (QLabel *label : alert->findChildren<QLabel *>())
         label->setTextFormat(Qt::PlainText);
+    if (auto *const heading = alert->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+        QFont font = heading->font();
+        font.setBold(true);
+        heading->setFont(font);
+    }
     if (window)
         alert->setIconPixmap(window->windowIcon().pixmap(QSize(48, 48), window->devicePixelRatioF()));
     for (int i = 0; i < buttons.size(); ++i) {

@@ -15,8 +15,8 @@ class AlertSheetRunner : public QObject
     Q_OBJECT
 
 public:
-    // Puts up `sheet` on `window` and returns at once. The runner keeps itself alive while the sheet is up; the
-    // completion is called last. With the window the sheet goes without an answer.
+    // Puts up `sheet` on `window` and returns at once. The runner keeps itself alive while the sheet is up;
+    // the completion is called last. With the window the sheet goes without an answer.
     static AlertSheetRunner *beginSheet(const AlertSheet &sheet, QWidget *window);
 
     [[nodiscard]] QMessageBox *alert() const { return m_alert; }

@@ -31,9 +31,9 @@ struct AppPorts
     Delays delays;
 };
 
-// Owns the main window and all run state, and names every operation of the application. It lives as long as the
-// application, on the main thread. Operations of a run may be called from a run's thread; each says so by what
-// it forwards to, where its contract stands.
+// Owns the main window and all run state, and names every operation of the application. It lives as long as
+// the application, on the main thread. Operations of a run may be called from a run's thread; each says so by
+// what it forwards to, where its contract stands.
 class MainController : public QObject, public QVDragDropViewDelegate
 {
     Q_OBJECT
@@ -79,10 +79,8 @@ public:
                                                                        const QString &folder,
                                                                        const RunOptions &options);
     quint64 recursivelyCountOfFolderInFolderTree(const QString &folder);
-    [[nodiscard]] quint64
-    recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(const QStringList &tags,
-                                                                 const QString &folder,
-                                                                 const RunOptions &options);
+    [[nodiscard]] quint64 recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
+        const QStringList &tags, const QString &folder, const RunOptions &options);
     [[nodiscard]] QStringList findDICOMDIRsAtPath(const QString &folder);
 
     // Identifiers.

@@ -3,6 +3,7 @@
 
 #include "config/DirectoryLocations.h"
 #include "identifiers/SystemLog.h"
+#include "identifiers/Texts.h"
 #include "run/LutSteps.h"
 #include "ui_MainWindow.h"
 
@@ -51,9 +52,10 @@ void MainController::prepopulateLUTcheckboxDidChange()
 void MainController::refuseConstruction()
 {
     AlertSheet sheet;
-    sheet.message = tr("Your configuration file provided no <LUT_XX> field to indicate which DICOM tag should be "
-                       "used for constructing the LUT.");
-    sheet.buttons = {tr("Ok"), tr("Quit")};
+    sheet.message =
+        Texts::tr("Your configuration file provided no <LUT_XX> field to indicate which DICOM tag should be "
+                  "used for constructing the LUT.");
+    sheet.buttons = {Texts::tr("Ok"), Texts::tr("Quit")};
     sheet.completion = [this](int code) {
         if (code == AlertSheet::secondButton) {
             m_window->close();
@@ -101,17 +103,17 @@ void MainController::tellDefaultConfiguration()
 {
     AlertSheet sheet;
     // intended: both texts as they are, missing space and folder name included
-    sheet.message = tr("Reverting to default anonymization config from "
-                       "'DefaultAnonymizationConfiguration.txt'from the Application Bundle.");
-    sheet.informativeText =
-        tr("\nThe application looks for 'AnonymizationConfiguration.txt' in 4 locations, in this order:\n\n"
-           "1- In the Application Bundle itself\n"
-           "2- On the Desktop\n"
-           "3- In the folder where the Application Bundle is\n"
-           "4- In ~/Library/Applications Support/Dravolin/\n\n"
-           "If not found in any of those places, it reverts to the default configuration, which may not be "
-           "what you want.\n\n\n");
-    sheet.buttons = {tr("Save copy to Configuration folder & Quit"), tr("Continue")};
+    sheet.message = Texts::tr("Reverting to default anonymization config from "
+                              "'DefaultAnonymizationConfiguration.txt'from the Application Bundle.");
+    sheet.informativeText = Texts::tr(
+        "\nThe application looks for 'AnonymizationConfiguration.txt' in 4 locations, in this order:\n\n"
+        "1- In the Application Bundle itself\n"
+        "2- On the Desktop\n"
+        "3- In the folder where the Application Bundle is\n"
+        "4- In ~/Library/Applications Support/Dravolin/\n\n"
+        "If not found in any of those places, it reverts to the default configuration, which may not be "
+        "what you want.\n\n\n");
+    sheet.buttons = {Texts::tr("Save copy to Configuration folder & Quit"), Texts::tr("Continue")};
     sheet.escape = AlertSheet::secondButton;
     sheet.completion = [this](int code) {
         if (code == AlertSheet::firstButton)
@@ -126,12 +128,12 @@ void MainController::saveDefaultConfigurationAndQuit()
     if (!folder.usable) {
         logMessage(QStringLiteral(
             "Could not save default config to configuration folder, saving to desktop instead"));
-        m_host.runModalAlert(
-            {tr("Could not access or create config folder"),
-             tr("Failed to access or create the configuration folder at:\n%1\n\nSaving a copy of the default "
-                "Configuration to the Desktop instead.\n\n")
-                 .arg(folder.path),
-             tr("Save to Desktop & Quit"), QString()});
+        m_host.runModalAlert({Texts::tr("Could not access or create config folder"),
+                              Texts::tr("Failed to access or create the configuration folder "
+                                        "at:\n%1\n\nSaving a copy of the default "
+                                        "Configuration to the Desktop instead.\n\n")
+                                  .arg(folder.path),
+                              Texts::tr("Save to Desktop & Quit"), QString()});
     }
     const QString copy =
         copyDefaultConfiguration(m_paths, folder.usable ? folder.path : m_paths.desktopFolder,
@@ -141,8 +143,9 @@ void MainController::saveDefaultConfigurationAndQuit()
 
 void MainController::toolbarTextClicked()
 {
-    const ModalAlert question = {tr("Open the web site %1 in your web browser?").arg(webSite), QString(),
-                                 tr("Yes, sure"), tr("No, don't"), AlertButton::Alternate};
+    const ModalAlert question = {Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
+                                 QString(), Texts::tr("Yes, sure"), Texts::tr("No, don't"),
+                                 AlertButton::Alternate};
     if (m_host.runModalAlert(question) == AlertButton::Default)
         m_opener.openUrl(webSite);
 }

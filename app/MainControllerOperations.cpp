@@ -57,9 +57,8 @@ quint64 MainController::recursivelyCountOfFolderInFolderTree(const QString &fold
     return countFolderTree(m_context, folder);
 }
 
-quint64 MainController::recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(const QStringList &tags,
-                                                                                    const QString &folder,
-                                                                                    const RunOptions &options)
+quint64 MainController::recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
+    const QStringList &tags, const QString &folder, const RunOptions &options)
 {
     return anonymizeFolderTree(m_context, tags, folder, options);
 }

@@ -6,7 +6,9 @@
 
 namespace dravolin {
 
-MainThreadGate::MainThreadGate(QObject *parent) : QObject(parent) {}
+MainThreadGate::MainThreadGate(QObject *parent) : QObject(parent)
+{
+}
 
 bool MainThreadGate::onMainThread() const
 {

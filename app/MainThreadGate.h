@@ -11,8 +11,8 @@
 
 namespace dravolin {
 
-// Hands work to the main thread and waits for it; the only way from a run's thread to the window. Lives on the
-// main thread. Qt's blocking queued calls are not used: at the end of the event loop they hang.
+// Hands work to the main thread and waits for it; the only way from a run's thread to the window. Lives on
+// the main thread. Qt's blocking queued calls are not used: at the end of the event loop they hang.
 class MainThreadGate : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ class MainThreadGate : public QObject
 public:
     explicit MainThreadGate(QObject *parent = nullptr);
 
-    // Any thread. On the main thread runs `work` at once; elsewhere queues it and returns when it is done. False
-    // when the gate was closed before the work began: it then never runs.
+    // Any thread. On the main thread runs `work` at once; elsewhere queues it and returns when it is done.
+    // False when the gate was closed before the work began: it then never runs.
     [[nodiscard]] bool run(const std::function<void()> &work);
 
     // The same with a value; nothing when the gate was closed.

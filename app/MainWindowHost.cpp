@@ -1,8 +1,8 @@
 #include "app/MainWindowHost.h"
 
+#include "identifiers/Texts.h"
 #include "ui_MainWindow.h"
 
-#include <QCoreApplication>
 #include <QPropertyAnimation>
 #include <QThread>
 #include <QTimer>
@@ -160,11 +160,11 @@ void MainWindowHost::setLUTTitles(const QStringList &titles)
         QComboBox *const popup = m_controls.selectLUTpopupButton;
         popup->clear();
         if (titles.isEmpty()) {
-            popup->addItem(QCoreApplication::translate("Dravolin", "No look-up table files found"));
+            popup->addItem(Texts::tr("No look-up table files found"));
             popup->setEnabled(false);
             return;
         }
-        popup->addItem(QCoreApplication::translate("Dravolin", "Don't use a look-up table"));
+        popup->addItem(Texts::tr("Don't use a look-up table"));
         popup->addItems(titles);
         popup->setCurrentIndex(0);
     });
@@ -183,7 +183,8 @@ AlertButton MainWindowHost::runModalAlert(const ModalAlert &alert)
 void MainWindowHost::scheduleLogWindow(const QString &text)
 {
     onMain([&] {
-        QTimer::singleShot(m_delays.beforeLogWindow, &m_window, [showLog = m_showLog, text] { showLog(text); });
+        QTimer::singleShot(m_delays.beforeLogWindow, &m_window,
+                           [showLog = m_showLog, text] { showLog(text); });
     });
 }
 

@@ -7,7 +7,8 @@
 
 namespace dravolin {
 
-// Opens addresses, folders and files with the desktop's own programs, without waiting for them. Main thread only.
+// Opens addresses, folders and files with the desktop's own programs, without waiting for them. Main thread
+// only.
 class Opener : public QObject
 {
     Q_OBJECT
@@ -19,8 +20,8 @@ public:
     // reports a failure.
     void openUrl(const QString &url);
 
-    // Shows the file at `path` selected in the desktop's file browser (D-Bus org.freedesktop.FileManager1), or
-    // opens its folder when no file browser answers. `then` is called when one of the two is done.
+    // Shows the file at `path` selected in the desktop's file browser (D-Bus org.freedesktop.FileManager1),
+    // or opens its folder when no file browser answers. `then` is called when one of the two is done.
     void reveal(const QString &path, std::function<void()> then);
 };
 

@@ -1,6 +1,7 @@
 #include "app/QVAppDelegate.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <cstdlib>
 
@@ -8,9 +9,10 @@ namespace dravolin {
 
 void QVAppDelegate::applicationDidFinishLaunching()
 {
-    m_controller = std::make_unique<MainController>(
-        AppPorts{AppPaths::forExecutable(QCoreApplication::applicationFilePath()), m_jobs, m_uuids, m_presenter,
-                 Delays()});
+    const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
+    if (m_texts.load(QLocale(), QStringLiteral("dravolin"), QStringLiteral("_"), paths.resourceFolder))
+        QCoreApplication::installTranslator(&m_texts);
+    m_controller = std::make_unique<MainController>(AppPorts{paths, m_jobs, m_uuids, m_presenter, Delays()});
     QObject::connect(m_controller.get(), &MainController::closed, QCoreApplication::instance(),
                      &QCoreApplication::quit);
     m_controller->initAndShow();

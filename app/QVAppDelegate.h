@@ -5,6 +5,8 @@
 #include "identifiers/NOXUtils.h"
 #include "run/jobs/JobRunner.h"
 
+#include <QTranslator>
+
 #include <memory>
 
 namespace dravolin {
@@ -16,11 +18,12 @@ public:
     // Creates the main window and its controller and shows it. Closing it leaves the event loop.
     void applicationDidFinishLaunching();
 
-    // Ends the program with `code` when runs are still under way: they are left where they are, and a tool that
-    // is running finishes its files by itself. Returns when there are none.
+    // Ends the program with `code` when runs are still under way: they are left where they are, and a tool
+    // that is running finishes its files by itself. Returns when there are none.
     void applicationWillTerminate(int code);
 
 private:
+    QTranslator m_texts; // the string table of the user's language, "dravolin_XX.qm", when there is one
     PosixJobRunner m_jobs;
     NOXUtils::RandomUuidSource m_uuids;
     MessageBoxPresenter m_presenter;

@@ -1,6 +1,7 @@
 #include "app/QVDragDropView.h"
 
 #include "config/FileSystem.h"
+#include "identifiers/Texts.h"
 
 #include <QDragEnterEvent>
 #include <QPainter>
@@ -39,8 +40,9 @@ QString localPath(const QUrl &url)
 bool isPicture(const QString &path)
 {
     static const QSet<QString> extensions = [] {
-        const QString list = QStringLiteral("png jpg jpeg tiff pdf pic ps bmp pct pict eps mac pnt ico psd icns "
-                                            "nef dng tif jpf jp2 gif jfif");
+        const QString list =
+            QStringLiteral("png jpg jpeg tiff pdf pic ps bmp pct pict eps mac pnt ico psd icns "
+                           "nef dng tif jpf jp2 gif jfif");
         const QStringList items = list.split(u' ');
         return QSet<QString>(items.cbegin(), items.cend());
     }();
@@ -74,7 +76,7 @@ void QVDragDropView::setImageForLUTcheckboxState(int state)
 {
     m_imageName = state == 1 ? lutImage : dragImage;
     m_image.load(joinPath(m_imageFolder, m_imageName));
-    setAccessibleDescription(state == 1 ? tr("construct look-up table") : tr("anonymize"));
+    setAccessibleDescription(state == 1 ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
     update();
 }
 
@@ -154,8 +156,9 @@ void QVDragDropView::dropEvent(QDropEvent *event)
 
 QString QVDragDropView::hint() const
 {
-    return m_imageName == lutImage ? tr("Drop folders or DICOM files here to construct a look-up table")
-                                   : tr("Drop folders or DICOM files here to anonymize them");
+    return m_imageName == lutImage
+               ? Texts::tr("Drop folders or DICOM files here to construct a look-up table")
+               : Texts::tr("Drop folders or DICOM files here to anonymize them");
 }
 
 void QVDragDropView::paintEvent(QPaintEvent *)

@@ -15,8 +15,8 @@ public:
     virtual void handleDroppedPaths(const QStringList &paths) = 0;
 };
 
-// The picture on which folders and files are dropped. It tells what a drop will do and highlights itself while
-// an acceptable drag is over it. Main thread only.
+// The picture on which folders and files are dropped. It tells what a drop will do and highlights itself
+// while an acceptable drag is over it. Main thread only.
 class QVDragDropView : public QWidget
 {
     Q_OBJECT

@@ -14,7 +14,8 @@ struct AppPaths
     // The system's application support folders, the user's own first; may not exist, may be empty.
     QStringList applicationSupportFolders;
 
-    // For the executable at `executable`: its folder's "resources" when that exists, else "../share/dravolin".
+    // For the executable at `executable`: its folder's "resources" when that exists, else
+    // "../share/dravolin".
     [[nodiscard]] static AppPaths forExecutable(const QString &executable);
 
     // The path of the resource `name`, whether it exists or not.

@@ -21,8 +21,8 @@ using TitleToPath = QMap<QString, QString>;
 
 struct FoundConfigurations
 {
-    TitleToPath allConfigPaths;       // never empty
-    bool revertedToDefault = false;   // nothing was found: the user is told
+    TitleToPath allConfigPaths;     // never empty
+    bool revertedToDefault = false; // nothing was found: the user is told
 };
 
 // A configuration among the resources alone, else those of the desktop, the application's folder and the

@@ -94,9 +94,8 @@ void addFixedTags(TagRules &rules, const CaseTexts &texts, const QString &studyI
 
 qsizetype indexOfFirstTableMarker(const NewValueDict &values)
 {
-    const auto found = std::find_if(values.cbegin(), values.cend(), [](const QString &value) {
-        return value.startsWith(tableMarkerPrefix);
-    });
+    const auto found = std::find_if(values.cbegin(), values.cend(),
+                                    [](const QString &value) { return value.startsWith(tableMarkerPrefix); });
     return found == values.cend() ? -1 : std::distance(values.cbegin(), found);
 }
 

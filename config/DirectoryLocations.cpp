@@ -18,7 +18,8 @@ QString LocationError::text() const
     return userInfo.value(descriptionKey).toString();
 }
 
-QStringList searchPathDirectories(const AppPaths &paths, SearchPathDirectory directory, SearchPathDomain domain)
+QStringList searchPathDirectories(const AppPaths &paths, SearchPathDirectory directory,
+                                  SearchPathDomain domain)
 {
     if (domain != SearchPathDomain::User)
         return {};
@@ -42,9 +43,9 @@ std::optional<QString> findOrCreateDirectory(const AppPaths &paths, SearchPathDi
     };
     const QStringList found = searchPathDirectories(paths, directory, domain);
     if (found.isEmpty()) {
-        const QString text =
-            QCoreApplication::translate("Errors", "No path found for directory in domain.");
-        return fail({QStringLiteral("DirectoryLocationDomain"), 0,
+        const QString text = QCoreApplication::translate("Errors", "No path found for directory in domain.");
+        return fail({QStringLiteral("DirectoryLocationDomain"),
+                     0,
                      {{descriptionKey, text},
                       {QStringLiteral("NSSearchPathDirectory"), static_cast<int>(directory)},
                       {QStringLiteral("NSSearchPathDomainMask"), static_cast<int>(domain)}}});
@@ -61,9 +62,8 @@ std::optional<QString> findOrCreateDirectory(const AppPaths &paths, SearchPathDi
 std::optional<QString> applicationSupportDirectory(const AppPaths &paths)
 {
     std::optional<LocationError> error;
-    const std::optional<QString> path =
-        findOrCreateDirectory(paths, SearchPathDirectory::ApplicationSupport, SearchPathDomain::User,
-                              executableName(), &error);
+    const std::optional<QString> path = findOrCreateDirectory(
+        paths, SearchPathDirectory::ApplicationSupport, SearchPathDomain::User, executableName(), &error);
     if (!path)
         logMessage(QStringLiteral("Unable to find or create application support directory:\n%1")
                        .arg(error ? error->text() : QString()));

@@ -29,7 +29,8 @@ struct LocationError
 // The first directory of that kind with `component` (unless empty) appended, created with all missing
 // parents. On success `error` (may be null) is cleared; on failure the result is nothing and `error` holds
 // domain "DirectoryLocationDomain", code 0 when the system has no such directory, else the system's error.
-[[nodiscard]] std::optional<QString> findOrCreateDirectory(const AppPaths &paths, SearchPathDirectory directory,
+[[nodiscard]] std::optional<QString> findOrCreateDirectory(const AppPaths &paths,
+                                                           SearchPathDirectory directory,
                                                            SearchPathDomain domain, const QString &component,
                                                            std::optional<LocationError> *error = nullptr);
 

@@ -86,14 +86,15 @@ QString fromBytes(const QByteArray &bytes)
         return *text;
     QString text;
     for (qsizetype i = 0; i < bytes.size();) {
-        qsizetype length = std::min<qsizetype>(QByteArrayView(bytes).sliced(i).startsWith(byteOrderMark) ? 3 : 4,
-                                               bytes.size() - i);
+        qsizetype length = std::min<qsizetype>(
+            QByteArrayView(bytes).sliced(i).startsWith(byteOrderMark) ? 3 : 4, bytes.size() - i);
         while (length > 0 && !QByteArrayView(bytes).sliced(i, length).isValidUtf8())
             --length;
         if (length == 0) {
             text += QChar(static_cast<char16_t>(escapeBase + static_cast<unsigned char>(bytes.at(i))));
             length = 1;
-        } else if (const QByteArrayView valid = QByteArrayView(bytes).sliced(i, length); valid == byteOrderMark) {
+        } else if (const QByteArrayView valid = QByteArrayView(bytes).sliced(i, length);
+                   valid == byteOrderMark) {
             text += QChar::ByteOrderMark; // fromUtf8 would drop it, and a name may begin with one
         } else {
             text += QString::fromUtf8(valid);

@@ -1,8 +1,7 @@
 #include "identifiers/UidRoot.h"
 
 #include "identifiers/NOXUtils.h"
-
-#include <QCoreApplication>
+#include "identifiers/Texts.h"
 
 #include <algorithm>
 
@@ -36,8 +35,7 @@ RootCheck checkRoot(const QString &root, const QString &caseId)
 
 QString rootValidityText(bool valid)
 {
-    return valid ? QCoreApplication::translate("Dravolin", "UID may be valid")
-                 : QCoreApplication::translate("Dravolin", "Root is invalid, will be replaced");
+    return valid ? Texts::tr("UID may be valid") : Texts::tr("Root is invalid, will be replaced");
 }
 
 QString filterTypedIdentifier(const QString &text)

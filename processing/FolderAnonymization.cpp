@@ -12,7 +12,8 @@ constexpr qsizetype tagLength = 9; // gggg,eeee; only the length is looked at
 
 QString preparedPrefix(const RunContext &context, const QStringList &tags, const RunOptions &options)
 {
-    const AnonymizationChoices choices = {options.createBAKfiles, context.host.checkState(CheckBox::GenerateSOP),
+    const AnonymizationChoices choices = {options.createBAKfiles,
+                                          context.host.checkState(CheckBox::GenerateSOP),
                                           context.host.checkState(CheckBox::OnlyGenerateSOP)};
     const AnonymizationCommand command = anonymizationCommand(
         context.paths.dcmodify(), tags, context.state.get(&RunState::newValueDict), choices);

@@ -1,10 +1,9 @@
 #include "processing/FolderTree.h"
 
 #include "config/FileSystem.h"
+#include "identifiers/Texts.h"
 #include "processing/FolderAnonymization.h"
 #include "run/jobs/ScriptJob.h"
-
-#include <QCoreApplication>
 
 namespace dravolin {
 
@@ -35,12 +34,12 @@ quint64 anonymizeFolderTree(const RunContext &context, const QStringList &tags, 
 
 QStringList findDicomdirs(const RunContext &context, const QString &folder)
 {
-    const Job find = {QStringLiteral("/usr/bin/find"),
-                      {QStringLiteral("."), QStringLiteral("-name"), QStringLiteral("DICOMDIR"),
-                       QStringLiteral("-print")},
-                      folder,
-                      std::nullopt,
-                      true};
+    const Job find = {
+        QStringLiteral("/usr/bin/find"),
+        {QStringLiteral("."), QStringLiteral("-name"), QStringLiteral("DICOMDIR"), QStringLiteral("-print")},
+        folder,
+        std::nullopt,
+        true};
     const QString printed = decodeUtf8(context.jobs.run(find).output).value_or(QString());
     QStringList paths;
     for (const QStringView line : NOXUtils::lines(printed)) {
@@ -52,7 +51,7 @@ QStringList findDicomdirs(const RunContext &context, const QString &folder)
 
 QString workingText(const RunContext &context)
 {
-    return QCoreApplication::translate("Dravolin", "\nWorking... %1/%2 folders")
+    return Texts::tr("\nWorking... %1/%2 folders")
         .arg(QString::number(context.state.get(&RunState::folderCount)),
              QString::number(context.state.get(&RunState::totalFolders)));
 }

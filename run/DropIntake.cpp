@@ -1,9 +1,8 @@
 #include "run/DropIntake.h"
 
 #include "config/FileSystem.h"
+#include "identifiers/Texts.h"
 #include "run/UidRootFields.h"
-
-#include <QCoreApplication>
 
 namespace dravolin {
 
@@ -11,11 +10,6 @@ namespace {
 
 constexpr qsizetype manyFiles = 513;
 constexpr int runningHeight = 696;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Dravolin", text);
-}
 
 RunOptions optionsOf(const RunContext &context)
 {
@@ -37,30 +31,31 @@ bool uidRootIsUsable(const RunContext &context)
         return true;
     // intended: "now allowed"
     context.host.runModalAlert(
-        {translated("Study Instance UID would be invalid"),
-         translated("The combination of the CaseID and the UID root would result in the creation of an invalid "
-                    "Study Instance UID.\nThis is now allowed.\n\nOnly digits and '.' are allowed, and the "
-                    "total maximum length is 64 characters.\n"),
-         translated("OK"), QString()});
+        {Texts::tr("Study Instance UID would be invalid"),
+         Texts::tr(
+             "The combination of the CaseID and the UID root would result in the creation of an invalid "
+             "Study Instance UID.\nThis is now allowed.\n\nOnly digits and '.' are allowed, and the "
+             "total maximum length is 64 characters.\n"),
+         Texts::tr("OK"), QString()});
     return false;
 }
 
 bool largeDropIsMeant(const RunContext &context)
 {
     return context.host.runModalAlert(
-               {translated("Large number of individual files dropped"),
-                translated("You dropped a large number of individual files: processing is faster if you drop "
-                           "the enclosing folder.\n\nIf this enclosing folder contains subfolders that should "
-                           "not be anonymized, consider temporarily placing the individual files in a new "
-                           "folder and drop that.\n\nContinue with dropped files?\n"),
-                translated("No, I'll retry"), translated("Yes, get on with it!")}) == AlertButton::Alternate;
+               {Texts::tr("Large number of individual files dropped"),
+                Texts::tr("You dropped a large number of individual files: processing is faster if you drop "
+                          "the enclosing folder.\n\nIf this enclosing folder contains subfolders that should "
+                          "not be anonymized, consider temporarily placing the individual files in a new "
+                          "folder and drop that.\n\nContinue with dropped files?\n"),
+                Texts::tr("No, I'll retry"), Texts::tr("Yes, get on with it!")}) == AlertButton::Alternate;
 }
 
 bool overwritingIsMeant(const RunContext &context)
 {
-    return context.host.runModalAlert({translated("About to anonymize your data"),
-                                       translated("Your source data will be overwritten. Continue?"),
-                                       translated("No, Cancel"), translated("Ok, Overwrite source data")}) ==
+    return context.host.runModalAlert({Texts::tr("About to anonymize your data"),
+                                       Texts::tr("Your source data will be overwritten. Continue?"),
+                                       Texts::tr("No, Cancel"), Texts::tr("Ok, Overwrite source data")}) ==
            AlertButton::Alternate;
 }
 
@@ -96,16 +91,16 @@ void prepareWindow(const RunContext &context, std::function<void()> startRun)
 {
     RunHost &host = context.host;
     const bool constructing = host.checkState(CheckBox::Prepopulate) == Qt::Checked;
-    host.setStatus(constructing ? translated("\nConstructing LUT for tag : (%1)...")
+    host.setStatus(constructing ? Texts::tr("\nConstructing LUT for tag : (%1)...")
                                       .arg(context.state.get(&RunState::LUTconstructionTag))
-                                : translated("\nWorking..."));
+                                : Texts::tr("\nWorking..."));
     host.setSpinning(true);
     for (const Control control : {Control::OverwriteSource, Control::SelectLUT, Control::Prepopulate,
                                   Control::SelectConfig, Control::GenerateSOP, Control::OnlyGenerateSOP})
         host.setEnabled(control, false);
-    host.setStatusToolTip(translated("Processing may take a *very* long time...\n\nThe task is running on a "
-                                     "background thread\nso you can continue to use your computer\n(stop "
-                                     "watching this)."));
+    host.setStatusToolTip(Texts::tr("Processing may take a *very* long time...\n\nThe task is running on a "
+                                    "background thread\nso you can continue to use your computer\n(stop "
+                                    "watching this)."));
     host.showSeparator();
     host.growWindow(runningHeight, std::move(startRun));
 }

@@ -9,9 +9,13 @@ bool bindTable(const RunContext &, RunOptions &)
     return true;
 }
 
-void constructTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &) {}
+void constructTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &)
+{
+}
 
-void propagateTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &) {}
+void propagateTable(const RunContext &, const QStringList &, const QStringList &, const RunOptions &)
+{
+}
 
 void refreshTables(const RunContext &context)
 {

@@ -1,8 +1,8 @@
 #include "run/OutputAnalysis.h"
 
 #include "identifiers/NOXUtils.h"
+#include "identifiers/Texts.h"
 
-#include <QCoreApplication>
 #include <QSet>
 #include <QThread>
 
@@ -12,39 +12,35 @@ namespace dravolin {
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Dravolin", text);
-}
-
 // "%1" and "%2" become the number and its plural suffix.
-QString counted(const char *text, quint64 number)
+QString counted(const QString &text, quint64 number)
 {
-    return translated(text).arg(QString::number(number), NOXUtils::pluralSuffix(number));
+    return text.arg(QString::number(number), NOXUtils::pluralSuffix(number));
 }
 
-QString tableCounts(const char *text, const RunReport &report)
+QString tableCounts(const QString &text, const RunReport &report)
 {
-    return translated(text).arg(QString::number(report.numLUTadaptedFiles),
-                                NOXUtils::pluralSuffix(report.numLUTadaptedFiles),
-                                QString::number(report.numLUTskippedFiles),
-                                NOXUtils::pluralSuffix(report.numLUTskippedFiles));
+    return text.arg(
+        QString::number(report.numLUTadaptedFiles), NOXUtils::pluralSuffix(report.numLUTadaptedFiles),
+        QString::number(report.numLUTskippedFiles), NOXUtils::pluralSuffix(report.numLUTskippedFiles));
 }
 
 QString firstSummary(const RunReport &report)
 {
     if (report.errCount != 0)
         return report.constructing
-                   ? counted("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
-                             "See messages logged to console.",
-                             report.errCount)
-                   : counted("Done...\nEncountered %1 error%2.\nSee messages logged to console.",
+                   ? counted(
+                         Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
+                                   "See messages logged to console."),
+                         report.errCount)
+                   : counted(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
                              report.errCount);
     if (report.constructing)
-        return translated("\nDone constructing LUT. File placed on Desktop.");
+        return Texts::tr("\nDone constructing LUT. File placed on Desktop.");
     if (report.usingLUT)
-        return tableCounts("Done!\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.", report);
-    return translated("\nDone!");
+        return tableCounts(Texts::tr("Done!\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4."),
+                           report);
+    return Texts::tr("\nDone!");
 }
 
 // An optional sign and ASCII digits; 0 when there are none, saturating at 64 bits.
@@ -70,7 +66,8 @@ qint64 leadingInteger(QStringView text)
 class LineJudge
 {
 public:
-    explicit LineJudge(const QStringList &folderNames) : m_folderNames(folderNames.cbegin(), folderNames.cend())
+    explicit LineJudge(const QStringList &folderNames)
+        : m_folderNames(folderNames.cbegin(), folderNames.cend())
     {
         for (const QString &name : folderNames)
             m_longestName = std::max(m_longestName, name.size());
@@ -81,7 +78,8 @@ public:
         static const QString unloadable = QStringLiteral("E: unable to load file ");
         if (!line.startsWith(QStringLiteral("E:")))
             return;
-        if (line.startsWith(QStringLiteral("E: There was")) || line.startsWith(QStringLiteral("E: There were"))) {
+        if (line.startsWith(QStringLiteral("E: There was")) ||
+            line.startsWith(QStringLiteral("E: There were"))) {
             // unsigned, so that sums past 64 bits wrap
             m_filesWithErrors += static_cast<quint64>(closingLineCount(line));
         } else if (line.startsWith(unloadable)) {
@@ -141,14 +139,15 @@ QString logNotes(const RunReport &report)
 {
     QString notes;
     if (report.constructing)
-        notes = translated("\n\nConstructed LUT file placed on Desktop.\n\n");
+        notes = Texts::tr("\n\nConstructed LUT file placed on Desktop.\n\n");
     else if (report.usingLUT)
-        notes = tableCounts("\n\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.\n\n", report);
+        notes = tableCounts(Texts::tr("\n\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.\n\n"),
+                            report);
     if (report.DICOMDIRpaths.isEmpty())
         return notes;
     return notes +
-           translated("Mind you: DICOMDIR files were found.\n"
-                      "They do not contain DICOM tags to anonymize but still contain PHI:\n") +
+           Texts::tr("Mind you: DICOMDIR files were found.\n"
+                     "They do not contain DICOM tags to anonymize but still contain PHI:\n") +
            report.DICOMDIRpaths.join(u'\n') + QStringLiteral("\n\n");
 }
 
@@ -156,9 +155,8 @@ RunReport reportOf(const RunContext &context)
 {
     const bool constructing = context.host.checkState(CheckBox::Prepopulate) == Qt::Checked;
     return context.state.update([constructing](const RunState &state) {
-        return RunReport{state.output,          state.errCount,
-                         constructing,          state.usingLUT,
-                         state.numLUTadaptedFiles, state.numLUTskippedFiles,
+        return RunReport{state.output,          state.errCount,           constructing,
+                         state.usingLUT,        state.numLUTadaptedFiles, state.numLUTskippedFiles,
                          state.AllFoldersNames, state.DICOMDIRpaths};
     });
 }
@@ -168,8 +166,8 @@ void restoreControls(const RunContext &context)
     RunHost &host = context.host;
     host.setEnabled(Control::OverwriteSource, true);
     host.setEnabled(Control::SelectLUT, !context.state.get(&RunState::allLUTsPaths).isEmpty());
-    for (const Control control : {Control::Prepopulate, Control::SelectConfig, Control::GenerateSOP,
-                                  Control::OnlyGenerateSOP})
+    for (const Control control :
+         {Control::Prepopulate, Control::SelectConfig, Control::GenerateSOP, Control::OnlyGenerateSOP})
         host.setEnabled(control, true);
     host.setSpinning(false);
     host.setStatusToolTip(QString());
@@ -197,8 +195,8 @@ RunJudgement judgeOutput(const RunReport &report)
         return judgement;
     judgement.wantsLogWindow = true;
     judgement.summary = lines.filesWithErrors() == 0
-                            ? counted("\nDone, with %1 error%2.", lines.errorLines())
-                            : counted("\nDone. %1 file%2 with errors.", lines.filesWithErrors());
+                            ? counted(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
+                            : counted(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
     judgement.logText += logNotes(report);
     return judgement;
 }

@@ -1,22 +1,16 @@
 #include "run/RunDriver.h"
 
 #include "config/FileSystem.h"
+#include "identifiers/Texts.h"
 #include "processing/FolderAnonymization.h"
 #include "processing/FolderTree.h"
 #include "run/LutSteps.h"
 #include "run/OutputAnalysis.h"
 #include "run/UidRootFields.h"
 
-#include <QCoreApplication>
-
 namespace dravolin {
 
 namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Dravolin", text);
-}
 
 bool isOn(const RunContext &context, CheckBox box)
 {
@@ -108,9 +102,9 @@ bool refusesEmptyTagList(const RunContext &context, const QString &configuration
     if (!context.state.get(&RunState::allTagsToAnonymize).isEmpty() || context.state.get(&RunState::usingLUT))
         return false;
     AlertSheet sheet;
-    sheet.message = translated("Your configuration file provided no tags to anonymize!");
-    sheet.informativeText = translated("\nPath: %1\n\n\n").arg(configurationPath);
-    sheet.buttons = {translated("Save copy of default config to Desktop & Quit"), translated("Quit")};
+    sheet.message = Texts::tr("Your configuration file provided no tags to anonymize!");
+    sheet.informativeText = Texts::tr("\nPath: %1\n\n\n").arg(configurationPath);
+    sheet.buttons = {Texts::tr("Save copy of default config to Desktop & Quit"), Texts::tr("Quit")};
     sheet.escape = AlertSheet::secondButton;
     sheet.completion = [context](int code) {
         if (code == AlertSheet::firstButton)

@@ -9,13 +9,13 @@
 // One run from the sorted drop to its return value. On the run's own thread.
 namespace dravolin {
 
-// Fills allTagsToAnonymize and newValueDict from the file at `path`, nothing of an earlier load surviving, and
-// adds the five attributes whose values come from the window, among them a newly composed Study Instance UID.
-// Any thread.
+// Fills allTagsToAnonymize and newValueDict from the file at `path`, nothing of an earlier load surviving,
+// and adds the five attributes whose values come from the window, among them a newly composed Study Instance
+// UID. Any thread.
 void loadTagsToAnonymize(const RunContext &context, const QString &path);
 
-// Takes the values away from all table markers that are left, and keeps the first one's table name for naming a
-// constructed table. Tags that lose their value stay in the list, so that they are erased.
+// Takes the values away from all table markers that are left, and keeps the first one's table name for naming
+// a constructed table. Tags that lose their value stay in the list, so that they are erased.
 void dropTableMarkers(SharedRunState &state);
 
 // True when there is nothing to anonymize; the sheet that says so is then up.

@@ -18,8 +18,8 @@ void createUidRoot(RunHost &host, NOXUtils::UuidSource &uuids);
 // The typing filter for one of the two fields, then the check.
 void filterUidField(RunHost &host, TextField field);
 
-// The Study Instance UID for one load of a configuration. A valid root's trailing dot is dropped in its field,
-// too; instead of an invalid root a fresh one is used, and the field is left as it is.
+// The Study Instance UID for one load of a configuration. A valid root's trailing dot is dropped in its
+// field, too; instead of an invalid root a fresh one is used, and the field is left as it is.
 [[nodiscard]] QString composeStudyInstanceUid(RunHost &host, NOXUtils::UuidSource &uuids);
 
 } // namespace dravolin

@@ -66,8 +66,8 @@ std::optional<pid_t> start(const Job &job, int output)
 
     pid_t child = -1;
     const std::lock_guard lock(processStartMutex());
-    const int failure = ::posix_spawn(&child, executable.constData(), actions.get(), nullptr, arguments.data(),
-                                      job.environment ? environment.data() : environ);
+    const int failure = ::posix_spawn(&child, executable.constData(), actions.get(), nullptr,
+                                      arguments.data(), job.environment ? environment.data() : environ);
     return failure == 0 ? std::optional(child) : std::nullopt;
 }
 

@@ -15,14 +15,15 @@ struct Job
     QString executable;
     QStringList arguments; // without the executable
     QString folder;        // current directory
-    std::optional<QStringList> environment; // the whole environment, "NAME=value"; nothing: the application's own
-    bool pipeOutput = false;                // collect standard output; else it is the application's own
+    std::optional<QStringList>
+        environment;         // the whole environment, "NAME=value"; nothing: the application's own
+    bool pipeOutput = false; // collect standard output; else it is the application's own
 };
 
 enum class JobOutcome {
-    Ran,          // started and ended, however it ended
+    Ran, // started and ended, however it ended
     CouldNotStart,
-    NoPipe        // no pipe could be created for its output
+    NoPipe // no pipe could be created for its output
 };
 
 struct JobResult
@@ -40,9 +41,9 @@ public:
     [[nodiscard]] virtual JobResult run(const Job &job) = 0;
 };
 
-// POSIX processes. QProcess is not used because it cannot carry folder names and arguments that are not UTF-8,
-// and because posix_spawn's cost does not grow with the application's memory. A child is left alone when the
-// application ends. One object may serve several threads.
+// POSIX processes. QProcess is not used because it cannot carry folder names and arguments that are not
+// UTF-8, and because posix_spawn's cost does not grow with the application's memory. A child is left alone
+// when the application ends. One object may serve several threads.
 class PosixJobRunner : public JobRunner
 {
 public:

@@ -23,7 +23,7 @@ struct ModalAlert
     QString title;
     QString text;
     QString defaultButton;
-    QString alternateButton; // "" for an alert with one button
+    QString alternateButton;                   // "" for an alert with one button
     AlertButton escape = AlertButton::Default; // what Escape and the close button answer
 };
 
@@ -36,8 +36,8 @@ struct AlertSheet
 
     QString message;
     QString informativeText;
-    QStringList buttons; // one to three
-    int escape = firstButton; // what Escape and the close button answer
+    QStringList buttons;                      // one to three
+    int escape = firstButton;                 // what Escape and the close button answer
     std::function<void(int code)> completion; // called on the main thread; may be empty
 };
 
@@ -47,15 +47,17 @@ struct PopupSelection
     QString title; // "" when the pop-up has no items
 };
 
-// Thrown by a RunHost off the main thread when the window is closing: the run has to end without another step.
+// Thrown by a RunHost off the main thread when the window is closing: the run has to end without another
+// step.
 class WindowClosing : public std::exception
 {
 public:
     [[nodiscard]] const char *what() const noexcept override { return "the main window is closing"; }
 };
 
-// Every operation may be called from any thread. It is carried out on the main thread and has happened when it
-// returns, unless it says otherwise; off the main thread it throws WindowClosing once the window is closing.
+// Every operation may be called from any thread. It is carried out on the main thread and has happened when
+// it returns, unless it says otherwise; off the main thread it throws WindowClosing once the window is
+// closing.
 class RunHost
 {
 public:

@@ -10,9 +10,9 @@ namespace dravolin {
 // The choices of one drop: made once, then passed by reference through the whole run.
 struct RunOptions
 {
-    bool createBAKfiles = false; // false: the tool is told to keep no backups
-    QString selectedLUT;         // title of the selected look-up table, "" for none
-    QString selectedLUTpath;     // its file, "" for none
+    bool createBAKfiles = false;      // false: the tool is told to keep no backups
+    QString selectedLUT;              // title of the selected look-up table, "" for none
+    QString selectedLUTpath;          // its file, "" for none
     std::optional<QString> theLUTtag; // the attribute bound to the table, once it is matched and loaded
 };
 

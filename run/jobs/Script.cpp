@@ -47,9 +47,10 @@ QString commandLines(const QString &prefix, const QStringList &arguments, const 
 
 QString scriptText(const QString &commands)
 {
-    return QStringLiteral("#!/bin/sh\n"
-                          "#This is a temporary file created by Dravolin. If you are reading this, the file is "
-                          "garbage that can safely be deleted.\n") +
+    return QStringLiteral(
+               "#!/bin/sh\n"
+               "#This is a temporary file created by Dravolin. If you are reading this, the file is "
+               "garbage that can safely be deleted.\n") +
            commands;
 }
 

@@ -9,10 +9,10 @@ namespace dravolin {
 // What stands behind a command's file arguments.
 struct Redirections
 {
-    QString only;        // behind the only line of a script
-    QString more;        // behind every line but the last of a split one
-    QString last;        // behind the last line of a split one
-    qsizetype counted;   // length that a redirection counts for when the length of a line is judged
+    QString only;      // behind the only line of a script
+    QString more;      // behind every line but the last of a split one
+    QString last;      // behind the last line of a split one
+    qsizetype counted; // length that a redirection counts for when the length of a line is judged
 };
 
 // The redirections of anonymization.
@@ -21,7 +21,8 @@ struct Redirections
 // `path` between two double quotes; nothing in it is escaped.
 [[nodiscard]] QString quoted(const QString &path);
 
-// The file arguments of paths: for each a blank and its last component between double quotes, nothing escaped.
+// The file arguments of paths: for each a blank and its last component between double quotes, nothing
+// escaped.
 [[nodiscard]] QStringList fileArguments(const QStringList &paths);
 
 // The command lines of `prefix` over `arguments`: one line when prefix, arguments and the counted redirection

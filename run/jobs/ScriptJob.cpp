@@ -21,8 +21,11 @@ ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QStri
     const QString script = joinPath(folder, scriptFileName);
     if (!placeScript(script, scriptText(commands)))
         return {};
-    const JobResult job = jobs.run({QStringLiteral("/bin/sh"), {QStringLiteral("-c"), quoted(script)}, folder,
-                                    toolEnvironment(paths), false});
+    const JobResult job = jobs.run({QStringLiteral("/bin/sh"),
+                                    {QStringLiteral("-c"), quoted(script)},
+                                    folder,
+                                    toolEnvironment(paths),
+                                    false});
     removeFile(script);
     if (job.outcome != JobOutcome::Ran)
         return {};

@@ -17,9 +17,9 @@ struct ScriptJobResult
     QString output;   // text of the output file; "" when there is none or when it is not UTF-8
 };
 
-// Writes `commands` with the script header into `folder`, runs it through /bin/sh there with DCMDICTPATH as its
-// whole environment, and waits. The script is deleted when it has run; the output file stays in the folder.
-// Nothing is shown or logged; what the tools report is only in the output.
+// Writes `commands` with the script header into `folder`, runs it through /bin/sh there with DCMDICTPATH as
+// its whole environment, and waits. The script is deleted when it has run; the output file stays in the
+// folder. Nothing is shown or logged; what the tools report is only in the output.
 [[nodiscard]] ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QString &folder,
                                            const QString &commands);
 

@@ -7,8 +7,9 @@
 
 namespace dravolin::test {
 
-// A RunHost without a window: what is read is what the test has set, what is shown becomes lines in `calls`, in
-// order and in full. Modal alerts take their answers from `answers`; one that nobody expected fails the test.
+// A RunHost without a window: what is read is what the test has set, what is shown becomes lines in `calls`,
+// in order and in full. Modal alerts take their answers from `answers`; one that nobody expected fails the
+// test.
 class RecordingHost : public RunHost
 {
 public:

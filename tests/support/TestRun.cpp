@@ -55,7 +55,7 @@ TestRun::TestRun()
 
 TestRun::~TestRun()
 {
-    std::error_code ignored; // QTemporaryDir cannot remove names that are not UTF-8
+    std::error_code ignored;
     std::filesystem::remove_all(folder.path().toStdString(), ignored);
 }
 

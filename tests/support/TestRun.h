@@ -10,8 +10,8 @@
 
 namespace dravolin::test {
 
-// A JobRunner that starts nothing: it writes down each job, with the script that lies in its folder, and gives
-// what `answer` gives (by default: it ran and printed nothing).
+// A JobRunner that starts nothing: it writes down each job, with the script that lies in its folder, and
+// gives what `answer` gives (by default: it ran and printed nothing).
 class RecordingJobRunner : public JobRunner
 {
 public:
@@ -41,7 +41,7 @@ class TestRun
 {
 public:
     TestRun();
-    ~TestRun();
+    ~TestRun(); // removes the tree, names that are not UTF-8 included
     TestRun(const TestRun &) = delete;
     TestRun &operator=(const TestRun &) = delete;
 
