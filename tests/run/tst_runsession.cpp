@@ -1,0 +1,120 @@
+#include "RunTrace.h"
+
+#include "config/FileSystem.h"
+#include "run/RunDriver.h"
+
+#include <QTest>
+
+namespace dravolin::test {
+
+class RunSessionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsNoCountOfErrors_data();
+    void keepsNoCountOfErrors();
+    void logsAMalformedTagOnceAFolder();
+    void removesStaleOutputInDroppedTreesAlone();
+    void keepsDicomdirsForTheSession();
+    void keepsTheSkippedFilesOfEarlierRuns();
+};
+
+void RunSessionTest::keepsNoCountOfErrors_data()
+{
+    QTest::addColumn<QString>("configuration");
+    QTest::addColumn<QStringList>("unstartable");
+    QTest::addColumn<quint64>("counted");
+    QTest::newRow("none") << QString() << QStringList() << quint64(0);
+    QTest::newRow("a malformed tag in three jobs") << str("0008,00800") << QStringList() << quint64(3);
+    QTest::newRow("jobs that do not start")
+        << QString() << QStringList({str("~/in/Sub"), str("~/files")}) << quint64(2);
+    QTest::newRow("both") << str("0008,0080X\n12") << QStringList({str("~/in/Sub"), str("~/in")})
+                          << quint64(8);
+}
+
+void RunSessionTest::keepsNoCountOfErrors()
+{
+    QFETCH(QString, configuration);
+    QFETCH(QStringList, unstartable);
+    const LogCatcher log;
+    TracedRun run;
+    run.configure(configuration);
+    run.unstartable = unstartable;
+    run.makeFolder(str("in/Sub"));
+    run.makeFolder(str("files"));
+    Drop drop = run.drop({run.path(str("in"))}, {run.path(str("files/1"))});
+    QCOMPARE(processDroppedItems(run.context, drop.folders, drop.individualFiles, drop.options), quint64(0));
+    QTEST(run.state.get(&RunState::errCount), "counted");
+    run.host.calls.clear();
+
+    performRun(run.context, drop); // though what the run before has counted is still there
+
+    QCOMPARE(run.host.calls.last(endCalls(QString()).size()), endCalls(str("\nDone!")));
+    QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
+}
+
+void RunSessionTest::logsAMalformedTagOnceAFolder()
+{
+    const LogCatcher log;
+    TracedRun run;
+    run.configure(str("0008,0080X\n"));
+    run.makeFolder(str("in/Sub"));
+    Drop drop = run.drop({run.path(str("in"))}, {});
+    performRun(run.context, drop);
+    QCOMPARE(LogCatcher::messages(), QStringList({str("Ignoring malformed tag: 0008,0080X"),
+                                                  str("Ignoring malformed tag: 0008,0080X")}));
+}
+
+void RunSessionTest::removesStaleOutputInDroppedTreesAlone()
+{
+    TracedRun run;
+    run.configure(QString());
+    const QString inTree = run.writeFile(str("in/Sub/.noxTemp.out"), str("E: stale in the tree\n"));
+    const QString inTop = run.writeFile(str("in/.noxTemp.out"), str("E: stale at the top\n"));
+    const QString script = run.writeFile(str("in/Sub/.noxTemp.sh"), str("rm -rf /\n"));
+    run.writeFile(str("files/.noxTemp.out"), str("E: stale beside files\n"));
+    Drop drop = run.drop({run.path(str("in"))}, {run.path(str("files/1"))});
+    performRun(run.context, drop);
+    QVERIFY(!pathExists(inTree) && !pathExists(inTop) && !pathExists(script));
+    QCOMPARE(run.host.calls.last(endCalls(QString()).size() + 1),
+             QStringList(str("log window: E: stale beside files\n\n")) +
+                 endCalls(str("\nDone, with 1 error.")));
+}
+
+void RunSessionTest::keepsDicomdirsForTheSession()
+{
+    TracedRun run;
+    run.configure(QString());
+    run.makeFolder(str("in"));
+    run.printed[str("~/in")] = "./DICOMDIR\n";
+    Drop drop = run.drop({run.path(str("in"))}, {});
+    const QString note =
+        str("log window: Mind you: DICOMDIR files were found.\n"
+            "They do not contain DICOM tags to anonymize but still contain PHI:\n./DICOMDIR\n");
+    const qsizetype count = endCalls(QString()).size() + 1;
+    performRun(run.context, drop);
+    QCOMPARE(run.host.calls.last(count), QStringList(note + u'\n') + endCalls(str("\nDone, with 0 errors.")));
+    performRun(run.context, drop);
+    QCOMPARE(run.host.calls.last(count),
+             QStringList(note + str("./DICOMDIR\n\n")) + endCalls(str("\nDone, with 0 errors.")));
+    Drop empty;
+    performRun(run.context, empty);
+    QCOMPARE(run.host.calls.last(count),
+             QStringList(note + str("./DICOMDIR\n\n")) + endCalls(str("\nDone, with 0 errors.")));
+}
+
+void RunSessionTest::keepsTheSkippedFilesOfEarlierRuns()
+{
+    TracedRun run;
+    run.configure(QString());
+    run.state.set(&RunState::numLUTskippedFiles, quint64(3));
+    Drop drop = run.drop({run.makeFolder(str("in"))}, {});
+    performRun(run.context, drop);
+    QCOMPARE(run.state.get(&RunState::numLUTskippedFiles), quint64(3));
+}
+
+} // namespace dravolin::test
+
+QTEST_GUILESS_MAIN(dravolin::test::RunSessionTest)
+#include "tst_runsession.moc"
