@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class LogWindow;
+}
+
+namespace dravolin {
+
+// The window that shows a run's error lines and notes. Main thread only; the window goes with its controller.
+class LogWindowController
+{
+public:
+    LogWindowController();
+    ~LogWindowController();
+    LogWindowController(const LogWindowController &) = delete;
+    LogWindowController &operator=(const LogWindowController &) = delete;
+
+    // Centres the window on its screen, shows it and replaces its whole text, which is shown as it is.
+    void showWithText(const QString &text);
+
+    [[nodiscard]] QPlainTextEdit *logTextView() const { return m_logTextView; }
+    void setLogTextView(QPlainTextEdit *view) { m_logTextView = view; }
+    [[nodiscard]] QWidget *window() const { return m_window.get(); }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    QPlainTextEdit *m_logTextView = nullptr;
+};
+
+// Moves a window to the middle of its screen.
+void centerOnScreen(QWidget &window);
+
+} // namespace dravolin

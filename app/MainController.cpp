@@ -1,0 +1,173 @@
+#include "app/MainController.h"
+
+#include "app/MainWindow.h"
+#include "run/DropIntake.h"
+#include "run/RunDriver.h"
+#include "run/UidRootFields.h"
+#include "ui_MainWindow.h"
+
+#include <QSettings>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace dravolin {
+
+namespace {
+
+const QString uidRootKey = QStringLiteral("uidRoot");
+
+QSettings preferences()
+{
+    return QSettings(executableName(), executableName());
+}
+
+std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
+{
+    auto controls = std::make_unique<Ui::MainWindow>();
+    controls->setupUi(&window);
+    controls->dragDropView->setImageFolder(paths.resourceFolder);
+    controls->horLine->hide();
+    controls->progressBar->hide();
+    window.setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
+    return controls;
+}
+
+} // namespace
+
+MainController::MainController(const AppPorts &ports)
+    : m_paths(ports.paths), m_delays(ports.delays), m_presenter(ports.presenter),
+      m_window(std::make_unique<MainWindow>()), m_controls(layOut(*m_window, m_paths)),
+      m_host(m_gate, *m_window, *m_controls, m_presenter, m_delays,
+             [this](const QString &text) { showLogWindowWithLogText(text); }),
+      m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids, m_delays}
+{
+    connectControls();
+}
+
+MainController::~MainController()
+{
+    m_gate.close();
+    for (QThread *run : std::as_const(m_runs))
+        run->wait();
+    qDeleteAll(m_runs);
+}
+
+void MainController::connectControls()
+{
+    const Ui::MainWindow &c = *m_controls;
+    const auto typed = [this](QLineEdit *edit, TextField field) {
+        connect(edit, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
+    };
+    typed(c.uidRootTextField, TextField::UidRoot);
+    typed(c.caseIDTextField, TextField::CaseId);
+    // clicked and activated come from the user alone, so that no rule sets off another
+    connect(c.prepopulateLUTcheckbox, &QCheckBox::clicked, this,
+            &MainController::prepopulateLUTcheckboxDidChange);
+    connect(c.generateSOPCheckbox, &QCheckBox::clicked, this, &MainController::generateSOPCheckboxChanged);
+    connect(c.onlyGenerateSOPCheckbox, &QCheckBox::clicked, this,
+            &MainController::onlyGenerateSOPCheckboxChanged);
+    connect(c.selectLUTpopupButton, &QComboBox::activated, this, &MainController::selectLUTcheckboxChanged);
+    connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
+    connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
+    connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
+    connect(static_cast<MainWindow *>(m_window.get()), &MainWindow::willClose, this,
+            &MainController::windowWillClose);
+}
+
+void MainController::initAndShow()
+{
+    centerOnScreen(*m_window);
+    m_window->show();
+    m_controls->dragDropView->setDelegate(this);
+    getLUTpathsAndPopulateButton();
+    restoreUidRoot();
+    QTimer::singleShot(m_delays.beforeConfigurationScan, this,
+                       &MainController::getConfigurationFilePathsAndPopulateButton);
+}
+
+void MainController::restoreUidRoot()
+{
+    const QString root = preferences().value(uidRootKey).toString();
+    if (root.isEmpty())
+        return;
+    m_controls->uidRootTextField->setText(root);
+    checkUIDroot();
+}
+
+void MainController::windowWillClose()
+{
+    const QString root = m_controls->uidRootTextField->text();
+    if (!root.isEmpty()) {
+        QSettings settings = preferences();
+        settings.setValue(uidRootKey, root);
+        settings.sync();
+    }
+    Q_EMIT closed();
+}
+
+bool MainController::runIsUnderWay() const
+{
+    return std::any_of(m_runs.cbegin(), m_runs.cend(), [](const QThread *run) { return run->isRunning(); });
+}
+
+void MainController::handleDroppedPaths(const QStringList &paths)
+{
+    if (const std::optional<Drop> drop = takeDrop(m_context, paths))
+        startBackgroundTaskWithArguments(*drop);
+}
+
+void MainController::startBackgroundTaskWithArguments(Drop drop)
+{
+    // intended: one operation for both threads, the thread that calls it decides which half is meant
+    if (m_gate.onMainThread())
+        prepareWindow(m_context, [this, drop] { startRunThread(drop); });
+    else
+        performRun(m_context, drop);
+}
+
+void MainController::startRunThread(const Drop &drop)
+{
+    QThread *const run = QThread::create([this, drop] {
+        try {
+            startBackgroundTaskWithArguments(drop);
+        } catch (const WindowClosing &) {
+            // the application is ending; what this run had still to do is left
+        }
+    });
+    m_runs.append(run);
+    connect(run, &QThread::finished, this, [this, run] {
+        m_runs.removeOne(run);
+        run->deleteLater();
+    });
+    run->start();
+}
+
+void MainController::showLogWindowWithLogText(const QString &text)
+{
+    if (!m_gate.onMainThread()) {
+        QMetaObject::invokeMethod(
+            this, [this, text] { showLogWindowWithLogText(text); }, Qt::QueuedConnection);
+        return;
+    }
+    m_logWinController = std::make_unique<LogWindowController>();
+    m_logWinController->showWithText(text);
+}
+
+bool MainController::checkUIDroot()
+{
+    return checkUidRoot(m_host);
+}
+
+void MainController::createUIDrootAction()
+{
+    createUidRoot(m_host, m_context.uuids);
+}
+
+void MainController::controlTextDidChange(TextField field)
+{
+    if (field == TextField::UidRoot || field == TextField::CaseId)
+        filterUidField(m_host, field);
+}
+
+} // namespace dravolin

@@ -1,0 +1,158 @@
+// What check boxes, pop-ups and buttons of the main window set off.
+#include "app/MainController.h"
+
+#include "config/DirectoryLocations.h"
+#include "identifiers/SystemLog.h"
+#include "identifiers/Texts.h"
+#include "run/LutSteps.h"
+#include "ui_MainWindow.h"
+
+namespace dravolin {
+
+namespace {
+
+const QString webSite = QStringLiteral("https://dravolin.example/");
+
+} // namespace
+
+void MainController::apply(const CheckBoxChanges &changes)
+{
+    const auto set = [](QCheckBox *box, std::optional<bool> on) {
+        if (on)
+            box->setChecked(*on);
+    };
+    set(m_controls->overWriteSourceCheckbox, changes.overwriteSource);
+    // intended: the drop view keeps its picture when another check box switches construction off
+    set(m_controls->prepopulateLUTcheckbox, changes.prepopulate);
+    set(m_controls->generateSOPCheckbox, changes.generateSOP);
+    set(m_controls->onlyGenerateSOPCheckbox, changes.onlyGenerateSOP);
+    if (changes.selectNoTable)
+        m_controls->selectLUTpopupButton->setCurrentIndex(0);
+}
+
+void MainController::prepopulateLUTcheckboxDidChange()
+{
+    const bool on = m_controls->prepopulateLUTcheckbox->isChecked();
+    if (on) {
+        getConfigurationFilePathsAndPopulateButton();
+        loadTagsToAnonymizeFromPath(
+            m_state.get(&RunState::allConfigPaths).value(m_controls->selectConfigPopupButton->currentText()));
+        const NewValueDict values = m_state.get(&RunState::newValueDict);
+        const qsizetype marker = indexOfFirstTableMarker(values);
+        m_state.set(&RunState::LUTconstructionTag, marker < 0 ? QString() : values.keys().at(marker));
+        if (marker < 0) {
+            refuseConstruction();
+            return;
+        }
+        apply(prepopulateRule());
+    }
+    m_controls->dragDropView->setImageForLUTcheckboxState(on ? 1 : 0);
+}
+
+void MainController::refuseConstruction()
+{
+    AlertSheet sheet;
+    sheet.message =
+        Texts::tr("Your configuration file provided no <LUT_XX> field to indicate which DICOM tag should be "
+                  "used for constructing the LUT.");
+    sheet.buttons = {Texts::tr("Ok"), Texts::tr("Quit")};
+    sheet.completion = [this](int code) {
+        if (code == AlertSheet::secondButton) {
+            m_window->close();
+            return;
+        }
+        m_controls->prepopulateLUTcheckbox->setChecked(false);
+        m_controls->dragDropView->setImageForLUTcheckboxState(0);
+    };
+    m_host.showSheet(sheet);
+}
+
+void MainController::selectLUTcheckboxChanged()
+{
+    apply(selectLUTRule());
+}
+
+void MainController::generateSOPCheckboxChanged()
+{
+    apply(generateSOPRule(m_controls->generateSOPCheckbox->isChecked()));
+}
+
+void MainController::onlyGenerateSOPCheckboxChanged()
+{
+    apply(onlyGenerateSOPRule(m_controls->onlyGenerateSOPCheckbox->isChecked(),
+                              !m_state.get(&RunState::allLUTsPaths).isEmpty()));
+}
+
+void MainController::getConfigurationFilePathsAndPopulateButton()
+{
+    const FoundConfigurations found = findConfigurations(m_paths);
+    m_state.set(&RunState::allConfigPaths, found.allConfigPaths);
+    m_controls->selectConfigPopupButton->clear();
+    m_controls->selectConfigPopupButton->addItems(found.allConfigPaths.keys());
+    m_controls->selectConfigPopupButton->setCurrentIndex(0);
+    if (found.revertedToDefault)
+        tellDefaultConfiguration();
+}
+
+void MainController::getLUTpathsAndPopulateButton()
+{
+    refreshTables(m_context);
+}
+
+void MainController::tellDefaultConfiguration()
+{
+    AlertSheet sheet;
+    // intended: both texts as they are, missing space and folder name included
+    sheet.message = Texts::tr("Reverting to default anonymization config from "
+                              "'DefaultAnonymizationConfiguration.txt'from the Application Bundle.");
+    sheet.informativeText = Texts::tr(
+        "\nThe application looks for 'AnonymizationConfiguration.txt' in 4 locations, in this order:\n\n"
+        "1- In the Application Bundle itself\n"
+        "2- On the Desktop\n"
+        "3- In the folder where the Application Bundle is\n"
+        "4- In ~/Library/Applications Support/Dravolin/\n\n"
+        "If not found in any of those places, it reverts to the default configuration, which may not be "
+        "what you want.\n\n\n");
+    sheet.buttons = {Texts::tr("Save copy to Configuration folder & Quit"), Texts::tr("Continue")};
+    sheet.escape = AlertSheet::secondButton;
+    sheet.completion = [this](int code) {
+        if (code == AlertSheet::firstButton)
+            saveDefaultConfigurationAndQuit();
+    };
+    m_host.showSheet(sheet);
+}
+
+void MainController::saveDefaultConfigurationAndQuit()
+{
+    const ConfigurationFolder folder = configurationFolder(m_paths);
+    if (!folder.usable) {
+        logMessage(QStringLiteral(
+            "Could not save default config to configuration folder, saving to desktop instead"));
+        m_host.runModalAlert({Texts::tr("Could not access or create config folder"),
+                              Texts::tr("Failed to access or create the configuration folder "
+                                        "at:\n%1\n\nSaving a copy of the default "
+                                        "Configuration to the Desktop instead.\n\n")
+                                  .arg(folder.path),
+                              Texts::tr("Save to Desktop & Quit"), QString()});
+    }
+    const QString copy =
+        copyDefaultConfiguration(m_paths, folder.usable ? folder.path : m_paths.desktopFolder,
+                                 QStringLiteral("AnonymizationConfiguration_Default.txt"));
+    m_opener.reveal(copy, [this] { m_window->close(); });
+}
+
+void MainController::toolbarTextClicked()
+{
+    const ModalAlert question = {Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
+                                 QString(), Texts::tr("Yes, sure"), Texts::tr("No, don't"),
+                                 AlertButton::Alternate};
+    if (m_host.runModalAlert(question) == AlertButton::Default)
+        m_opener.openUrl(webSite);
+}
+
+void MainController::showConfigInFinder()
+{
+    m_opener.openUrl(applicationSupportPath(m_paths));
+}
+
+} // namespace dravolin

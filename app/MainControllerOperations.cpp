@@ -1,0 +1,71 @@
+// The operations of MainController that only name a function of the core.
+#include "app/MainController.h"
+
+#include "config/LutDiscovery.h"
+#include "processing/FolderAnonymization.h"
+#include "processing/FolderTree.h"
+#include "run/OutputAnalysis.h"
+#include "run/RunDriver.h"
+
+namespace dravolin {
+
+quint64 MainController::processDICOMfoldersAndIndividualFilesWithOptions(const QStringList &folders,
+                                                                         const QStringList &files,
+                                                                         RunOptions &options)
+{
+    return processDroppedItems(m_context, folders, files, options);
+}
+
+void MainController::parseLog()
+{
+    dravolin::parseLog(m_context);
+}
+
+QStringList MainController::loadTagsToAnonymizeFromPath(const QString &path)
+{
+    loadTagsToAnonymize(m_context, path);
+    return m_state.get(&RunState::allTagsToAnonymize);
+}
+
+TitleToPath MainController::getConfigsAtPath(const QString &folder) const
+{
+    return configsAtPath(folder);
+}
+
+TitleToPath MainController::getLUTsAtPath(const QString &folder) const
+{
+    return lutsAtPath(folder);
+}
+
+quint64 MainController::anonymizeTagsForDICOMFilesInFolderWithOptions(const QStringList &tags,
+                                                                      const QString &folder,
+                                                                      const RunOptions &options)
+{
+    return anonymizeFolder(m_context, tags, folder, options);
+}
+
+quint64 MainController::anonymizeTagsInDICOMFilesInFolderWithOptions(const QStringList &tags,
+                                                                     const QStringList &files,
+                                                                     const QString &folder,
+                                                                     const RunOptions &options)
+{
+    return anonymizeFiles(m_context, tags, files, folder, options);
+}
+
+quint64 MainController::recursivelyCountOfFolderInFolderTree(const QString &folder)
+{
+    return countFolderTree(m_context, folder);
+}
+
+quint64 MainController::recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
+    const QStringList &tags, const QString &folder, const RunOptions &options)
+{
+    return anonymizeFolderTree(m_context, tags, folder, options);
+}
+
+QStringList MainController::findDICOMDIRsAtPath(const QString &folder)
+{
+    return findDicomdirs(m_context, folder);
+}
+
+} // namespace dravolin

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/AlertPresenter.h"
+#include "app/MainController.h"
+#include "identifiers/NOXUtils.h"
+#include "run/jobs/JobRunner.h"
+
+#include <QTranslator>
+
+#include <memory>
+
+namespace dravolin {
+
+// Makes the application out of its real parts. Main thread only.
+class QVAppDelegate
+{
+public:
+    // Creates the main window and its controller and shows it. Closing it leaves the event loop.
+    void applicationDidFinishLaunching();
+
+    // Ends the program with `code` when runs are still under way: they are left where they are, and a tool
+    // that is running finishes its files by itself. Returns when there are none.
+    void applicationWillTerminate(int code);
+
+private:
+    QTranslator m_texts; // the string table of the user's language, "dravolin_XX.qm", when there is one
+    PosixJobRunner m_jobs;
+    NOXUtils::RandomUuidSource m_uuids;
+    MessageBoxPresenter m_presenter;
+    std::unique_ptr<MainController> m_controller;
+};
+
+} // namespace dravolin

@@ -1,0 +1,192 @@
+#include "app/QVDragDropView.h"
+
+#include "config/FileSystem.h"
+#include "identifiers/Texts.h"
+
+#include <QDragEnterEvent>
+#include <QPainter>
+#include <QSet>
+#include <QSysInfo>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace dravolin {
+
+namespace {
+
+const QString dragImage = QStringLiteral("DragImage.png");
+const QString lutImage = QStringLiteral("LutImage.png");
+constexpr qreal highlightWidth = 6.0;
+
+bool isLocalFile(const QUrl &url)
+{
+    const QString host = url.host();
+    return url.isLocalFile() && (host.isEmpty() || host == QStringLiteral("localhost") ||
+                                 host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
+}
+
+// QUrl::toLocalFile would replace bytes that are not UTF-8.
+QString localPath(const QUrl &url)
+{
+    if (!isLocalFile(url))
+        return {};
+    QString path = fromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    return path;
+}
+
+bool isPicture(const QString &path)
+{
+    static const QSet<QString> extensions = [] {
+        const QString list =
+            QStringLiteral("png jpg jpeg tiff pdf pic ps bmp pct pict eps mac pnt ico psd icns "
+                           "nef dng tif jpf jp2 gif jfif");
+        const QStringList items = list.split(u' ');
+        return QSet<QString>(items.cbegin(), items.cend());
+    }();
+    return extensions.contains(pathExtension(path).toLower());
+}
+
+} // namespace
+
+QStringList droppedPaths(const QMimeData &drag)
+{
+    QStringList paths;
+    for (const QUrl &url : drag.urls())
+        paths.append(localPath(url));
+    return paths;
+}
+
+QVDragDropView::QVDragDropView(QWidget *parent) : QWidget(parent)
+{
+    setAcceptDrops(true);
+    setImageForLUTcheckboxState(0);
+}
+
+void QVDragDropView::setImageFolder(const QString &folder)
+{
+    m_imageFolder = folder;
+    m_image.load(joinPath(m_imageFolder, m_imageName));
+    update();
+}
+
+void QVDragDropView::setImageForLUTcheckboxState(int state)
+{
+    m_imageName = state == 1 ? lutImage : dragImage;
+    m_image.load(joinPath(m_imageFolder, m_imageName));
+    setAccessibleDescription(state == 1 ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
+    update();
+}
+
+Qt::DropAction QVDragDropView::draggingEntered(const QMimeData &drag)
+{
+    const QList<QUrl> urls = drag.urls();
+    const bool acceptable = std::all_of(urls.cbegin(), urls.cend(), isLocalFile);
+    setHighlighted(acceptable);
+    return acceptable ? Qt::CopyAction : Qt::IgnoreAction;
+}
+
+bool QVDragDropView::performDragOperation(const QMimeData &drag)
+{
+    setHighlighted(false);
+    if (!drag.hasUrls())
+        return true;
+    const QStringList paths = droppedPaths(drag);
+    const bool pictureFirst = !paths.isEmpty() && isPicture(paths.first());
+    // intended: a single picture does nothing at all
+    if (!pictureFirst || paths.size() >= 2)
+        handOn(paths);
+    return !pictureFirst;
+}
+
+void QVDragDropView::handOn(const QStringList &paths)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths] {
+            if (m_delegate)
+                m_delegate->handleDroppedPaths(paths);
+        },
+        Qt::QueuedConnection);
+}
+
+void QVDragDropView::setHighlighted(bool highlighted)
+{
+    m_isHighlighted = highlighted;
+    update();
+}
+
+QSize QVDragDropView::sizeHint() const
+{
+    return {480, 190};
+}
+
+QSize QVDragDropView::minimumSizeHint() const
+{
+    return {240, 120};
+}
+
+void QVDragDropView::dragEnterEvent(QDragEnterEvent *event)
+{
+    // only file-name lists are of interest here
+    if (!event->mimeData()->hasUrls() || draggingEntered(*event->mimeData()) != Qt::CopyAction) {
+        event->ignore();
+        return;
+    }
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void QVDragDropView::dragLeaveEvent(QDragLeaveEvent *)
+{
+    draggingExited();
+}
+
+void QVDragDropView::dropEvent(QDropEvent *event)
+{
+    if (!performDragOperation(*event->mimeData())) {
+        event->ignore();
+        return;
+    }
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+QString QVDragDropView::hint() const
+{
+    return m_imageName == lutImage
+               ? Texts::tr("Drop folders or DICOM files here to construct a look-up table")
+               : Texts::tr("Drop folders or DICOM files here to anonymize them");
+}
+
+void QVDragDropView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1.5, Qt::DashLine));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(frame, 10, 10);
+
+    const qreal margin = 12;
+    const qreal textHeight = fontMetrics().height() * 1.2;
+    const QRectF textArea(margin, height() - margin - textHeight, width() - 2 * margin, textHeight);
+    const QRectF imageArea(margin, margin, width() - 2 * margin, textArea.top() - 2 * margin);
+    if (!m_image.isNull() && imageArea.height() > 0) {
+        const QSizeF size = QSizeF(m_image.size()).scaled(imageArea.size(), Qt::KeepAspectRatio);
+        const QPointF corner = imageArea.center() - QPointF(size.width(), size.height()) / 2;
+        painter.drawPixmap(QRectF(corner, size), m_image, QRectF(m_image.rect()));
+    }
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(textArea, Qt::AlignCenter,
+                     fontMetrics().elidedText(hint(), Qt::ElideRight, static_cast<int>(textArea.width())));
+    if (!m_isHighlighted)
+        return;
+    painter.setPen(QPen(palette().highlight(), highlightWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 8, 8);
+}
+
+} // namespace dravolin

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QMimeData>
+#include <QPixmap>
+#include <QStringList>
+#include <QWidget>
+
+namespace dravolin {
+
+// Receives what was dropped.
+class QVDragDropViewDelegate
+{
+public:
+    virtual ~QVDragDropViewDelegate() = default;
+    virtual void handleDroppedPaths(const QStringList &paths) = 0;
+};
+
+// The picture on which folders and files are dropped. It tells what a drop will do and highlights itself
+// while an acceptable drag is over it. Main thread only.
+class QVDragDropView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit QVDragDropView(QWidget *parent = nullptr);
+
+    // The delegate is not owned; null takes it away.
+    void setDelegate(QVDragDropViewDelegate *delegate) { m_delegate = delegate; }
+    // The folder of "DragImage.png" and "LutImage.png".
+    void setImageFolder(const QString &folder);
+    // "LutImage.png" when `state` is exactly 1, else "DragImage.png".
+    void setImageForLUTcheckboxState(int state);
+    [[nodiscard]] QString imageName() const { return m_imageName; }
+
+    // Sets the highlight and answers copy, or clears it and refuses when a dragged address is no local file.
+    Qt::DropAction draggingEntered(const QMimeData &drag);
+    void draggingExited() { setHighlighted(false); }
+    // False for a picture as the first path, so that the drag's source keeps it; more paths behind it are
+    // handed on all the same. The delegate is called later, so that the source is free while it asks.
+    bool performDragOperation(const QMimeData &drag);
+
+    [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
+    void setHighlighted(bool highlighted);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    [[nodiscard]] QString hint() const;
+    void handOn(const QStringList &paths);
+
+    QVDragDropViewDelegate *m_delegate = nullptr;
+    bool m_isHighlighted = false;
+    QString m_imageFolder;
+    QString m_imageName;
+    QPixmap m_image;
+};
+
+// The paths of a drag's file-name list, byte for byte, without a separator at the end; addresses that are no
+// local files give empty paths.
+[[nodiscard]] QStringList droppedPaths(const QMimeData &drag);
+
+} // namespace dravolin

@@ -1,0 +1,16 @@
+#include "app/QVAppDelegate.h"
+#include "config/AppPaths.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(dravolin::executableName());
+    QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the log window
+    dravolin::QVAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    const int code = QApplication::exec();
+    delegate.applicationWillTerminate(code);
+    return code;
+}

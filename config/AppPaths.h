@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace dravolin {
+
+// Where everything lies; decided once at start and then a plain value. Any thread may read it.
+struct AppPaths
+{
+    QString resourceFolder;    // the tools, the dictionary, the default configuration, the pictures
+    QString applicationFolder; // the folder that contains the executable
+    QString desktopFolder;     // the user's desktop; may not exist
+    // The system's application support folders, the user's own first; may not exist, may be empty.
+    QStringList applicationSupportFolders;
+
+    // For the executable at `executable`: its folder's "resources" when that exists, else
+    // "../share/dravolin".
+    [[nodiscard]] static AppPaths forExecutable(const QString &executable);
+
+    // The path of the resource `name`, whether it exists or not.
+    [[nodiscard]] QString resource(const QString &name) const;
+    [[nodiscard]] QString dcmodify() const { return resource(QStringLiteral("dcmodify")); }
+    [[nodiscard]] QString dcmdump() const { return resource(QStringLiteral("dcmdump")); }
+    [[nodiscard]] QString dictionary() const { return resource(QStringLiteral("dicom.dic")); }
+    [[nodiscard]] QString defaultConfiguration() const
+    {
+        return resource(QStringLiteral("DefaultAnonymizationConfiguration.txt"));
+    }
+};
+
+// The name that the application's own folders carry.
+inline QString executableName()
+{
+    return QStringLiteral("Dravolin");
+}
+
+} // namespace dravolin

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// Files and paths by name. A path is a QString that stands for exact bytes: bytes that are not UTF-8 are held
+// as lone low surrogates U+DC80..U+DCFF (Python's PEP 383 does the same), so that every name that the file
+// system allows can be listed, shown, run in and deleted. Qt's own file classes lose such names.
+// All functions may be called from any thread; none of them follows a failure with an exception.
+namespace dravolin {
+
+// The bytes of a path or text; the inverse of fromBytes.
+[[nodiscard]] QByteArray toBytes(const QString &text);
+// A path or name from its bytes.
+[[nodiscard]] QString fromBytes(const QByteArray &bytes);
+// Strict UTF-8: nothing when a single byte is wrong. A byte-order mark is dropped.
+[[nodiscard]] std::optional<QString> decodeUtf8(const QByteArray &bytes);
+
+// `folder` and `name` with exactly one separator between them.
+[[nodiscard]] QString joinPath(const QString &folder, const QString &name);
+[[nodiscard]] QString lastPathComponent(const QString &path);
+// The path of the folder that holds `path`; "/" for an entry of the root.
+[[nodiscard]] QString parentPath(const QString &path);
+// What stands behind the last dot of the last component, without the dot; "" for a name such as ".txt".
+[[nodiscard]] QString pathExtension(const QString &path);
+[[nodiscard]] QString withoutExtension(const QString &name);
+
+// The names in a folder in the file system's own order, hidden ones and broken links included, without "."
+// and ".."; empty when the folder cannot be listed.
+[[nodiscard]] QStringList listNames(const QString &folder);
+// The same, only the folders: directories by their own attributes, a link to one is not; entries whose
+// attributes cannot be read are left out.
+[[nodiscard]] QStringList listFolderNames(const QString &folder);
+[[nodiscard]] bool isFolder(const QString &path);
+// Follows links: a broken link does not exist.
+[[nodiscard]] bool pathExists(const QString &path);
+
+// The whole file; nothing when it cannot be opened or read (a folder, for instance).
+[[nodiscard]] std::optional<QByteArray> readBytes(const QString &path);
+// readBytes, then decodeUtf8.
+[[nodiscard]] std::optional<QString> readText(const QString &path);
+// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written; a
+// partly written file may stay behind.
+[[nodiscard]] bool writeText(const QString &path, const QString &text);
+// Sets the permissions to 0777.
+[[nodiscard]] bool makeExecutable(const QString &path);
+struct FolderError
+{
+    int code = 0; // errno
+    QString text;
+};
+// Creates a folder with all missing parents; an existing folder counts as success. `error` (may be null) gets
+// the system's error on failure.
+[[nodiscard]] bool createFolder(const QString &path, FolderError *error = nullptr);
+// Copies a file; false, and nothing changed, when the target exists already.
+[[nodiscard]] bool copyFile(const QString &from, const QString &to);
+// Failures, a missing file among them, are ignored.
+void removeFile(const QString &path);
+
+} // namespace dravolin

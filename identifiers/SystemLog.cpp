@@ -1,0 +1,12 @@
+#include "identifiers/SystemLog.h"
+
+#include <QDebug>
+
+namespace dravolin {
+
+void logMessage(const QString &text)
+{
+    qWarning().noquote() << text;
+}
+
+} // namespace dravolin

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace dravolin {
+
+// Writes one message to the system log: through Qt's message handler, which is standard error and, for a
+// program that the desktop started, the session's journal. Any thread.
+void logMessage(const QString &text);
+
+} // namespace dravolin

@@ -1,0 +1,78 @@
+#include "processing/FolderAnonymization.h"
+
+#include "identifiers/SystemLog.h"
+#include "run/jobs/Script.h"
+#include "run/jobs/ScriptJob.h"
+
+namespace dravolin {
+
+namespace {
+
+constexpr qsizetype tagLength = 9; // gggg,eeee; only the length is looked at
+
+QString preparedPrefix(const RunContext &context, const QStringList &tags, const RunOptions &options)
+{
+    const AnonymizationChoices choices = {options.createBAKfiles,
+                                          context.host.checkState(CheckBox::GenerateSOP),
+                                          context.host.checkState(CheckBox::OnlyGenerateSOP)};
+    const AnonymizationCommand command = anonymizationCommand(
+        context.paths.dcmodify(), tags, context.state.get(&RunState::newValueDict), choices);
+    for (const QString &tag : command.malformedTags)
+        logMessage(QStringLiteral("Ignoring malformed tag: %1").arg(tag));
+    context.state.add(&RunState::errCount, static_cast<quint64>(command.malformedTags.size()));
+    return command.prefix;
+}
+
+quint64 runAndCollect(const RunContext &context, const QString &folder, const QString &commands)
+{
+    const ScriptJobResult result = runScriptJob(context.jobs, context.paths, folder, commands);
+    context.state.update([&](RunState &state) { state.output += result.output; });
+    return result.ran ? 0 : 1;
+}
+
+} // namespace
+
+AnonymizationCommand anonymizationCommand(const QString &tool, const QStringList &tags,
+                                          const NewValueDict &newValues, const AnonymizationChoices &choices)
+{
+    AnonymizationCommand command{quoted(tool) + QStringLiteral(" -ie -imt"), {}};
+    if (!choices.createBAKfiles)
+        command.prefix += QStringLiteral(" -nb");
+    if (choices.generateSOP == Qt::Checked)
+        command.prefix += QStringLiteral(" -gin");
+    if (choices.onlyGenerateSOP != Qt::Unchecked)
+        return command;
+
+    for (const QString &entry : tags) {
+        const QString tag = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(entry);
+        if (tag.size() == tagLength) {
+            // intended: the shell sees quotes, dollars and backquotes of a value as they are
+            const QString value = newValues.value(tag);
+            command.prefix += value.isEmpty() ? QStringLiteral(" -ea \"(%1)\"").arg(tag)
+                                              : QStringLiteral(" -i \"(%1)=%2\"").arg(tag, value);
+        } else if (!tag.isEmpty()) {
+            command.malformedTags.append(tag);
+        }
+    }
+    return command;
+}
+
+quint64 anonymizeFolder(const RunContext &context, const QStringList &tags, const QString &folder,
+                        const RunOptions &options)
+{
+    const QString prefix = preparedPrefix(context, tags, options);
+    return runAndCollect(context, folder, prefix + QStringLiteral(" *") + appendingRedirections().only);
+}
+
+quint64 anonymizeFiles(const RunContext &context, const QStringList &tags, const QStringList &files,
+                       const QString &folder, const RunOptions &options)
+{
+    if (files.isEmpty() || folder.isEmpty())
+        return 0;
+    const QString prefix = preparedPrefix(context, tags, options);
+    return runAndCollect(context, folder,
+                         commandLines(prefix, fileArguments(files), appendingRedirections(),
+                                      context.state.get(&RunState::max_arg_len)));
+}
+
+} // namespace dravolin

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "run/jobs/RunContext.h"
+#include "run/jobs/RunOptions.h"
+
+#include <QString>
+#include <QStringList>
+
+// From the tag list to one dcmodify job for one folder, or for a list of files in one folder.
+namespace dravolin {
+
+// What decides a command besides the tags.
+struct AnonymizationChoices
+{
+    bool createBAKfiles = false;
+    Qt::CheckState generateSOP = Qt::Unchecked;     // new SOP Instance UIDs only when exactly on
+    Qt::CheckState onlyGenerateSOP = Qt::Unchecked; // tags only when exactly off
+};
+
+struct AnonymizationCommand
+{
+    QString prefix;            // quoted tool path, options and tag arguments
+    QStringList malformedTags; // neither empty nor of nine characters, in list order
+};
+
+// The command's part in front of its files. Tags of nine UTF-16 units with a value that is not empty are
+// inserted (-i), the others erased at every level (-ea). Pure; values and tags are not escaped.
+[[nodiscard]] AnonymizationCommand anonymizationCommand(const QString &tool, const QStringList &tags,
+                                                        const NewValueDict &newValues,
+                                                        const AnonymizationChoices &choices);
+
+// Runs the tool over every visible entry of `folder` (a shell glob). 1 when the job could not be started,
+// else 0; malformed tags are logged and added to errCount, the tool's text to output. Blocks; not for the
+// main thread.
+[[nodiscard]] quint64 anonymizeFolder(const RunContext &context, const QStringList &tags,
+                                      const QString &folder, const RunOptions &options);
+
+// The same for `files`, which are looked for in `folder` by their names; a long list makes several commands.
+// 0 at once when there are no files or `folder` is empty.
+[[nodiscard]] quint64 anonymizeFiles(const RunContext &context, const QStringList &tags,
+                                     const QStringList &files, const QString &folder,
+                                     const RunOptions &options);
+
+} // namespace dravolin

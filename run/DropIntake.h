@@ -1,0 +1,28 @@
+#pragma once
+
+#include "run/jobs/RunContext.h"
+#include "run/jobs/RunOptions.h"
+
+#include <QStringList>
+
+#include <optional>
+
+// From dropped paths to a run that may start. On the main thread.
+namespace dravolin {
+
+// Directories go to the folders, everything else (links to directories too) to the individual files; the
+// order of the drop is kept in both.
+[[nodiscard]] Drop sortDroppedPaths(const QStringList &paths);
+
+// Whether so many individual files call for the question about dropping their folder.
+[[nodiscard]] bool isLargeDrop(const Drop &drop);
+
+// Reads the choices from the window, checks the UID root (replacing a bad one once), and asks, in this order,
+// about an impossible Study Instance UID, a large drop and overwriting. Nothing when the run is not to start.
+[[nodiscard]] std::optional<Drop> takeDrop(const RunContext &context, const QStringList &paths);
+
+// Makes the window ready for a run: status text, spinner, disabled controls, tooltip, separator, height.
+// `startRun` is called on the main thread when the window has grown.
+void prepareWindow(const RunContext &context, std::function<void()> startRun);
+
+} // namespace dravolin

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "run/jobs/RunContext.h"
+#include "run/jobs/RunOptions.h"
+
+// The steps of a run that deal with look-up tables. On the run's own thread.
+namespace dravolin {
+
+// Matches the selected table against the configuration and loads it. False when the run is refused; the sheet
+// that says why is then up.
+[[nodiscard]] bool bindTable(const RunContext &context, RunOptions &options);
+
+// Collects the values of the construction's attribute from everything dropped, writes the table file to the
+// desktop and refreshes the table pop-up.
+void constructTable(const RunContext &context, const QStringList &folders, const QStringList &files,
+                    const RunOptions &options);
+
+// Writes the loaded table's new values into everything dropped.
+void propagateTable(const RunContext &context, const QStringList &folders, const QStringList &files,
+                    const RunOptions &options);
+
+// Looks for table files again and refills the table pop-up. Any thread.
+void refreshTables(const RunContext &context);
+
+} // namespace dravolin

@@ -1,0 +1,220 @@
+#include "run/OutputAnalysis.h"
+
+#include "identifiers/NOXUtils.h"
+#include "identifiers/Texts.h"
+
+#include <QSet>
+#include <QThread>
+
+#include <limits>
+
+namespace dravolin {
+
+namespace {
+
+// "%1" and "%2" become the number and its plural suffix.
+QString counted(const QString &text, quint64 number)
+{
+    return text.arg(QString::number(number), NOXUtils::pluralSuffix(number));
+}
+
+QString tableCounts(const QString &text, const RunReport &report)
+{
+    return text.arg(
+        QString::number(report.numLUTadaptedFiles), NOXUtils::pluralSuffix(report.numLUTadaptedFiles),
+        QString::number(report.numLUTskippedFiles), NOXUtils::pluralSuffix(report.numLUTskippedFiles));
+}
+
+QString firstSummary(const RunReport &report)
+{
+    if (report.errCount != 0)
+        return report.constructing
+                   ? counted(
+                         Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
+                                   "See messages logged to console."),
+                         report.errCount)
+                   : counted(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
+                             report.errCount);
+    if (report.constructing)
+        return Texts::tr("\nDone constructing LUT. File placed on Desktop.");
+    if (report.usingLUT)
+        return tableCounts(Texts::tr("Done!\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4."),
+                           report);
+    return Texts::tr("\nDone!");
+}
+
+// An optional sign and ASCII digits; 0 when there are none, saturating at 64 bits.
+qint64 leadingInteger(QStringView text)
+{
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+'))
+        text = text.sliced(1);
+    constexpr qint64 maximum = std::numeric_limits<qint64>::max();
+    qint64 value = 0;
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            break;
+        const qint64 digit = c.unicode() - u'0';
+        if (value > (maximum - digit) / 10)
+            return negative ? std::numeric_limits<qint64>::min() : maximum;
+        value = value * 10 + digit;
+    }
+    return negative ? -value : value;
+}
+
+// What the lines of the output add up to.
+class LineJudge
+{
+public:
+    explicit LineJudge(const QStringList &folderNames)
+        : m_folderNames(folderNames.cbegin(), folderNames.cend())
+    {
+        for (const QString &name : folderNames)
+            m_longestName = std::max(m_longestName, name.size());
+    }
+
+    void judge(QStringView line)
+    {
+        static const QString unloadable = QStringLiteral("E: unable to load file ");
+        if (!line.startsWith(QStringLiteral("E:")))
+            return;
+        if (line.startsWith(QStringLiteral("E: There was")) ||
+            line.startsWith(QStringLiteral("E: There were"))) {
+            // unsigned, so that sums past 64 bits wrap
+            m_filesWithErrors += static_cast<quint64>(closingLineCount(line));
+        } else if (line.startsWith(unloadable)) {
+            if (namesFolder(line.sliced(unloadable.size())))
+                --m_filesWithErrors; // intended: may go below zero and is then shown as an unsigned number
+            else
+                collect(line);
+        } else if (!line.endsWith(QStringLiteral("put value into non-leaf elements!"))) {
+            collect(line);
+        }
+    }
+
+    [[nodiscard]] quint64 filesWithErrors() const { return m_filesWithErrors; }
+    [[nodiscard]] quint64 errorLines() const { return m_errorLines; }
+    [[nodiscard]] const QString &logText() const { return m_logText; }
+
+private:
+    // Whether `rest` begins with a folder's name followed by ":". Only the places of ":" are looked up, so
+    // that the number of names does not matter.
+    [[nodiscard]] bool namesFolder(QStringView rest) const
+    {
+        const QString text = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(rest.toString().toLower());
+        for (qsizetype colon = text.indexOf(u':'); colon >= 0 && colon <= m_longestName;
+             colon = text.indexOf(u':', colon + 1)) {
+            if (m_folderNames.contains(text.first(colon)))
+                return true;
+        }
+        return false;
+    }
+
+    void collect(QStringView line)
+    {
+        m_logText += line;
+        m_logText += QStringLiteral("\n\n");
+        ++m_errorLines;
+    }
+
+    QSet<QString> m_folderNames;
+    qsizetype m_longestName = 0;
+    quint64 m_filesWithErrors = 0;
+    quint64 m_errorLines = 0;
+    QString m_logText;
+};
+
+void judgeLines(QStringView output, LineJudge &judge)
+{
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= output.size(); ++i) {
+        if (i < output.size() && !NOXUtils::isNewline(output.at(i)))
+            continue;
+        judge.judge(NOXUtils::trimmed(output.sliced(start, i - start)));
+        start = i + 1;
+    }
+}
+
+QString logNotes(const RunReport &report)
+{
+    QString notes;
+    if (report.constructing)
+        notes = Texts::tr("\n\nConstructed LUT file placed on Desktop.\n\n");
+    else if (report.usingLUT)
+        notes = tableCounts(Texts::tr("\n\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.\n\n"),
+                            report);
+    if (report.DICOMDIRpaths.isEmpty())
+        return notes;
+    return notes +
+           Texts::tr("Mind you: DICOMDIR files were found.\n"
+                     "They do not contain DICOM tags to anonymize but still contain PHI:\n") +
+           report.DICOMDIRpaths.join(u'\n') + QStringLiteral("\n\n");
+}
+
+RunReport reportOf(const RunContext &context)
+{
+    const bool constructing = context.host.checkState(CheckBox::Prepopulate) == Qt::Checked;
+    return context.state.update([constructing](const RunState &state) {
+        return RunReport{state.output,          state.errCount,           constructing,
+                         state.usingLUT,        state.numLUTadaptedFiles, state.numLUTskippedFiles,
+                         state.AllFoldersNames, state.DICOMDIRpaths};
+    });
+}
+
+void restoreControls(const RunContext &context)
+{
+    RunHost &host = context.host;
+    host.setEnabled(Control::OverwriteSource, true);
+    host.setEnabled(Control::SelectLUT, !context.state.get(&RunState::allLUTsPaths).isEmpty());
+    for (const Control control :
+         {Control::Prepopulate, Control::SelectConfig, Control::GenerateSOP, Control::OnlyGenerateSOP})
+        host.setEnabled(control, true);
+    host.setSpinning(false);
+    host.setStatusToolTip(QString());
+}
+
+} // namespace
+
+qint64 closingLineCount(QStringView line)
+{
+    constexpr qsizetype wordsBeforeCount = 11;
+    constexpr qsizetype wordsBehindCount = 6;
+    if (line.size() < wordsBeforeCount + wordsBehindCount)
+        return 0;
+    const QString reversed = NOXUtils::reverseString(line.sliced(wordsBeforeCount));
+    return leadingInteger(NOXUtils::trimmed(QStringView(reversed).sliced(wordsBehindCount)));
+}
+
+RunJudgement judgeOutput(const RunReport &report)
+{
+    LineJudge lines(report.AllFoldersNames);
+    judgeLines(report.output, lines);
+
+    RunJudgement judgement{firstSummary(report), lines.logText(), false};
+    if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())
+        return judgement;
+    judgement.wantsLogWindow = true;
+    judgement.summary = lines.filesWithErrors() == 0
+                            ? counted(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
+                            : counted(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
+    judgement.logText += logNotes(report);
+    return judgement;
+}
+
+void parseLog(const RunContext &context)
+{
+    const RunJudgement judgement = judgeOutput(reportOf(context));
+    if (judgement.wantsLogWindow)
+        context.host.scheduleLogWindow(judgement.logText);
+    QThread::msleep(static_cast<unsigned long>(context.delays.beforeSummary));
+    context.host.setStatus(judgement.summary);
+    restoreControls(context);
+    context.state.update([](RunState &state) {
+        state.output.clear();
+        state.errCount = state.totalFolders = state.folderCount = 0;
+        state.AllFoldersNames.clear();
+        state.LUTtagSet.clear();
+    });
+}
+
+} // namespace dravolin

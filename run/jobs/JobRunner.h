@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <mutex>
+#include <optional>
+
+namespace dravolin {
+
+// One child process. Its standard input is the null device, its standard error the application's own.
+struct Job
+{
+    QString executable;
+    QStringList arguments; // without the executable
+    QString folder;        // current directory
+    std::optional<QStringList>
+        environment;         // the whole environment, "NAME=value"; nothing: the application's own
+    bool pipeOutput = false; // collect standard output; else it is the application's own
+};
+
+enum class JobOutcome {
+    Ran, // started and ended, however it ended
+    CouldNotStart,
+    NoPipe // no pipe could be created for its output
+};
+
+struct JobResult
+{
+    JobOutcome outcome = JobOutcome::CouldNotStart;
+    QByteArray output; // what was piped
+};
+
+// The seam to child processes. No meaning is given to anything here: exit codes are not looked at.
+class JobRunner
+{
+public:
+    virtual ~JobRunner() = default;
+    // Starts `job`, waits without a limit until it has ended, and returns. Any thread, not the main one.
+    [[nodiscard]] virtual JobResult run(const Job &job) = 0;
+};
+
+// POSIX processes. QProcess is not used because it cannot carry folder names and arguments that are not
+// UTF-8, and because posix_spawn's cost does not grow with the application's memory. A child is left alone
+// when the application ends. One object may serve several threads.
+class PosixJobRunner : public JobRunner
+{
+public:
+    [[nodiscard]] JobResult run(const Job &job) override;
+};
+
+// Held while a script is open for writing and while a child is created: a child that inherited the open
+// script, if only for a moment, would make the kernel refuse to execute it ("Text file busy").
+[[nodiscard]] std::mutex &processStartMutex();
+
+} // namespace dravolin

@@ -1,0 +1,47 @@
+#include "run/jobs/ScriptJob.h"
+
+#include "config/FileSystem.h"
+#include "run/jobs/Script.h"
+
+namespace dravolin {
+
+namespace {
+
+bool placeScript(const QString &path, const QString &text)
+{
+    const std::lock_guard lock(processStartMutex());
+    return writeText(path, text) && pathExists(path) && makeExecutable(path);
+}
+
+} // namespace
+
+ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QString &folder,
+                             const QString &commands)
+{
+    const QString script = joinPath(folder, scriptFileName);
+    if (!placeScript(script, scriptText(commands)))
+        return {};
+    const JobResult job = jobs.run({QStringLiteral("/bin/sh"),
+                                    {QStringLiteral("-c"), quoted(script)},
+                                    folder,
+                                    toolEnvironment(paths),
+                                    false});
+    removeFile(script);
+    if (job.outcome != JobOutcome::Ran)
+        return {};
+    const QString output = readText(joinPath(folder, outputFileName)).value_or(QString());
+    removeOutputBeside(folder);
+    return {true, output};
+}
+
+QStringList toolEnvironment(const AppPaths &paths)
+{
+    return {QStringLiteral("DCMDICTPATH=") + paths.dictionary()};
+}
+
+void removeOutputBeside(const QString &folder)
+{
+    removeFile(folder + outputFileName);
+}
+
+} // namespace dravolin

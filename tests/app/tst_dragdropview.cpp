@@ -1,0 +1,237 @@
+#include "app/QVDragDropView.h"
+#include "app/TestApp.h"
+#include "config/FileSystem.h"
+
+#include <QDragEnterEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+
+using namespace dravolin;
+using namespace dravolin::test;
+
+namespace {
+
+class Delegate : public QVDragDropViewDelegate
+{
+public:
+    void handleDroppedPaths(const QStringList &paths) override { drops.append(paths); }
+    QList<QStringList> drops;
+};
+
+class DragDropViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_view = std::make_unique<QVDragDropView>();
+        m_view->setImageFolder(QStringLiteral(DRAVOLIN_RESOURCES));
+        m_view->setDelegate(&m_delegate);
+        m_delegate.drops.clear();
+    }
+
+    void drops_data();
+    void drops();
+    void everyPictureExtensionIsTold_data();
+    void everyPictureExtensionIsTold();
+    void bytesThatAreNotUtf8Survive();
+    void separatorAtTheEndIsDropped();
+    void delegateIsCalledAfterTheDropWasAnswered();
+    void dropWithoutFileNamesIsTakenAndIgnored();
+    void dragOfOtherThingsIsRefused();
+    void enteringWithoutFileNamesHighlights();
+    void enteringWithAnAddressElsewhereIsRefused_data();
+    void enteringWithAnAddressElsewhereIsRefused();
+    void leavingAndDroppingClearTheHighlight();
+    void highlightIsDrawn();
+    void imageFollowsTheState_data();
+    void imageFollowsTheState();
+
+private:
+    [[nodiscard]] bool perform(const QStringList &paths)
+    {
+        return m_view->performDragOperation(*fileNames(paths));
+    }
+
+    std::unique_ptr<QVDragDropView> m_view;
+    Delegate m_delegate;
+};
+
+void DragDropViewTest::drops_data()
+{
+    QTest::addColumn<QStringList>("paths");
+    QTest::addColumn<bool>("success");
+    QTest::addColumn<bool>("handedOn");
+    const QString folder = QStringLiteral("/data/study");
+    QTest::newRow("a folder") << QStringList{folder} << true << true;
+    QTest::newRow("a single png does nothing")
+        << QStringList{QStringLiteral("/data/a.png")} << false << false;
+    QTest::newRow("extension in upper case") << QStringList{QStringLiteral("/data/a.JPG")} << false << false;
+    QTest::newRow("a jpg first, a folder second")
+        << QStringList{QStringLiteral("/data/a.jpg"), folder} << false << true;
+    QTest::newRow("a folder first, pictures later")
+        << QStringList{folder, QStringLiteral("/data/a.jpg"), QStringLiteral("/data/b.png")} << true << true;
+    QTest::newRow("an empty list") << QStringList() << true << true;
+    QTest::newRow("a folder with a picture's extension")
+        << QStringList{QStringLiteral("/data/study.pic")} << false << false;
+    QTest::newRow("no extension") << QStringList{QStringLiteral("/data/png")} << true << true;
+    QTest::newRow("names with quotes, blanks, percent and line breaks")
+        << QStringList{QStringLiteral("/data/a \"b\" 'c' $d `e` %20 [x] \n f ä")} << true << true;
+}
+
+void DragDropViewTest::drops()
+{
+    QFETCH(QStringList, paths);
+    QFETCH(bool, success);
+    QFETCH(bool, handedOn);
+    const QString imageBefore = m_view->imageName();
+    QCOMPARE(perform(paths), success);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate.drops, handedOn ? QList<QStringList>{paths} : QList<QStringList>());
+    QCOMPARE(m_view->imageName(), imageBefore);
+}
+
+void DragDropViewTest::everyPictureExtensionIsTold_data()
+{
+    QTest::addColumn<QString>("extension");
+    for (const char *extension :
+         {"png", "jpg", "jpeg", "tiff", "pdf", "pic", "ps",  "bmp", "pct", "pict", "eps", "mac",
+          "pnt", "ico", "psd",  "icns", "nef", "dng", "tif", "jpf", "jp2", "gif",  "jfif"})
+        QTest::newRow(extension) << QString::fromLatin1(extension);
+}
+
+void DragDropViewTest::everyPictureExtensionIsTold()
+{
+    QFETCH(QString, extension);
+    QVERIFY(!perform({QStringLiteral("/a.") + extension}));
+    QVERIFY(perform({QStringLiteral("/a.") + extension + u'x'}));
+}
+
+void DragDropViewTest::bytesThatAreNotUtf8Survive()
+{
+    const QString path = fromBytes("/data/stud\xFF\xE9y");
+    QVERIFY(perform({path}));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate.drops, QList<QStringList>{{path}});
+    QCOMPARE(toBytes(m_delegate.drops.first().first()), QByteArray("/data/stud\xFF\xE9y"));
+}
+
+void DragDropViewTest::separatorAtTheEndIsDropped()
+{
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("file:///data/s1/")), QUrl(QStringLiteral("file:///")),
+                  QUrl(QStringLiteral("file://localhost/x"))});
+    QCOMPARE(droppedPaths(data),
+             QStringList({QStringLiteral("/data/s1"), QStringLiteral("/"), QStringLiteral("/x")}));
+}
+
+void DragDropViewTest::delegateIsCalledAfterTheDropWasAnswered()
+{
+    QVERIFY(perform({QStringLiteral("/data")}));
+    QVERIFY(m_delegate.drops.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate.drops.size(), 1);
+}
+
+void DragDropViewTest::dropWithoutFileNamesIsTakenAndIgnored()
+{
+    QMimeData data;
+    data.setText(QStringLiteral("/data"));
+    QVERIFY(m_view->performDragOperation(data));
+    QCoreApplication::processEvents();
+    QVERIFY(m_delegate.drops.isEmpty());
+}
+
+void DragDropViewTest::dragOfOtherThingsIsRefused()
+{
+    QMimeData data;
+    data.setText(QStringLiteral("/data"));
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_view.get(), &enter);
+    QVERIFY(!enter.isAccepted());
+    QVERIFY(!m_view->isHighlighted());
+}
+
+void DragDropViewTest::enteringWithoutFileNamesHighlights()
+{
+    const QMimeData data;
+    QCOMPARE(m_view->draggingEntered(data), Qt::CopyAction);
+    QVERIFY(m_view->isHighlighted());
+}
+
+void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("list");
+    QTest::newRow("web address") << QByteArray("https://dravolin.example/a.dcm\r\n");
+    QTest::newRow("behind a file") << QByteArray("file:///data\r\nsmb://host/share\r\n");
+    QTest::newRow("a file of another host") << QByteArray("file://elsewhere.example/data\r\n");
+}
+
+void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused()
+{
+    QFETCH(QByteArray, list);
+    m_view->setHighlighted(true);
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), list);
+    QCOMPARE(m_view->draggingEntered(data), Qt::IgnoreAction);
+    QVERIFY(!m_view->isHighlighted());
+}
+
+void DragDropViewTest::leavingAndDroppingClearTheHighlight()
+{
+    const auto data = fileNames({QStringLiteral("/data")});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton,
+                          Qt::NoModifier);
+    enter.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(m_view.get(), &enter);
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
+    QVERIFY(m_view->isHighlighted());
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(m_view.get(), &leave);
+    QVERIFY(!m_view->isHighlighted());
+
+    m_view->setHighlighted(true);
+    QVERIFY(perform({QStringLiteral("/data")}));
+    QVERIFY(!m_view->isHighlighted());
+}
+
+void DragDropViewTest::highlightIsDrawn()
+{
+    m_view->resize(400, 200);
+    const QImage plain = m_view->grab().toImage();
+    m_view->setHighlighted(true);
+    const QImage highlighted = m_view->grab().toImage();
+    const QColor colour = m_view->palette().color(QPalette::Highlight);
+    QVERIFY(plain.pixelColor(200, 3) != colour);
+    QCOMPARE(highlighted.pixelColor(200, 3), colour);
+    QCOMPARE(highlighted.pixelColor(200, 100), plain.pixelColor(200, 100));
+}
+
+void DragDropViewTest::imageFollowsTheState_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("description");
+    const QString drag = QStringLiteral("DragImage.png");
+    QTest::newRow("off") << 0 << drag << QStringLiteral("anonymize");
+    QTest::newRow("on") << 1 << QStringLiteral("LutImage.png") << QStringLiteral("construct look-up table");
+    QTest::newRow("mixed") << -1 << drag << QStringLiteral("anonymize");
+    QTest::newRow("two") << 2 << drag << QStringLiteral("anonymize");
+}
+
+void DragDropViewTest::imageFollowsTheState()
+{
+    QFETCH(int, state);
+    QFETCH(QString, image);
+    QFETCH(QString, description);
+    m_view->setImageForLUTcheckboxState(state);
+    QCOMPARE(m_view->imageName(), image);
+    QCOMPARE(m_view->accessibleDescription(), description);
+}
+
+} // namespace
+
+QTEST_MAIN(DragDropViewTest)
+#include "tst_dragdropview.moc"

@@ -1,0 +1,111 @@
+#include "app/MainThreadGate.h"
+
+#include <QCoreApplication>
+#include <QTest>
+#include <QThread>
+
+#include <atomic>
+#include <memory>
+
+using namespace dravolin;
+
+namespace {
+
+class MainThreadGateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void runsAtOnceOnTheMainThread();
+    void runsOnTheMainThreadForOthers();
+    void givesValues();
+    void closedGateTurnsAway();
+    void closingWakesWaiters();
+    void manyThreadsInterleave();
+
+private:
+    [[nodiscard]] static std::unique_ptr<QThread> started(const std::function<void()> &work)
+    {
+        std::unique_ptr<QThread> thread(QThread::create(work));
+        thread->start();
+        return thread;
+    }
+};
+
+void MainThreadGateTest::runsAtOnceOnTheMainThread()
+{
+    MainThreadGate gate;
+    bool ran = false;
+    QVERIFY(gate.run([&] { ran = true; }));
+    QVERIFY(ran);
+    gate.close();
+    QVERIFY(gate.run([&] { ran = false; }));
+    QVERIFY(!ran);
+}
+
+void MainThreadGateTest::runsOnTheMainThreadForOthers()
+{
+    MainThreadGate gate;
+    std::atomic<QThread *> ranOn = nullptr;
+    std::atomic<bool> result = false;
+    const auto thread = started([&] { result = gate.run([&] { ranOn = QThread::currentThread(); }); });
+    QTRY_VERIFY(thread->isFinished());
+    QVERIFY(result);
+    QCOMPARE(ranOn.load(), QCoreApplication::instance()->thread());
+}
+
+void MainThreadGateTest::givesValues()
+{
+    MainThreadGate gate;
+    std::atomic<int> value = 0;
+    const auto thread = started([&] { value = gate.get([] { return 42; }).value_or(-1); });
+    QTRY_VERIFY(thread->isFinished());
+    QCOMPARE(value.load(), 42);
+}
+
+void MainThreadGateTest::closedGateTurnsAway()
+{
+    MainThreadGate gate;
+    gate.close();
+    std::atomic<bool> ran = false;
+    std::atomic<bool> result = true;
+    const auto thread = started([&] { result = gate.run([&] { ran = true; }); });
+    QVERIFY(thread->wait(5000));
+    QVERIFY(!result);
+    QVERIFY(!ran);
+    QVERIFY(!gate.get([] { return 1; }).has_value() || gate.onMainThread());
+}
+
+void MainThreadGateTest::closingWakesWaiters()
+{
+    MainThreadGate gate;
+    std::atomic<bool> ran = false;
+    std::atomic<bool> result = true;
+    const auto thread = started([&] { result = gate.run([&] { ran = true; }); });
+    QVERIFY(!thread->wait(50)); // nobody runs the event loop: it waits
+    gate.close();
+    QVERIFY(thread->wait(5000));
+    QVERIFY(!result);
+    QCoreApplication::processEvents();
+    QVERIFY(!ran);
+}
+
+void MainThreadGateTest::manyThreadsInterleave()
+{
+    MainThreadGate gate;
+    int count = 0; // touched on the main thread only
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.push_back(started([&] {
+            for (int k = 0; k < 100; ++k)
+                (void)gate.run([&] { ++count; });
+        }));
+    for (const auto &thread : threads)
+        QTRY_VERIFY(thread->isFinished());
+    QCOMPARE(count, 400);
+}
+
+} // namespace
+
+QTEST_GUILESS_MAIN(MainThreadGateTest)
+#include "tst_mainthreadgate.moc"
