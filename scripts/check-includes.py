@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Checks the direction of includes: check-includes.py [--qt QT_HEADERS] SOURCE_FOLDER
 
-An include may point at the same room or a lower one, and only app/ and tests/ may include Qt Gui or Widgets. Each
-line that does otherwise is printed, and the exit status is then 1. QT_HEADERS is the folder that holds QtCore/,
-QtGui/ and QtWidgets/; without it only includes that name the module are recognised. --self-test checks the check.
+An include may point at the same room or a lower one, and only app/ and tests/ may include Qt Gui or Widgets.
+Each line that does otherwise is printed, and the exit status is then 1. QT_HEADERS is the folder that holds
+QtCore/, QtGui/ and QtWidgets/; without it only includes that name the module are recognised. --self-test
+checks the check.
 """
 
 import pathlib
@@ -19,8 +20,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
 def room_of(path):
     """The room that a path relative to the source folder lies in, or None."""
-    folder = path.rpartition("/")[0]
-    return max((room for room in ROOMS if folder == room or folder.startswith(room + "/")), key=len, default=None)
+    folder = path.rpartition("/")[0] + "/"
+    return max((room for room in ROOMS if folder.startswith(room + "/")), key=len, default=None)
 
 
 def widget_headers(qt):

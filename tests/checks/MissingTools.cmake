@@ -29,6 +29,7 @@ set(dump -D DRAVOLIN_DCMDUMP=/given/dcmdump)
 set(dictionary -D DRAVOLIN_DICOM_DIC=/given/dicom.dic)
 search("The tool 'dcmodify' was not found. On Debian: apt-get install dcmtk" ${dump} ${dictionary})
 search("The tool 'dcmdump' was not found. On Debian: apt-get install dcmtk" ${modify} ${dictionary})
-search("The data dictionary 'dicom.dic' was not found. On Debian it comes with the library of dcmtk: apt-get install dcmtk libdcmtk17"
-    ${modify} ${dump})
+string(CONCAT no_dictionary "The data dictionary 'dicom.dic' was not found. "
+    "On Debian it comes with the library of dcmtk: apt-get install dcmtk libdcmtk17")
+search("${no_dictionary}" ${modify} ${dump})
 search("" ${modify} ${dump} ${dictionary})

@@ -12,8 +12,8 @@
 using namespace dravolin;
 using test::ScratchFolder;
 
-// What changes the file system, and how failures are reported. Tests run as root, too, whom permissions do not
-// stop; what cannot be written here cannot be written by anybody.
+// What changes the file system, and how failures are reported. Tests run as root, too, whom permissions do
+// not stop; what cannot be written here cannot be written by anybody.
 class TestFileWriting : public QObject
 {
     Q_OBJECT

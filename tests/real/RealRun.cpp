@@ -34,8 +34,8 @@ QString RealRun::makeImage(const QString &relative, const QString &dump) const
     const QString image = path(relative);
     check(createFolder(parentPath(image)), "a folder could not be made");
     const QString source = QStringLiteral(DUMPS "/") + dump + QStringLiteral(".dump");
-    (void)PosixJobRunner().run({QStringLiteral(DRAVOLIN_DUMP2DCM), {source, image}, path(QString()),
-                                toolEnvironment(paths), true});
+    (void)PosixJobRunner().run(
+        {QStringLiteral(DRAVOLIN_DUMP2DCM), {source, image}, path(QString()), toolEnvironment(paths), true});
     check(pathExists(image), "an image could not be made");
     return image;
 }

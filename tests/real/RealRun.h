@@ -5,7 +5,8 @@
 
 namespace dravolin::test {
 
-// A run whose jobs are real and whose resource folder holds the real tools, with folders of files made from dumps.
+// A run whose jobs are real and whose resource folder holds the real tools, with folders of files made from
+// dumps.
 class RealRun : public TestRun
 {
 public:

@@ -90,8 +90,9 @@ void TestRealAnonymization::insertsAttributesThatWereMissing()
 void TestRealAnonymization::keepsNestedCopiesOfAttributesThatGetAValue()
 {
     anonymize({QStringLiteral("0010,0010")}, {{QStringLiteral("0010,0010"), QStringLiteral("ANON")}});
-    QCOMPARE(lines("0010,0010"), QStringList({QStringLiteral("(0008,1120).(0010,0010) PN [Br\u00FCckner^J\u00F6rg]"),
-                                              QStringLiteral("(0010,0010) PN [ANON]")}));
+    QCOMPARE(lines("0010,0010"),
+             QStringList({QStringLiteral("(0008,1120).(0010,0010) PN [Br\u00FCckner^J\u00F6rg]"),
+                          QStringLiteral("(0010,0010) PN [ANON]")}));
 }
 
 void TestRealAnonymization::erasesPrivateAttributes()
@@ -104,9 +105,11 @@ void TestRealAnonymization::erasesPrivateAttributes()
 
 void TestRealAnonymization::writesUtf8()
 {
-    anonymize({QStringLiteral("0010,0010")},
-              {{QStringLiteral("0010,0010"), QStringLiteral("\u0391\u03BD\u03CE\u03BD^\u5C71\u7530^M\u00FC")}});
-    QCOMPARE(lines("0010,0010").last(), QStringLiteral("(0010,0010) PN [\u0391\u03BD\u03CE\u03BD^\u5C71\u7530^M\u00FC]"));
+    anonymize(
+        {QStringLiteral("0010,0010")},
+        {{QStringLiteral("0010,0010"), QStringLiteral("\u0391\u03BD\u03CE\u03BD^\u5C71\u7530^M\u00FC")}});
+    QCOMPARE(lines("0010,0010").last(),
+             QStringLiteral("(0010,0010) PN [\u0391\u03BD\u03CE\u03BD^\u5C71\u7530^M\u00FC]"));
     QCOMPARE(lines("0008,0090"), oneLine(u"(0008,0090) PN [Wei\u00DFhaupt^\u00C4nne^^Dr.]"));
 }
 
@@ -125,8 +128,9 @@ void TestRealAnonymization::leavesLatin1AsItIs()
 
 void TestRealAnonymization::emptyValueErases()
 {
-    anonymize({QStringLiteral("0008,0050"), QStringLiteral("0010,0020")},
-              {{QStringLiteral("0008,0050"), QString()}, {QStringLiteral("0010,0020"), QStringLiteral("007")}});
+    anonymize(
+        {QStringLiteral("0008,0050"), QStringLiteral("0010,0020")},
+        {{QStringLiteral("0008,0050"), QString()}, {QStringLiteral("0010,0020"), QStringLiteral("007")}});
     QCOMPARE(lines("0008,0050"), QStringList());
     QCOMPARE(lines("0010,0020").last(), QStringLiteral("(0010,0020) LO [007]"));
 }
@@ -140,7 +144,8 @@ void TestRealAnonymization::generatesNewInstanceUids()
     for (const QString &path : {m_image, second}) {
         const QString line = m_run->lines(path, "0008,0018").value(0);
         uids.insert(line);
-        QCOMPARE(m_run->lines(path, "0002,0003"), QStringList{QString(line).replace(1, 9, QStringLiteral("0002,0003"))});
+        QCOMPARE(m_run->lines(path, "0002,0003"),
+                 QStringList{QString(line).replace(1, 9, QStringLiteral("0002,0003"))});
         QCOMPARE(m_run->lines(path, "0010,0010").last(), QStringLiteral("(0010,0010) PN [ANON]"));
     }
     uids.insert(QStringLiteral("(0008,0018) UI [1.2.3.4.5.1]"));
@@ -155,7 +160,8 @@ void TestRealAnonymization::leavesInstanceUidsAlone()
 
 void TestRealAnonymization::onlyGeneratesInstanceUids()
 {
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked}, {CheckBox::OnlyGenerateSOP, Qt::Checked}};
+    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked},
+                               {CheckBox::OnlyGenerateSOP, Qt::Checked}};
     QStringList before = lines();
     anonymize({QStringLiteral("0010,0010"), QStringLiteral("0010,0020")});
     QStringList after = lines();
@@ -180,7 +186,8 @@ void TestRealAnonymization::changesNothingWhenNothingIsAsked()
 
 void TestRealAnonymization::studyUidSurvivesBesideItsUpperCaseSpelling()
 {
-    TagRules rules = parseConfiguration(QStringLiteral("0020,000d\tStudy Instance UID\n0020,000D\tStudy Instance UID"));
+    TagRules rules =
+        parseConfiguration(QStringLiteral("0020,000d\tStudy Instance UID\n0020,000D\tStudy Instance UID"));
     addFixedTags(rules, {}, QStringLiteral("2.25.42"));
     anonymize(rules.allTagsToAnonymize, rules.newValueDict);
     QCOMPARE(lines("0020,000d"), oneLine(u"(0020,000d) UI [2.25.42]"));
@@ -237,8 +244,10 @@ void TestRealAnonymization::defaultConfigurationRunsWithoutErrors()
     const LogCatcher log;
     TagRules rules = loadConfiguration(m_run->paths.defaultConfiguration());
     QVERIFY(rules.allTagsToAnonymize.size() > 20);
-    addFixedTags(rules, {QStringLiteral("diagnosis"), QStringLiteral("007"), QStringLiteral("credits"),
-                         QStringLiteral("keywords")}, QStringLiteral("2.25.42"));
+    addFixedTags(rules,
+                 {QStringLiteral("diagnosis"), QStringLiteral("007"), QStringLiteral("credits"),
+                  QStringLiteral("keywords")},
+                 QStringLiteral("2.25.42"));
     anonymize(rules.allTagsToAnonymize, rules.newValueDict);
     QCOMPARE(m_run->resultingOutput(), QString());
     QCOMPARE(log.messages(), QStringList());

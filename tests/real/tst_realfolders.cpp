@@ -44,7 +44,10 @@ private Q_SLOTS:
     void findsTheDictionaryInAFolderWithBlanks();
 
 private:
-    [[nodiscard]] QString path(const char16_t *relative) const { return m_run->path(QString::fromUtf16(relative)); }
+    [[nodiscard]] QString path(const char16_t *relative) const
+    {
+        return m_run->path(QString::fromUtf16(relative));
+    }
     [[nodiscard]] QStringList name(const QString &file) const { return m_run->lines(file, "0010,0010"); }
     quint64 anonymize(const RunOptions &options = {})
     {
@@ -147,7 +150,8 @@ void TestRealFolders::emptyFolderIsAnErrorOfTheTool()
 {
     removeFile(m_image);
     QCOMPARE(anonymize(), 0U);
-    QCOMPARE(errors(), QStringList({QStringLiteral("E: unable to load file *"), QStringLiteral("E: There was 1 error")}));
+    QCOMPARE(errors(), QStringList({QStringLiteral("E: unable to load file *"),
+                                    QStringLiteral("E: There was 1 error")}));
 }
 
 void TestRealFolders::namedFilesAloneAreChanged()
@@ -187,7 +191,8 @@ void TestRealFolders::keepsSplitListsWithoutEffect()
 void TestRealFolders::reachesFilesWithOddNames_data()
 {
     QTest::addColumn<QByteArray>("fileName");
-    for (const char *name : {"quote\"s", "$HOME", "`id`", "line\nbreak", "back\\slash", "Latin-1 \xFC", " ", "*", "a;b|c"})
+    for (const char *name :
+         {"quote\"s", "$HOME", "`id`", "line\nbreak", "back\\slash", "Latin-1 \xFC", " ", "*", "a;b|c"})
         QTest::newRow(QByteArray(name).toPercentEncoding(" \"$`\\*;|").constData()) << QByteArray(name);
 }
 
@@ -207,7 +212,7 @@ void TestRealFolders::keepsANameThatLooksLikeAnOptionFromBeingReached()
     QCOMPARE(anonymize(), 0U);
     QCOMPARE(readBytes(file), std::optional(m_original));
     QCOMPARE(readBytes(m_image), std::optional(m_original)); // the tool refuses the whole folder
-    QVERIFY(!m_run->resultingOutput().isEmpty()); // with a usage text, not with an error line
+    QVERIFY(!m_run->resultingOutput().isEmpty());            // with a usage text, not with an error line
     QCOMPARE(errors(), QStringList());
 }
 
@@ -264,12 +269,14 @@ void TestRealFolders::findsTheDictionaryInAFolderWithBlanks()
     const QString resources = m_run->makeFolder(QStringLiteral("app/my resources"));
     for (const char16_t *resource : {u"dcmodify", u"dicom.dic"}) {
         const QString name = QString::fromUtf16(resource);
-        QCOMPARE(::symlink(toBytes(m_run->paths.resource(name)).constData(), toBytes(joinPath(resources, name)).constData()),
+        QCOMPARE(::symlink(toBytes(m_run->paths.resource(name)).constData(),
+                           toBytes(joinPath(resources, name)).constData()),
                  0);
     }
     const AppPaths here = m_run->paths;
     m_run->paths.resourceFolder = resources;
-    m_run->state.set(&RunState::newValueDict, NewValueDict{{QStringLiteral("0010,2160"), QStringLiteral("x")}});
+    m_run->state.set(&RunState::newValueDict,
+                     NewValueDict{{QStringLiteral("0010,2160"), QStringLiteral("x")}});
     QCOMPARE(anonymizeFolder(m_run->context, {QStringLiteral("0010,2160")}, path(u"study"), {}), 0U);
     m_run->paths = here;
     QCOMPARE(m_run->lines(m_image, "0010,2160"), QStringList{QStringLiteral("(0010,2160) SH [x]")});
