@@ -79,7 +79,8 @@ void TestConfigurationDiscovery::offersAFileByItsName_data()
     row(u"AnonymizationConfiguration_CT.txt.bak");
     row(u"AnonymizationConfiguration_txt");
     row(u" AnonymizationConfiguration_CT.txt");
-    row(u"\uFEFF" u"AnonymizationConfiguration_CT.txt");
+    row(u"\uFEFF"
+        u"AnonymizationConfiguration_CT.txt");
     row(u"AnonymizationLUT_CT.txt");
 }
 
@@ -104,8 +105,8 @@ void TestConfigurationDiscovery::doesNotLookAtTheKindOfAnEntry()
 {
     const ScratchFolder scratch;
     const QString folder = scratch.folder(QStringLiteral("AnonymizationConfiguration_folder.txt"));
-    const QString broken = scratch.link(QStringLiteral("AnonymizationConfiguration_broken.txt"),
-                                        QStringLiteral("nowhere"));
+    const QString broken =
+        scratch.link(QStringLiteral("AnonymizationConfiguration_broken.txt"), QStringLiteral("nowhere"));
     QCOMPARE(configsAtPath(scratch.path()),
              TitleToPath({{QStringLiteral("folder"), folder}, {QStringLiteral("broken"), broken}}));
 }
@@ -130,7 +131,8 @@ void TestConfigurationDiscovery::folderThatCannotBeListedGivesNothing()
 
 void TestConfigurationDiscovery::configurationAmongTheResourcesIsTheOnlyOne()
 {
-    const QString bundled = configurationIn(u"app/resources", QStringLiteral("AnonymizationConfiguration.txt"));
+    const QString bundled =
+        configurationIn(u"app/resources", QStringLiteral("AnonymizationConfiguration.txt"));
     configurationIn(u"home/Desktop");
     configurationIn(u"app");
     configurationIn(u"home/share/Dravolin");
@@ -143,10 +145,11 @@ void TestConfigurationDiscovery::mergesThreeFolders()
 {
     const QString a = configurationIn(u"home/Desktop", QStringLiteral("AnonymizationConfiguration_a.txt"));
     const QString b = configurationIn(u"app", QStringLiteral("AnonymizationConfiguration_b.txt"));
-    const QString c = configurationIn(u"home/share/Dravolin", QStringLiteral("AnonymizationConfiguration_c.txt"));
+    const QString c =
+        configurationIn(u"home/share/Dravolin", QStringLiteral("AnonymizationConfiguration_c.txt"));
     const FoundConfigurations found = findConfigurations(m_run->paths);
-    QCOMPARE(found.allConfigPaths, TitleToPath({{QStringLiteral("a"), a}, {QStringLiteral("b"), b},
-                                                {QStringLiteral("c"), c}}));
+    QCOMPARE(found.allConfigPaths,
+             TitleToPath({{QStringLiteral("a"), a}, {QStringLiteral("b"), b}, {QStringLiteral("c"), c}}));
     QVERIFY(!found.revertedToDefault);
 }
 
@@ -235,7 +238,8 @@ void TestConfigurationDiscovery::folderForTheCopyIsNotUsableWhenAFileIsThere()
 
 void TestConfigurationDiscovery::copiesTheDefaultConfiguration()
 {
-    m_run->writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"), QStringLiteral("default"));
+    m_run->writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"),
+                     QStringLiteral("default"));
     const QString folder = m_run->path(QStringLiteral("home/new/Desktop"));
     const QString expected = joinPath(folder, QStringLiteral("copy.txt"));
     QCOMPARE(copyDefaultConfiguration(m_run->paths, folder, QStringLiteral("copy.txt")), expected);
@@ -254,8 +258,10 @@ void TestConfigurationDiscovery::copyIsFoundUnderTheNameDefault()
 
 void TestConfigurationDiscovery::copyNeverReplacesAFile()
 {
-    m_run->writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"), QStringLiteral("default"));
-    const QString existing = m_run->writeFile(QStringLiteral("home/Desktop/copy.txt"), QStringLiteral("mine"));
+    m_run->writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"),
+                     QStringLiteral("default"));
+    const QString existing =
+        m_run->writeFile(QStringLiteral("home/Desktop/copy.txt"), QStringLiteral("mine"));
     QCOMPARE(copyDefaultConfiguration(m_run->paths, m_run->paths.desktopFolder, QStringLiteral("copy.txt")),
              existing);
     QCOMPARE(readText(existing), std::optional(QStringLiteral("mine")));

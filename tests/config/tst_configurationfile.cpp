@@ -34,7 +34,8 @@ void TestConfigurationFile::readsOneLine_data()
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("value"); // null: no value
     const auto row = [](const char *name, const char *line, const char *tag, const char *value = nullptr) {
-        QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(tag) << QString::fromLatin1(value);
+        QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(tag)
+                            << QString::fromLatin1(value);
     };
     row("tag alone", "0010,0030", "0010,0030");
     row("empty line", "", "");
@@ -77,7 +78,11 @@ void TestConfigurationFile::readsOneLine_data()
     row("a remark behind one space belongs to the tag", "0010,0010 # x", "0010,0010 # x");
     row("# in a column is no comment", "0010,0010\t#\t# x", "0010,0010", "# x");
     row("shell characters stay", "0010,0010\tName\ta\"b$c`d\\e", "0010,0010", "a\"b$c`d\\e");
-    row("no-break spaces are trimmed", "\xA0" "0010,0030\tName\t\xA0" "ANON\xA0", "0010,0030", "ANON");
+    row("no-break spaces are trimmed",
+        "\xA0"
+        "0010,0030\tName\t\xA0"
+        "ANON\xA0",
+        "0010,0030", "ANON");
 }
 
 void TestConfigurationFile::readsOneLine()
@@ -189,9 +194,8 @@ void TestConfigurationFile::lastValueOfATagWins()
 void TestConfigurationFile::listsEachTagOnceInOrderOfCodeUnits()
 {
     const TagRules rules = parseConfiguration(QStringLiteral("b\n\na\nb\n   \nB\n\u00E9\na\n#c\n\xA0\n"));
-    QCOMPARE(rules.allTagsToAnonymize,
-             QStringList({QString(), QStringLiteral("B"), QStringLiteral("a"), QStringLiteral("b"),
-                          QStringLiteral("\u00E9")}));
+    QCOMPARE(rules.allTagsToAnonymize, QStringList({QString(), QStringLiteral("B"), QStringLiteral("a"),
+                                                    QStringLiteral("b"), QStringLiteral("\u00E9")}));
 }
 
 void TestConfigurationFile::loadsNothingFromWhatCannotBeRead_data()
@@ -201,7 +205,9 @@ void TestConfigurationFile::loadsNothingFromWhatCannotBeRead_data()
     QTest::newRow("one bad byte at the end") << QByteArray("0010,0030\tName\tANON\n\xFF");
     QTest::newRow("one bad byte in a comment") << QByteArray("# M\xFCller\n0010,0030\tName\tANON\n");
     QTest::newRow("cut at the end") << QByteArray("0010,0030\tName\tANON\n0010,0040\tName\t\xE2\x82");
-    QTest::newRow("UTF-16") << QByteArray("\xFF\xFE" "0\0", 4);
+    QTest::newRow("UTF-16") << QByteArray("\xFF\xFE"
+                                          "0\0",
+                                          4);
 }
 
 void TestConfigurationFile::loadsNothingFromWhatCannotBeRead()
@@ -213,7 +219,7 @@ void TestConfigurationFile::loadsNothingFromWhatCannotBeRead()
     const TagRules rules = loadConfiguration(path);
     QCOMPARE(rules.allTagsToAnonymize, QStringList());
     QCOMPARE(rules.newValueDict, NewValueDict());
-    QCOMPARE(loadConfiguration(QString()).allTagsToAnonymize, QStringList()); // no configuration chosen
+    QCOMPARE(loadConfiguration(QString()).allTagsToAnonymize, QStringList());      // no configuration chosen
     QCOMPARE(loadConfiguration(scratch.path()).allTagsToAnonymize, QStringList()); // a folder
 }
 
@@ -222,7 +228,8 @@ void TestConfigurationFile::loadsAFile()
     const ScratchFolder scratch;
     const TagRules rules = loadConfiguration(
         scratch.file(QStringLiteral("c.txt"), "# head\n0010,0030\tName\tM\xC3\xBCller\n0010,0040   Sex"));
-    QCOMPARE(rules.allTagsToAnonymize, QStringList({QStringLiteral("0010,0030"), QStringLiteral("0010,0040")}));
+    QCOMPARE(rules.allTagsToAnonymize,
+             QStringList({QStringLiteral("0010,0030"), QStringLiteral("0010,0040")}));
     QCOMPARE(rules.newValueDict,
              NewValueDict({{QStringLiteral("0010,0030"), QStringLiteral("M\u00FCller")}}));
 }
@@ -230,7 +237,8 @@ void TestConfigurationFile::loadsAFile()
 void TestConfigurationFile::loadsAnEmptyFileAsOneEmptyLine()
 {
     const ScratchFolder scratch;
-    QCOMPARE(loadConfiguration(scratch.file(QStringLiteral("c.txt"))).allTagsToAnonymize, QStringList{QString()});
+    QCOMPARE(loadConfiguration(scratch.file(QStringLiteral("c.txt"))).allTagsToAnonymize,
+             QStringList{QString()});
 }
 
 QTEST_GUILESS_MAIN(TestConfigurationFile)

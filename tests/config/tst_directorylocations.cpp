@@ -75,8 +75,9 @@ void TestDirectoryLocations::reportsThatThereIsNoSuchDirectory()
 
 void TestDirectoryLocations::reportsThatThereIsNoSuchDirectoryWithoutPlaceForAnError()
 {
-    QCOMPARE(findOrCreateDirectory(AppPaths(), SearchPathDirectory::Desktop, SearchPathDomain::User, QString()),
-             std::optional<QString>());
+    QCOMPARE(
+        findOrCreateDirectory(AppPaths(), SearchPathDirectory::Desktop, SearchPathDomain::User, QString()),
+        std::optional<QString>());
 }
 
 void TestDirectoryLocations::takesTheFirstDirectoryAndCreatesItWithParents()
@@ -158,8 +159,9 @@ void TestDirectoryLocations::logsThatTheSystemHasNoSupportFolder()
 {
     const LogCatcher log;
     QCOMPARE(applicationSupportDirectory(AppPaths()), std::optional<QString>());
-    QCOMPARE(log.messages(), QStringList{QStringLiteral("Unable to find or create application support directory:\n"
-                                                        "No path found for directory in domain.")});
+    QCOMPARE(log.messages(),
+             QStringList{QStringLiteral("Unable to find or create application support directory:\n"
+                                        "No path found for directory in domain.")});
 }
 
 void TestDirectoryLocations::pathOfTheSupportFolderCreatesNothing()

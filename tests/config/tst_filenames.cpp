@@ -49,16 +49,25 @@ void TestFileNames::bytesBecomeTextAndBytesAgain_data()
     row("lowest wrong byte", "\x80", lone(0xDC80));
     row("highest wrong byte", "\xFF", lone(0xDCFF));
     row("truncated sequence at the end", "a\xE2\x82", u'a' + lone(0xDCE2) + lone(0xDC82));
-    row("truncated sequence before a letter", "\xE2\x82" "a", lone(0xDCE2) + lone(0xDC82) + u'a');
+    row("truncated sequence before a letter",
+        "\xE2\x82"
+        "a",
+        lone(0xDCE2) + lone(0xDC82) + u'a');
     row("overlong slash", "\xC0\xAF", lone(0xDCC0) + lone(0xDCAF));
     row("encoded surrogate", "\xED\xA0\x80", lone(0xDCED) + lone(0xDCA0) + lone(0xDC80));
     row("encoded escape", "\xED\xB2\x80", lone(0xDCED) + lone(0xDCB2) + lone(0xDC80));
     row("above U+10FFFF", "\xF4\x90\x80\x80", lone(0xDCF4) + lone(0xDC90) + lone(0xDC80) + lone(0xDC80));
     row("wrong byte beside UTF-8", "\xC3\xA9\xE9\xC3\xA9", text(u"\u00E9") + lone(0xDCE9) + text(u"\u00E9"));
-    row("byte-order mark in front", "\xEF\xBB\xBF" "a", text(u"\uFEFFa"));
+    row("byte-order mark in front",
+        "\xEF\xBB\xBF"
+        "a",
+        text(u"\uFEFFa"));
     row("byte-order mark alone", "\xEF\xBB\xBF", text(u"\uFEFF"));
     row("two byte-order marks", "\xEF\xBB\xBF\xEF\xBB\xBF", text(u"\uFEFF\uFEFF"));
-    row("byte-order mark inside", "a\xEF\xBB\xBF" "b", text(u"a\uFEFFb"));
+    row("byte-order mark inside",
+        "a\xEF\xBB\xBF"
+        "b",
+        text(u"a\uFEFFb"));
     row("byte-order mark behind a wrong byte", "\xFF\xEF\xBB\xBF", lone(0xDCFF) + text(u"\uFEFF"));
     row("byte-order mark before a wrong byte", "\xEF\xBB\xBF\xFF", text(u"\uFEFF") + lone(0xDCFF));
     row("half a byte-order mark", "\xEF\xBB", lone(0xDCEF) + lone(0xDCBB));
@@ -101,29 +110,37 @@ void TestFileNames::decodesUtf8Strictly_data()
     const auto good = [](const char *name, const QByteArray &bytes, const QString &expected) {
         QTest::newRow(name) << bytes << expected;
     };
-    const auto bad = [](const char *name, const QByteArray &bytes) { QTest::newRow(name) << bytes << QString(); };
+    const auto bad = [](const char *name, const QByteArray &bytes) {
+        QTest::newRow(name) << bytes << QString();
+    };
     good("empty", "", QLatin1String(""));
     good("ASCII", "abc\n", text(u"abc\n"));
-    good("two, three and four bytes", "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80", text(u"\u00E9\u20AC\U0001F600"));
+    good("two, three and four bytes", "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80",
+         text(u"\u00E9\u20AC\U0001F600"));
     good("zero byte", QByteArray("a\0b", 3), QStringLiteral("a") + QChar(u'\0') + u'b');
     good("replacement character itself", "\xEF\xBF\xBD", text(u"\uFFFD"));
     good("last code point", "\xF4\x8F\xBF\xBF", text(u"\U0010FFFF"));
     bad("one Latin-1 byte", "M\xFCller");
     bad("one bad byte behind good text", "0010,0010\t\tANON\n\xFF");
-    bad("bad first byte", "\xFF" "abc");
-    bad("continuation byte alone", "a\x80" "b");
+    bad("bad first byte", "\xFF"
+                          "abc");
+    bad("continuation byte alone", "a\x80"
+                                   "b");
     bad("two bytes, cut at the end", "abc\xC3");
     bad("three bytes, cut after one at the end", "abc\xE2");
     bad("three bytes, cut after two at the end", "abc\xE2\x82");
     bad("four bytes, cut after three at the end", "abc\xF0\x9F\x98");
     bad("a cut sequence alone", "\xE2");
-    bad("cut inside", "\xE2\x82" "abc");
+    bad("cut inside", "\xE2\x82"
+                      "abc");
     bad("overlong slash", "\xC0\xAF");
     bad("overlong of three bytes", "\xE0\x80\xAF");
     bad("encoded surrogate", "\xED\xA0\x80");
     bad("pair of encoded surrogates", "\xED\xA0\xBD\xED\xB8\x80");
     bad("above U+10FFFF", "\xF4\x90\x80\x80");
-    bad("UTF-16 with its mark", QByteArray("\xFF\xFE" "a\0", 4));
+    bad("UTF-16 with its mark", QByteArray("\xFF\xFE"
+                                           "a\0",
+                                           4));
 }
 
 void TestFileNames::decodesUtf8Strictly()

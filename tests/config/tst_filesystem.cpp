@@ -12,11 +12,29 @@ using test::ScratchFolder;
 namespace {
 
 // Every name here is one that the file system allows.
-const QList<QByteArray> oddNames = {
-    "plain", "with blank", "quote\"s", "apostrophe's", "$HOME", "`id`", "back\\slash", "line\nbreak", "-nb", "[",
-    "*", ".hidden", "Latin-1 \xFC", "\xFF\xFE", "cut \xE2\x82", "\xEF\xBB\xBFmark", "\xED\xA0\x80 surrogate",
-    "\xF0\x9F\x98\x80", "combining e\xCC\x81", "precomposed \xC3\xA9", " ", "~", "%s %1 %n",
-};
+const QList<QByteArray> oddNames = {"plain",
+                                    "with blank",
+                                    "quote\"s",
+                                    "apostrophe's",
+                                    "$HOME",
+                                    "`id`",
+                                    "back\\slash",
+                                    "line\nbreak",
+                                    "-nb",
+                                    "[",
+                                    "*",
+                                    ".hidden",
+                                    "Latin-1 \xFC",
+                                    "\xFF\xFE",
+                                    "cut \xE2\x82",
+                                    "\xEF\xBB\xBFmark",
+                                    "\xED\xA0\x80 surrogate",
+                                    "\xF0\x9F\x98\x80",
+                                    "combining e\xCC\x81",
+                                    "precomposed \xC3\xA9",
+                                    " ",
+                                    "~",
+                                    "%s %1 %n"};
 
 } // namespace
 
@@ -99,7 +117,8 @@ void TestFileSystem::listsHiddenEntriesAndBrokenLinks()
     m_scratch->pipe(QStringLiteral("pipe"));
     QStringList names = listNames(m_scratch->path());
     names.sort();
-    QCOMPARE(names, QStringList({QStringLiteral(".hidden"), QStringLiteral("broken"), QStringLiteral("pipe")}));
+    QCOMPARE(names,
+             QStringList({QStringLiteral(".hidden"), QStringLiteral("broken"), QStringLiteral("pipe")}));
 }
 
 void TestFileSystem::listsNothingWhereNothingCanBeListed_data()

@@ -12,8 +12,8 @@
 using namespace dravolin;
 using test::ScratchFolder;
 
-// What changes the file system, and how failures are reported. Tests run as root, too, whom permissions do not
-// stop; what cannot be written here cannot be written by anybody.
+// What changes the file system, and how failures are reported. Tests run as root, too, whom permissions do
+// not stop; what cannot be written here cannot be written by anybody.
 class TestFileWriting : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ void TestFileWriting::makesExecutableForEverybody()
 void TestFileWriting::createsFoldersWithParents()
 {
     const QString folder = path(QStringLiteral("a/b/c"));
-    FolderError error{17, QStringLiteral("old")};
+    SystemError error{17, QStringLiteral("old")};
     QVERIFY(createFolder(folder, &error));
     QCOMPARE(error.code, 0);
     QCOMPARE(error.text, QString());
@@ -120,7 +120,7 @@ void TestFileWriting::reportsFoldersThatCannotBeMade()
     QFETCH(const QString, name);
     QFETCH(const int, code);
     m_scratch->file(QStringLiteral("file"));
-    FolderError error;
+    SystemError error;
     QVERIFY(!createFolder(path(name), &error));
     QCOMPARE(error.code, code);
     QCOMPARE(error.text, QString::fromLocal8Bit(::strerror(code)));

@@ -46,8 +46,10 @@ void TestFixedTags::keepsTagsApartThatDifferInCase()
 void TestFixedTags::windowGivesTheFixedTagsTheirValues()
 {
     TagRules rules;
-    addFixedTags(rules, {QStringLiteral("diagnosis"), QStringLiteral("0042"), QStringLiteral("credits"),
-                         QStringLiteral("keywords")}, uid);
+    addFixedTags(rules,
+                 {QStringLiteral("diagnosis"), QStringLiteral("0042"), QStringLiteral("credits"),
+                  QStringLiteral("keywords")},
+                 uid);
     QCOMPARE(rules.allTagsToAnonymize, fixedTags());
     QCOMPARE(rules.newValueDict, NewValueDict({{QStringLiteral("0010,0010"), QStringLiteral("diagnosis")},
                                                {QStringLiteral("0010,0020"), QStringLiteral("0042")},
@@ -59,8 +61,10 @@ void TestFixedTags::windowGivesTheFixedTagsTheirValues()
 void TestFixedTags::windowTextsAreOnlyTrimmed()
 {
     TagRules rules;
-    addFixedTags(rules, {QStringLiteral(" ... "), QStringLiteral("\t007 "), QStringLiteral("a   b\n"),
-                         QStringLiteral("  ")}, uid);
+    addFixedTags(
+        rules,
+        {QStringLiteral(" ... "), QStringLiteral("\t007 "), QStringLiteral("a   b\n"), QStringLiteral("  ")},
+        uid);
     QCOMPARE(rules.newValueDict, NewValueDict({{QStringLiteral("0010,0010"), QStringLiteral("...")},
                                                {QStringLiteral("0010,0020"), QStringLiteral("007")},
                                                {QStringLiteral("0020,000d"), uid},

@@ -128,6 +128,17 @@ class MainJob(unittest.TestCase):
         self.close(program)
         self.assertEqual(self.home.stored_root(), ROOT)
 
+    def test_a_single_picture_is_refused_and_starts_nothing(self):
+        picture = self.folder / "cover.png"
+        picture.write_bytes(b"no picture really")
+        program = self.start()
+        program.start_with_default_configuration()
+        status = program.status
+        self.assertEqual(program.drop_outcome(picture), "refused")
+        self.assertEqual((program.status, program.running(), program.read("UID root")), (status, False, ""))
+        self.assertEqual(picture.read_bytes(), b"no picture really")
+        self.assertEqual(list(self.folder.glob(".noxTemp*")), [])
+
     def test_saves_the_default_configuration_and_finds_it_at_the_next_start(self):
         browser = self.enterContext(FileBrowser())
         program = self.start()

@@ -204,7 +204,9 @@ void TestNOXUtils::cutsLinesAtEveryNewline_data()
     row("newline at the end", u"a\n", "a|");
     row("newline in front", u"\na", "|a");
     row("tab and blank are none", u"a\tb c", "a\tb c");
-    row("unit separator is none", u"a\u001Fb", "a\x1F" "b");
+    row("unit separator is none", u"a\u001Fb",
+        "a\x1F"
+        "b");
 }
 
 void TestNOXUtils::cutsLinesAtEveryNewline()

@@ -73,8 +73,9 @@ void TestAnonymizationCommand::choicesDecideTheOptions()
         command({QStringLiteral("0010,0010"), QStringLiteral("malformed tag"), QStringLiteral("0010,0030")},
                 {{QStringLiteral("0010,0010"), QStringLiteral("ANON")}}, choices);
     QCOMPARE(made.prefix, QStringLiteral("\"/opt/my tools/dcmodify\"") + options);
-    QCOMPARE(made.malformedTags,
-             choices.onlyGenerateSOP == Qt::Unchecked ? QStringList{QStringLiteral("malformed tag")} : QStringList());
+    QCOMPARE(made.malformedTags, choices.onlyGenerateSOP == Qt::Unchecked
+                                     ? QStringList{QStringLiteral("malformed tag")}
+                                     : QStringList());
 }
 
 void TestAnonymizationCommand::tagBecomesOneArgument_data()
@@ -82,21 +83,29 @@ void TestAnonymizationCommand::tagBecomesOneArgument_data()
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("value"); // null: none in the dictionary
     QTest::addColumn<QString>("argument");
-    const auto row = [](const char *name, const char16_t *tag, const char16_t *value, const char16_t *argument) {
-        QTest::newRow(name) << QString::fromUtf16(tag) << QString::fromUtf16(value) << QString::fromUtf16(argument);
+    const auto row = [](const char *name, const char16_t *tag, const char16_t *value,
+                        const char16_t *argument) {
+        QTest::newRow(name) << QString::fromUtf16(tag) << QString::fromUtf16(value)
+                            << QString::fromUtf16(argument);
     };
     row("with a value", u"0010,0010", u"ANON", u" -i \"(0010,0010)=ANON\"");
     row("without a value", u"0010,0010", nullptr, u" -ea \"(0010,0010)\"");
     row("with an empty value", u"0010,0010", u"", u" -ea \"(0010,0010)\"");
     row("value of a blank", u"0010,0010", u" ", u" -i \"(0010,0010)= \"");
-    row("value that the shell interprets", u"0010,0010", u"a\"b$c`d`\\e\nf", u" -i \"(0010,0010)=a\"b$c`d`\\e\nf\"");
+    row("value that the shell interprets", u"0010,0010", u"a\"b$c`d`\\e\nf",
+        u" -i \"(0010,0010)=a\"b$c`d`\\e\nf\"");
     row("value with equals sign and parentheses", u"0010,0010", u"(a)=b", u" -i \"(0010,0010)=(a)=b\"");
     row("value with place markers", u"0010,0010", u"%1 %2 %@", u" -i \"(0010,0010)=%1 %2 %@\"");
     row("value that is not ASCII", u"0010,0010", u"M\u00FCller", u" -i \"(0010,0010)=M\u00FCller\"");
     row("blanks around the tag", u" \t0010,0010\u00A0", nullptr, u" -ea \"(0010,0010)\"");
     row("nine characters of any kind", u"abcdefghi", u"x", u" -i \"(abcdefghi)=x\"");
     row("place markers in the tag", u"%1,%2%3xx", u"v", u" -i \"(%1,%2%3xx)=v\"");
-    row("nine units, eight characters", u"\U0001F600" u"abcdefg", nullptr, u" -ea \"(\U0001F600" u"abcdefg)\"");
+    row("nine units, eight characters",
+        u"\U0001F600"
+        u"abcdefg",
+        nullptr,
+        u" -ea \"(\U0001F600"
+        u"abcdefg)\"");
     row("a line break among nine", u"0010,001\n", nullptr, u" -ea \"(0010,001\n)\"");
     row("upper-case and lower-case differ", u"0020,000D", nullptr, u" -ea \"(0020,000D)\"");
 }
@@ -127,14 +136,19 @@ void TestAnonymizationCommand::tagIsMalformed_data()
     row("a remark", u"0010,0010 # x", u"0010,0010 # x");
     row("blanks do not count and are not reported", u" \t0010,001 ", u"0010,001");
     row("a line break counts", u"0010,0010\n", u"0010,0010\n");
-    row("nine characters, ten units", u"\U0001F600" u"abcdefgh", u"\U0001F600" u"abcdefgh");
+    row("nine characters, ten units",
+        u"\U0001F600"
+        u"abcdefgh",
+        u"\U0001F600"
+        u"abcdefgh");
 }
 
 void TestAnonymizationCommand::tagIsMalformed()
 {
     QFETCH(const QString, tag);
     QFETCH(const QString, reported);
-    const AnonymizationCommand made = command({tag}, {{tag, QStringLiteral("x")}, {reported, QStringLiteral("x")}});
+    const AnonymizationCommand made =
+        command({tag}, {{tag, QStringLiteral("x")}, {reported, QStringLiteral("x")}});
     QCOMPARE(made.prefix, QStringLiteral("\"/opt/my tools/dcmodify\" -ie -imt -nb"));
     QCOMPARE(made.malformedTags, QStringList{reported});
 }
@@ -161,9 +175,10 @@ void TestAnonymizationCommand::orderIsThatOfTheList()
         command({QStringLiteral("0020,000d"), QStringLiteral("z"), QString(), QStringLiteral("0010,0010"),
                  QStringLiteral("a"), QStringLiteral("0020,000D"), QStringLiteral("0020,000d")},
                 {{QStringLiteral("0020,000d"), QStringLiteral("1.2")}});
-    QCOMPARE(made.prefix,
-             QStringLiteral("\"/opt/my tools/dcmodify\" -ie -imt -nb -i \"(0020,000d)=1.2\" -ea \"(0010,0010)\""
-                            " -ea \"(0020,000D)\" -i \"(0020,000d)=1.2\""));
+    QCOMPARE(
+        made.prefix,
+        QStringLiteral("\"/opt/my tools/dcmodify\" -ie -imt -nb -i \"(0020,000d)=1.2\" -ea \"(0010,0010)\""
+                       " -ea \"(0020,000D)\" -i \"(0020,000d)=1.2\""));
     QCOMPARE(made.malformedTags, QStringList({QStringLiteral("z"), QStringLiteral("a")}));
 }
 

@@ -30,7 +30,8 @@ private:
     {
         PosixJobRunner jobs;
         const RunContext &context = m_run->context;
-        return findDicomdirs({context.state, context.paths, context.host, jobs, context.uuids, context.delays}, folder);
+        return findDicomdirs(
+            {context.state, context.paths, context.host, jobs, context.uuids, context.delays}, folder);
     }
     std::unique_ptr<TestRun> m_run;
 };
@@ -41,8 +42,8 @@ void TestDicomdirs::startsFindInTheFolder()
     QCOMPARE(m_run->jobs.jobs.size(), 1);
     const Job &job = m_run->jobs.jobs.first().job;
     QCOMPARE(job.executable, QStringLiteral("/usr/bin/find"));
-    QCOMPARE(job.arguments, QStringList({QStringLiteral("."), QStringLiteral("-name"), QStringLiteral("DICOMDIR"),
-                                         QStringLiteral("-print")}));
+    QCOMPARE(job.arguments, QStringList({QStringLiteral("."), QStringLiteral("-name"),
+                                         QStringLiteral("DICOMDIR"), QStringLiteral("-print")}));
     QCOMPARE(job.folder, QStringLiteral("/data/s1"));
     QCOMPARE(job.environment, std::optional<QStringList>()); // the application's own
     QCOMPARE(job.pipeOutput, true);
@@ -56,18 +57,22 @@ void TestDicomdirs::keepsTheLinesThatEndWithTheName_data()
     const QString two = QStringLiteral("./sub/DICOMDIR");
     QTest::newRow("nothing printed") << QByteArray() << QStringList();
     QTest::newRow("one") << QByteArray("./DICOMDIR\n") << QStringList{one};
-    QTest::newRow("order is the tool's") << QByteArray("./sub/DICOMDIR\n./DICOMDIR\n") << QStringList({two, one});
-    QTest::newRow("no newline at the end") << QByteArray("./DICOMDIR\n./sub/DICOMDIR") << QStringList({one, two});
+    QTest::newRow("order is the tool's")
+        << QByteArray("./sub/DICOMDIR\n./DICOMDIR\n") << QStringList({two, one});
+    QTest::newRow("no newline at the end")
+        << QByteArray("./DICOMDIR\n./sub/DICOMDIR") << QStringList({one, two});
     QTest::newRow("lower case is another name") << QByteArray("./dicomdir\n./DICOMDIR\n") << QStringList{one};
-    QTest::newRow("something behind the name") << QByteArray("./DICOMDIR \n./DICOMDIR.bak\n") << QStringList();
-    QTest::newRow("something else in front of it") << QByteArray("./xDICOMDIR\n")
-                                                   << QStringList{QStringLiteral("./xDICOMDIR")};
+    QTest::newRow("something behind the name")
+        << QByteArray("./DICOMDIR \n./DICOMDIR.bak\n") << QStringList();
+    QTest::newRow("something else in front of it")
+        << QByteArray("./xDICOMDIR\n") << QStringList{QStringLiteral("./xDICOMDIR")};
     QTest::newRow("line break in a folder's name")
         << QByteArray("./a\nb/DICOMDIR\n") << QStringList{QStringLiteral("b/DICOMDIR")};
     QTest::newRow("carriage return ends a line") << QByteArray("./DICOMDIR\r\n") << QStringList{one};
     QTest::newRow("UTF-8") << QByteArray("./M\xC3\xBCller/DICOMDIR\n")
                            << QStringList{QStringLiteral("./M\u00FCller/DICOMDIR")};
-    QTest::newRow("one byte that is not UTF-8") << QByteArray("./DICOMDIR\n./M\xFCller/DICOMDIR\n") << QStringList();
+    QTest::newRow("one byte that is not UTF-8")
+        << QByteArray("./DICOMDIR\n./M\xFCller/DICOMDIR\n") << QStringList();
 }
 
 void TestDicomdirs::keepsTheLinesThatEndWithTheName()
@@ -95,8 +100,8 @@ void TestDicomdirs::findThatCannotBeStartedFindsNothing()
 
 void TestDicomdirs::findsThemInATree()
 {
-    for (const char16_t *file : {u"Top/DICOMDIR", u"Top/sub/.hidden/DICOMDIR", u"Top/dicomdir", u"Top/sub/xDICOMDIR",
-                                 u"Top/sub/DICOMDIR.bak", u"elsewhere/DICOMDIR"})
+    for (const char16_t *file : {u"Top/DICOMDIR", u"Top/sub/.hidden/DICOMDIR", u"Top/dicomdir",
+                                 u"Top/sub/xDICOMDIR", u"Top/sub/DICOMDIR.bak", u"elsewhere/DICOMDIR"})
         m_run->writeFile(QString::fromUtf16(file));
     QCOMPARE(::symlink("../elsewhere", toBytes(m_run->path(QStringLiteral("Top/link"))).constData()), 0);
     QStringList found = reallyFind(m_run->path(QStringLiteral("Top")));

@@ -10,8 +10,9 @@ using test::TestRun;
 
 namespace {
 
-const QString header = QStringLiteral("#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading "
-                                      "this, the file is garbage that can safely be deleted.\n");
+const QString header =
+    QStringLiteral("#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading "
+                   "this, the file is garbage that can safely be deleted.\n");
 const QStringList tags = {QStringLiteral("0010,0010"), QStringLiteral("0010,0030")};
 const QString tagArguments = QStringLiteral(" -i \"(0010,0010)=ANON\" -ea \"(0010,0030)\"");
 constexpr qsizetype suffixLength = 21; // of " >>.noxTemp.out 2>>&1"
@@ -42,7 +43,10 @@ private Q_SLOTS:
     void jobThatCannotStartIsOneError();
 
 private:
-    [[nodiscard]] QString prefix() const { return u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt -nb"); }
+    [[nodiscard]] QString prefix() const
+    {
+        return u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt -nb");
+    }
     [[nodiscard]] QString script() const { return m_run->jobs.jobs.last().script; }
     std::unique_ptr<TestRun> m_run;
     QString m_folder;
@@ -66,8 +70,8 @@ void TestFolderAnonymization::folderJobTakesEveryEntryByAGlob()
     RunOptions options;
     options.createBAKfiles = true;
     QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, options), 0U);
-    QCOMPARE(script(), header + u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt") + tagArguments +
-                           QStringLiteral(" * >.noxTemp.out 2>&1"));
+    QCOMPARE(script(), header + u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt") +
+                           tagArguments + QStringLiteral(" * >.noxTemp.out 2>&1"));
 }
 
 void TestFolderAnonymization::folderJobIsNeverSplit()
@@ -88,7 +92,8 @@ void TestFolderAnonymization::emptyFolderGetsAJobToo()
 
 void TestFolderAnonymization::filesAreNamedOneByOne()
 {
-    const QStringList files = {joinPath(m_folder, QStringLiteral("b.dcm")), joinPath(m_folder, QStringLiteral("a 1")),
+    const QStringList files = {joinPath(m_folder, QStringLiteral("b.dcm")),
+                               joinPath(m_folder, QStringLiteral("a 1")),
                                joinPath(m_folder, QStringLiteral("c\"$`\\.dcm"))};
     QCOMPARE(anonymizeFiles(m_run->context, tags, files, m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
@@ -98,8 +103,8 @@ void TestFolderAnonymization::filesAreNamedOneByOne()
 
 void TestFolderAnonymization::filesOfOtherFoldersAreNamedInTheFirst()
 {
-    QCOMPARE(anonymizeFiles(m_run->context, {}, {QStringLiteral("/one/a"), QStringLiteral("/two/b")}, m_folder,
-                            m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, {}, {QStringLiteral("/one/a"), QStringLiteral("/two/b")},
+                            m_folder, m_noBackups),
              0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(), header + prefix() + QStringLiteral(" \"a\" \"b\" >.noxTemp.out 2>&1"));
@@ -124,15 +129,17 @@ void TestFolderAnonymization::oneCharacterDecidesWhetherAListIsSplit()
     QStringList files;
     QStringList arguments;
     for (qsizetype i = 0; i < count; ++i) {
-        const QString name = QStringLiteral("%1").arg(i, static_cast<int>(i + 1 < count ? each : each + extra), 10, QChar(u'0'));
+        const QString name = QStringLiteral("%1").arg(
+            i, static_cast<int>(i + 1 < count ? each : each + extra), 10, QChar(u'0'));
         files.append(joinPath(m_folder, name));
         arguments.append(QStringLiteral(" \"") + name + u'"');
     }
     const QString start = prefix() + tagArguments;
     QCOMPARE(start.size() + arguments.join(QString()).size() + suffixLength, total);
     const QString oneLine = start + arguments.join(QString()) + QStringLiteral(" >.noxTemp.out 2>&1");
-    const QString twoLines = start + arguments.mid(0, 500).join(QString()) + QStringLiteral(" >>.noxTemp.out 2>>&1\n") +
-                             start + arguments.mid(500).join(QString()) + QStringLiteral(" >>.noxTemp.out 2>>&1");
+    const QString twoLines = start + arguments.mid(0, 500).join(QString()) +
+                             QStringLiteral(" >>.noxTemp.out 2>>&1\n") + start +
+                             arguments.mid(500).join(QString()) + QStringLiteral(" >>.noxTemp.out 2>>&1");
     QCOMPARE(anonymizeFiles(m_run->context, tags, files, m_folder, m_noBackups), 0U);
     QVERIFY(script() == header + (split ? twoLines : oneLine));
 }
@@ -142,8 +149,8 @@ void TestFolderAnonymization::fewFilesBehindALongPrefixLandOnTheLastLine()
     const QString value(393216, u'x'); // three times half the limit
     m_run->state.set(&RunState::newValueDict, NewValueDict{{tags.first(), value}});
     const QString start = prefix() + QStringLiteral(" -i \"(0010,0010)=") + value + u'"';
-    QCOMPARE(anonymizeFiles(m_run->context, {tags.first()}, {QStringLiteral("/d/a"), QStringLiteral("/d/b")}, m_folder,
-                            m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, {tags.first()}, {QStringLiteral("/d/a"), QStringLiteral("/d/b")},
+                            m_folder, m_noBackups),
              0U);
     const QString empty = start + QStringLiteral(" >>.noxTemp.out 2>>&1\n");
     QVERIFY(script() == header + empty + empty + start + QStringLiteral(" \"a\" \"b\" >>.noxTemp.out 2>>&1"));
@@ -165,7 +172,8 @@ void TestFolderAnonymization::noFilesOrNoFolderIsNoJob()
     m_run->host.recordReads = true;
     const LogCatcher log;
     const QStringList malformed = {QStringLiteral("malformed")};
-    QCOMPARE(anonymizeFiles(m_run->context, malformed, files, withFolder ? m_folder : QString(), m_noBackups), 0U);
+    QCOMPARE(anonymizeFiles(m_run->context, malformed, files, withFolder ? m_folder : QString(), m_noBackups),
+             0U);
     QVERIFY(m_run->jobs.jobs.isEmpty());
     QCOMPARE(listNames(m_folder), QStringList());
     QCOMPARE(m_run->host.calls, QStringList());
@@ -192,8 +200,10 @@ void TestFolderAnonymization::readsTheCheckBoxesAtTheStartOfEachCall()
 void TestFolderAnonymization::onlyGenerateLeavesTagsAndTheirLogOut()
 {
     const LogCatcher log;
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked}, {CheckBox::OnlyGenerateSOP, Qt::Checked}};
-    QCOMPARE(anonymizeFolder(m_run->context, tags + QStringList{QStringLiteral("malformed")}, m_folder, m_noBackups),
+    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked},
+                               {CheckBox::OnlyGenerateSOP, Qt::Checked}};
+    QCOMPARE(anonymizeFolder(m_run->context, tags + QStringList{QStringLiteral("malformed")}, m_folder,
+                             m_noBackups),
              0U);
     QCOMPARE(script(), header + prefix() + QStringLiteral(" -gin * >.noxTemp.out 2>&1"));
     QCOMPARE(log.messages(), QStringList());

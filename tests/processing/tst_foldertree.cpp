@@ -1,6 +1,5 @@
 #include "config/FileSystem.h"
 #include "processing/FolderTree.h"
-#include "support/AsOrdinaryUser.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -9,16 +8,25 @@
 #include <unistd.h>
 
 using namespace dravolin;
-using test::AsOrdinaryUser;
 using test::TestRun;
 
 namespace {
 
 // Every name here is one that the file system allows.
-const QList<QByteArray> oddNames = {
-    "quote\"s", "apostrophe's", "$HOME", "`id`", "back\\slash", "line\nbreak", "-nb", "*", " ",
-    "Latin-1 \xFC", "cut \xE2\x82", "\xEF\xBB\xBFmark", "\xF0\x9F\x98\x80", "%1 %s",
-};
+const QList<QByteArray> oddNames = {"quote\"s",
+                                    "apostrophe's",
+                                    "$HOME",
+                                    "`id`",
+                                    "back\\slash",
+                                    "line\nbreak",
+                                    "-nb",
+                                    "*",
+                                    " ",
+                                    "Latin-1 \xFC",
+                                    "cut \xE2\x82",
+                                    "\xEF\xBB\xBFmark",
+                                    "\xF0\x9F\x98\x80",
+                                    "%1 %s"};
 
 } // namespace
 
@@ -39,10 +47,6 @@ private Q_SLOTS:
     void anonymizingDeletesNothing();
     void failedJobIsCountedAndTheWalkGoesOn();
     void walksFoldersWithOddNames();
-    void folderThatCannotBeListedIsCountedAsEmpty_data();
-    void folderThatCannotBeListedIsCountedAsEmpty();
-    void entryWhoseAttributesCannotBeReadIsLeftOut();
-    void whatIsNoFolderIsWalkedAsAnEmptyOne();
     void tellsTheProgress();
 
 private:
@@ -51,7 +55,10 @@ private:
         (void)countFolderTree(m_run->context, folder);
         return m_run->state.get(&RunState::AllFoldersNames);
     }
-    [[nodiscard]] QString path(const char16_t *relative) const { return m_run->path(QString::fromUtf16(relative)); }
+    [[nodiscard]] QString path(const char16_t *relative) const
+    {
+        return m_run->path(QString::fromUtf16(relative));
+    }
     void make(const QList<const char16_t *> &folders)
     {
         for (const char16_t *folder : folders)
@@ -102,14 +109,16 @@ void TestFolderTree::countsFoldersByTheirOwnAttributes()
     QCOMPARE(::mkfifo(toBytes(path(u"Top/pipe")).constData(), 0600), 0);
     QStringList names = count(path(u"Top"));
     names.sort();
-    QCOMPARE(names, QStringList({QStringLiteral(".hidden"), QStringLiteral("contents"), QStringLiteral("package.app")}));
+    QCOMPARE(names, QStringList({QStringLiteral(".hidden"), QStringLiteral("contents"),
+                                 QStringLiteral("package.app")}));
     QCOMPARE(m_run->state.get(&RunState::totalFolders), 4U);
 
     (void)anonymizeFolderTree(m_run->context, {}, path(u"Top"), {});
     QStringList folders = m_run->jobs.folders();
     QCOMPARE(folders.takeLast(), path(u"Top"));
     folders.sort();
-    QCOMPARE(folders, QStringList({path(u"Top/.hidden"), path(u"Top/Package.app"), path(u"Top/Package.app/Contents")}));
+    QCOMPARE(folders, QStringList({path(u"Top/.hidden"), path(u"Top/Package.app"),
+                                   path(u"Top/Package.app/Contents")}));
 }
 
 void TestFolderTree::severalTreesAddUp()
@@ -124,15 +133,18 @@ void TestFolderTree::deletesWhatEarlierRunsLeftInEveryFolder()
 {
     const QStringList folders = {QStringLiteral("Top"), QStringLiteral("Top/a"), QStringLiteral("Top/a/.b")};
     for (const QString &folder : folders) {
-        for (const char16_t *name : {u".noxTemp.sh", u".noxTemp.out", u"noxTemp.out", u".noxTemp.out2", u"image"})
+        for (const char16_t *name :
+             {u".noxTemp.sh", u".noxTemp.out", u"noxTemp.out", u".noxTemp.out2", u"image"})
             m_run->writeFile(joinPath(folder, QString::fromUtf16(name)));
     }
     (void)count(path(u"Top"));
     for (const QString &folder : folders) {
         QStringList left = listNames(m_run->path(folder));
-        left.removeIf([](const QString &name) { return name == QStringLiteral("a") || name == QStringLiteral(".b"); });
+        left.removeIf(
+            [](const QString &name) { return name == QStringLiteral("a") || name == QStringLiteral(".b"); });
         left.sort();
-        QCOMPARE(left, QStringList({QStringLiteral(".noxTemp.out2"), QStringLiteral("image"), QStringLiteral("noxTemp.out")}));
+        QCOMPARE(left, QStringList({QStringLiteral(".noxTemp.out2"), QStringLiteral("image"),
+                                    QStringLiteral("noxTemp.out")}));
     }
 }
 
@@ -161,7 +173,8 @@ void TestFolderTree::anonymizesSubfoldersBeforeTheirParents()
     QCOMPARE(m_run->jobs.folders(), expected + QStringList{path(u"Top")});
     for (const auto &recorded : m_run->jobs.jobs)
         QCOMPARE(recorded.script.section(u'\n', 2),
-                 u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt -ea \"(0010,0030)\" * >.noxTemp.out 2>&1"));
+                 u'"' + m_run->paths.dcmodify() +
+                     QStringLiteral("\" -ie -imt -ea \"(0010,0030)\" * >.noxTemp.out 2>&1"));
     QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("setStatus: \nWorking... 1/4 folders"),
                                              QStringLiteral("setStatus: \nWorking... 2/4 folders"),
                                              QStringLiteral("setStatus: \nWorking... 3/4 folders"),
@@ -225,57 +238,6 @@ void TestFolderTree::walksFoldersWithOddNames()
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
     for (const QString &folder : expectedFolders)
         QCOMPARE(listNames(folder), QStringList());
-}
-
-void TestFolderTree::folderThatCannotBeListedIsCountedAsEmpty_data()
-{
-    QTest::addColumn<int>("permissions");
-    QTest::addColumn<int>("errors");
-    QTest::newRow("not even entered: its job fails") << 0000 << 1;
-    QTest::newRow("entered and written: its job runs") << 0333 << 0;
-}
-
-void TestFolderTree::folderThatCannotBeListedIsCountedAsEmpty()
-{
-    QFETCH(const int, permissions);
-    QFETCH(const int, errors);
-    m_run.reset();
-    const AsOrdinaryUser user;
-    m_run = std::make_unique<TestRun>();
-    make({u"Top/Closed/inside"});
-    QCOMPARE(::chmod(toBytes(path(u"Top/Closed")).constData(), static_cast<mode_t>(permissions)), 0);
-    const QStringList names = count(path(u"Top"));
-    const quint64 result = anonymizeFolderTree(m_run->context, {}, path(u"Top"), {});
-    ::chmod(toBytes(path(u"Top/Closed")).constData(), 0777);
-    QCOMPARE(names, QStringList{QStringLiteral("closed")});
-    QCOMPARE(result, 0U);
-    QCOMPARE(m_run->state.get(&RunState::errCount), static_cast<quint64>(errors));
-    QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("setStatus: \nWorking... 1/2 folders"),
-                                             QStringLiteral("setStatus: \nWorking... 2/2 folders")}));
-    m_run.reset();
-}
-
-void TestFolderTree::entryWhoseAttributesCannotBeReadIsLeftOut()
-{
-    m_run.reset();
-    const AsOrdinaryUser user;
-    m_run = std::make_unique<TestRun>();
-    make({u"Top/Listed only/inside"});
-    QCOMPARE(::chmod(toBytes(path(u"Top/Listed only")).constData(), 0444), 0);
-    const QStringList names = count(path(u"Top"));
-    ::chmod(toBytes(path(u"Top/Listed only")).constData(), 0777);
-    QCOMPARE(names, QStringList{QStringLiteral("listed only")});
-    QCOMPARE(m_run->state.get(&RunState::totalFolders), 2U);
-    m_run.reset();
-}
-
-// A folder that is gone when its turn comes.
-void TestFolderTree::whatIsNoFolderIsWalkedAsAnEmptyOne()
-{
-    QCOMPARE(countFolderTree(m_run->context, path(u"missing")), 1U);
-    QCOMPARE(anonymizeFolderTree(m_run->context, {}, path(u"missing"), {}), 0U);
-    QCOMPARE(m_run->state.get(&RunState::errCount), 1U);
-    QCOMPARE(m_run->host.calls, QStringList{QStringLiteral("setStatus: \nWorking... 1/1 folders")});
 }
 
 void TestFolderTree::tellsTheProgress()

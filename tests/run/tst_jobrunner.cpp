@@ -95,14 +95,16 @@ void TestJobRunner::runsInItsFolder()
     QFETCH(const QByteArray, name);
     const ScratchFolder scratch;
     const QString folder = scratch.folder(fromBytes(name));
-    const JobResult result = run({QStringLiteral("/bin/pwd"), {QStringLiteral("-P")}, folder, QStringList(), true});
+    const JobResult result =
+        run({QStringLiteral("/bin/pwd"), {QStringLiteral("-P")}, folder, QStringList(), true});
     QCOMPARE(result.output, toBytes(folder) + '\n');
 }
 
 void TestJobRunner::handsArgumentsOnByteForByte()
 {
-    const QStringList arguments = {QStringLiteral("%s|"), QStringLiteral("a b"), QString(), QStringLiteral("\"$x`\\"),
-                                   QStringLiteral("a\nb"), fromBytes("\xFF"), QStringLiteral("\U0001F600")};
+    const QStringList arguments = {QStringLiteral("%s|"),       QStringLiteral("a b"),  QString(),
+                                   QStringLiteral("\"$x`\\"),   QStringLiteral("a\nb"), fromBytes("\xFF"),
+                                   QStringLiteral("\U0001F600")};
     const JobResult result =
         run({QStringLiteral("/usr/bin/printf"), arguments, QStringLiteral("/"), QStringList(), true});
     QCOMPARE(result.output, QByteArray("a b||\"$x`\\|a\nb|\xFF|\xF0\x9F\x98\x80|"));
@@ -110,7 +112,8 @@ void TestJobRunner::handsArgumentsOnByteForByte()
 
 void TestJobRunner::standardInputIsTheNullDevice()
 {
-    QCOMPARE(run(shellJob(QStringLiteral("readlink /proc/self/fd/0; cat"))).output, QByteArray("/dev/null\n"));
+    QCOMPARE(run(shellJob(QStringLiteral("readlink /proc/self/fd/0; cat"))).output,
+             QByteArray("/dev/null\n"));
 }
 
 void TestJobRunner::collectsMoreThanAPipeHolds()
@@ -124,7 +127,8 @@ void TestJobRunner::collectsMoreThanAPipeHolds()
 
 void TestJobRunner::collectsOnlyStandardOutput()
 {
-    QCOMPARE(run(shellJob(QStringLiteral("echo out; exec 2>/dev/null; echo err >&2"))).output, QByteArray("out\n"));
+    QCOMPARE(run(shellJob(QStringLiteral("echo out; exec 2>/dev/null; echo err >&2"))).output,
+             QByteArray("out\n"));
 }
 
 void TestJobRunner::withoutAPipeOutputIsTheApplicationsOwn()
@@ -191,7 +195,8 @@ void TestJobRunner::reportsWhatCouldNotBeStarted()
 void TestJobRunner::reportsThatThereIsNoPipe()
 {
     const ScratchFolder scratch;
-    const Job job = {QStringLiteral("/usr/bin/touch"), {QStringLiteral("started")}, scratch.path(), QStringList(), true};
+    const Job job = {
+        QStringLiteral("/usr/bin/touch"), {QStringLiteral("started")}, scratch.path(), QStringList(), true};
     struct rlimit before = {};
     QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
     const struct rlimit none = {0, before.rlim_max};
@@ -208,7 +213,8 @@ void TestJobRunner::reportsThatThereIsNoPipe()
 void TestJobRunner::waitsUntilItHasEnded()
 {
     const ScratchFolder scratch;
-    Job job = shellJob(QStringLiteral("exec >/dev/null; i=0; while [ $i -lt 100000 ]; do i=$((i+1)); done; touch ended"));
+    Job job = shellJob(
+        QStringLiteral("exec >/dev/null; i=0; while [ $i -lt 100000 ]; do i=$((i+1)); done; touch ended"));
     job.folder = scratch.path();
     for (const bool pipe : {false, true}) {
         job.pipeOutput = pipe;

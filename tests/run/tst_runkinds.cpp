@@ -29,7 +29,7 @@ public:
     [[nodiscard]] bool isEmpty() const override { return false; }
     [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
     {
-        return qstrcmp(context, "Dravolin") == 0 ? u'#' + QString::fromUtf8(text) : QString();
+        return qstrcmp(context, "Texts") == 0 ? u'#' + QString::fromUtf8(text) : QString();
     }
 };
 

@@ -58,9 +58,10 @@ private Q_SLOTS:
 void TestScript::headerIsTwoLinesAndNoBlankOne()
 {
     QCOMPARE(scriptText(QStringLiteral("\"/x/dcmodify\" * >.noxTemp.out 2>&1")),
-             QStringLiteral("#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading this, the "
-                            "file is garbage that can safely be deleted.\n"
-                            "\"/x/dcmodify\" * >.noxTemp.out 2>&1"));
+             QStringLiteral(
+                 "#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading this, the "
+                 "file is garbage that can safely be deleted.\n"
+                 "\"/x/dcmodify\" * >.noxTemp.out 2>&1"));
 }
 
 void TestScript::quotesWithoutEscaping_data()
@@ -68,7 +69,8 @@ void TestScript::quotesWithoutEscaping_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
     QTest::newRow("plain") << QStringLiteral("/x/dcmodify") << QStringLiteral("\"/x/dcmodify\"");
-    QTest::newRow("shell characters") << QStringLiteral("/a\"b$c`d\\e\nf") << QStringLiteral("\"/a\"b$c`d\\e\nf\"");
+    QTest::newRow("shell characters")
+        << QStringLiteral("/a\"b$c`d\\e\nf") << QStringLiteral("\"/a\"b$c`d\\e\nf\"");
     QTest::newRow("empty") << QString() << QStringLiteral("\"\"");
 }
 
@@ -85,8 +87,10 @@ void TestScript::namesFilesByTheirLastComponent_data()
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("none") << QStringList() << QStringList();
     QTest::newRow("order is kept, folders are dropped")
-        << QStringList({QStringLiteral("/data/b.dcm"), QStringLiteral("/other/a.dcm"), QStringLiteral("/data/b.dcm")})
-        << QStringList({QStringLiteral(" \"b.dcm\""), QStringLiteral(" \"a.dcm\""), QStringLiteral(" \"b.dcm\"")});
+        << QStringList(
+               {QStringLiteral("/data/b.dcm"), QStringLiteral("/other/a.dcm"), QStringLiteral("/data/b.dcm")})
+        << QStringList(
+               {QStringLiteral(" \"b.dcm\""), QStringLiteral(" \"a.dcm\""), QStringLiteral(" \"b.dcm\"")});
     QTest::newRow("shell characters and blanks")
         << QStringList({QStringLiteral("/data/a \"b\" $c `d` \\e"), QStringLiteral("/data/-nb")})
         << QStringList({QStringLiteral(" \"a \"b\" $c `d` \\e\""), QStringLiteral(" \"-nb\"")});
@@ -134,7 +138,8 @@ void TestScript::splitsAtTheProgramsOwnLimit()
     QCOMPARE(maximum, 262144);
     const QStringList files = arguments(4);
     const QString below = prefixForTotal(262143, files);
-    QCOMPARE(commandLines(below, files, appendingRedirections(), maximum), below + files.join(QString()) + only);
+    QCOMPARE(commandLines(below, files, appendingRedirections(), maximum),
+             below + files.join(QString()) + only);
     const QString at = prefixForTotal(262144, files);
     QCOMPARE(commandLines(at, files, appendingRedirections(), maximum),
              at + files.at(0) + files.at(1) + more + at + files.at(2) + files.at(3) + last);

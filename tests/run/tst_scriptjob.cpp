@@ -31,8 +31,8 @@ QStringList givenVariables(const QString &environment)
     QStringList lines = environment.split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString &line) {
         const QString name = line.section(u'=', 0, 0);
-        return name == QStringLiteral("PWD") || name == QStringLiteral("OLDPWD") || name == QStringLiteral("SHLVL") ||
-               name == QStringLiteral("_");
+        return name == QStringLiteral("PWD") || name == QStringLiteral("OLDPWD") ||
+               name == QStringLiteral("SHLVL") || name == QStringLiteral("_");
     });
     return lines;
 }
@@ -93,10 +93,12 @@ void TestScriptJob::startsTheShellOnTheQuotedScript()
     QCOMPARE(jobs.jobs.size(), 1);
     const Job &job = jobs.jobs.first().job;
     QCOMPARE(job.executable, QStringLiteral("/bin/sh"));
-    QCOMPARE(job.arguments, QStringList({QStringLiteral("-c"), u'"' + m_folder + QStringLiteral("/.noxTemp.sh\"")}));
+    QCOMPARE(job.arguments,
+             QStringList({QStringLiteral("-c"), u'"' + m_folder + QStringLiteral("/.noxTemp.sh\"")}));
     QCOMPARE(job.folder, m_folder);
-    QCOMPARE(job.environment, std::optional(QStringList{QStringLiteral("DCMDICTPATH=") + m_paths.resourceFolder +
-                                                        QStringLiteral("/dicom.dic")}));
+    QCOMPARE(job.environment,
+             std::optional(QStringList{QStringLiteral("DCMDICTPATH=") + m_paths.resourceFolder +
+                                       QStringLiteral("/dicom.dic")}));
     QCOMPARE(job.pipeOutput, false);
     QCOMPARE(jobs.jobs.first().script, scriptText(QStringLiteral("commands \u00FC")));
 }
@@ -104,12 +106,14 @@ void TestScriptJob::startsTheShellOnTheQuotedScript()
 void TestScriptJob::writesTheScriptOverWhatIsThere()
 {
     const QString old = m_scratch->file(QStringLiteral("s1/.noxTemp.sh"), QByteArray(100000, 'x'));
-    QCOMPARE(::link(toBytes(old).constData(), toBytes(m_scratch->path(QStringLiteral("other"))).constData()), 0);
+    QCOMPARE(::link(toBytes(old).constData(), toBytes(m_scratch->path(QStringLiteral("other"))).constData()),
+             0);
     RecordingJobRunner jobs;
     QVERIFY(runScriptJob(jobs, m_paths, m_folder, QStringLiteral("commands")).ran);
     QCOMPARE(jobs.jobs.first().script, scriptText(QStringLiteral("commands")));
     // written in place: the other name of the same file sees the new text
-    QCOMPARE(readText(m_scratch->path(QStringLiteral("other"))), std::optional(scriptText(QStringLiteral("commands"))));
+    QCOMPARE(readText(m_scratch->path(QStringLiteral("other"))),
+             std::optional(scriptText(QStringLiteral("commands"))));
 }
 
 void TestScriptJob::environmentIsTheDictionarysPath()
@@ -122,7 +126,8 @@ void TestScriptJob::toolGetsWhatTheScriptSays()
 {
     for (const char16_t *name : {u"s1/b", u"s1/a 1", u"s1/.hidden"})
         m_scratch->file(QString::fromUtf16(name));
-    const QString commands = quoted(m_paths.dcmodify()) + QStringLiteral(" -i \"(0010,0010)=A  B\" *") + redirection;
+    const QString commands =
+        quoted(m_paths.dcmodify()) + QStringLiteral(" -i \"(0010,0010)=A  B\" *") + redirection;
     QVERIFY(run(m_folder, commands).ran);
     QCOMPARE(written(QStringLiteral("arguments")), QStringLiteral("-i|(0010,0010)=A  B|a 1|b|"));
     QCOMPARE(givenVariables(written(QStringLiteral("environment"))), toolEnvironment(m_paths));
@@ -168,7 +173,8 @@ void TestScriptJob::deletesTheScriptThenReadsThenDeletesTheFileBeside()
         m_scratch->link(QStringLiteral("s1/.noxTemp.out"), QStringLiteral("../s1.noxTemp.out"));
         return JobResult{JobOutcome::Ran, {}};
     };
-    QCOMPARE(runScriptJob(jobs, m_paths, m_folder, QString()).output, QStringLiteral("read before it was deleted"));
+    QCOMPARE(runScriptJob(jobs, m_paths, m_folder, QString()).output,
+             QStringLiteral("read before it was deleted"));
     QVERIFY(!pathExists(m_scratch->path(QStringLiteral("s1.noxTemp.out"))));
 
     removeFile(output);
@@ -187,8 +193,10 @@ void TestScriptJob::outputThatIsNoTextAddsNothing_data()
                           << QStringLiteral("M\u00FCller\n \n");
     QTest::newRow("empty") << QStringLiteral(": >.noxTemp.out") << QString();
     QTest::newRow("no output file") << QStringLiteral(":") << QString();
-    QTest::newRow("one byte that is not UTF-8") << QStringLiteral("printf 'E: x\\n\\374\\n' >.noxTemp.out") << QString();
-    QTest::newRow("cut at the end") << QStringLiteral("printf 'E: x\\n\\342\\202' >.noxTemp.out") << QString();
+    QTest::newRow("one byte that is not UTF-8")
+        << QStringLiteral("printf 'E: x\\n\\374\\n' >.noxTemp.out") << QString();
+    QTest::newRow("cut at the end") << QStringLiteral("printf 'E: x\\n\\342\\202' >.noxTemp.out")
+                                    << QString();
     QTest::newRow("output is a folder") << QStringLiteral("mkdir .noxTemp.out") << QString();
 }
 
@@ -205,15 +213,17 @@ void TestScriptJob::keepsReadingStaleOutput()
 {
     m_scratch->file(QStringLiteral("s1/.noxTemp.out"), "of an earlier job\n");
     QCOMPARE(run(m_folder, QStringLiteral(":")).output, QStringLiteral("of an earlier job\n"));
-    QCOMPARE(run(m_folder, QStringLiteral("echo new >>.noxTemp.out")).output, QStringLiteral("of an earlier job\nnew\n"));
+    QCOMPARE(run(m_folder, QStringLiteral("echo new >>.noxTemp.out")).output,
+             QStringLiteral("of an earlier job\nnew\n"));
     QCOMPARE(run(m_folder, QStringLiteral("echo new") + redirection).output, QStringLiteral("new\n"));
 }
 
 void TestScriptJob::runsInFoldersWithOddNames_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char *name : {"with blank", " ", "apostrophe's", "line\nbreak", "Latin-1 \xFC", "cut \xE2\x82", "*",
-                             "\xEF\xBB\xBFmark", "\xF0\x9F\x98\x80", "semi;colon & | > <", "back\\slash", "-nb", ".hidden"})
+    for (const char *name :
+         {"with blank", " ", "apostrophe's", "line\nbreak", "Latin-1 \xFC", "cut \xE2\x82", "*",
+          "\xEF\xBB\xBFmark", "\xF0\x9F\x98\x80", "semi;colon & | > <", "back\\slash", "-nb", ".hidden"})
         QTest::newRow(QByteArray(name).toPercentEncoding(" '*;&|<>\\").constData()) << QByteArray(name);
 }
 

@@ -18,7 +18,8 @@ class WithoutShell : public JobRunner
 public:
     [[nodiscard]] JobResult run(const Job &job) override
     {
-        return PosixJobRunner().run({joinPath(job.folder, scriptFileName), {}, job.folder, job.environment, false});
+        return PosixJobRunner().run(
+            {joinPath(job.folder, scriptFileName), {}, job.folder, job.environment, false});
     }
 };
 
@@ -61,7 +62,8 @@ void TestScriptJobThreads::threadsBesideEachOtherKeepTheirJobsApart()
             PosixJobRunner jobs;
             for (int time = 0; time < times; ++time) {
                 const QString number = QString::number(time);
-                if (runScriptJob(jobs, m_paths, folder, QStringLiteral("echo ") + number + redirection).output == number + u'\n')
+                if (runScriptJob(jobs, m_paths, folder, QStringLiteral("echo ") + number + redirection)
+                        .output == number + u'\n')
                     ++good;
             }
         });
@@ -78,8 +80,8 @@ void TestScriptJobThreads::scriptIsNeverBusyWhileOtherChildrenStart()
 {
     std::atomic<bool> done = false;
     std::thread other([&done] {
-        const Job slow = {QStringLiteral("/bin/true"), QStringList(16, QString(120000, u'x')), QStringLiteral("/"),
-                          QStringList(), false};
+        const Job slow = {QStringLiteral("/bin/true"), QStringList(16, QString(120000, u'x')),
+                          QStringLiteral("/"), QStringList(), false};
         while (!done)
             (void)PosixJobRunner().run(slow);
     });

@@ -66,11 +66,11 @@ void TestUidRootFields::checkWritesTheRootBackAndSetsTheLabel_data()
     QTest::addColumn<bool>("valid");
     QTest::addColumn<QString>("rootAfterwards");
     QTest::newRow("valid") << validRoot << QString() << true << validRoot;
-    QTest::newRow("valid with blanks") << QStringLiteral("  ") + validRoot + QStringLiteral("  ") << QString()
-                                       << true << validRoot;
+    QTest::newRow("valid with blanks")
+        << QStringLiteral("  ") + validRoot + QStringLiteral("  ") << QString() << true << validRoot;
     QTest::newRow("trailing dot stays") << validRoot + u'.' << QString() << true << validRoot + u'.';
-    QTest::newRow("invalid with blanks") << QStringLiteral(" 1.2.3\t") << QString() << false
-                                         << QStringLiteral("1.2.3");
+    QTest::newRow("invalid with blanks")
+        << QStringLiteral(" 1.2.3\t") << QString() << false << QStringLiteral("1.2.3");
     QTest::newRow("empty") << QString() << QString() << false << QString();
     QTest::newRow("CaseID 12.5") << validRoot << QStringLiteral("12.5") << false << validRoot;
     QTest::newRow("CaseID with a blank") << validRoot << QStringLiteral(" 7") << false << validRoot;
@@ -94,8 +94,10 @@ void TestUidRootFields::creationReplacesTheRootAndChecksIt_data()
     QTest::addColumn<QString>("root");
     QTest::addColumn<bool>("valid");
     QTest::newRow("all F") << largestUuid << largestRoot << true;
-    QTest::newRow("one") << QStringLiteral("00000000-0000-0000-0000-000000000001") << QStringLiteral("2.25.1") << false;
-    QTest::newRow("zero") << QStringLiteral("00000000-0000-0000-0000-000000000000") << QStringLiteral("2.25.") << false;
+    QTest::newRow("one") << QStringLiteral("00000000-0000-0000-0000-000000000001") << QStringLiteral("2.25.1")
+                         << false;
+    QTest::newRow("zero") << QStringLiteral("00000000-0000-0000-0000-000000000000") << QStringLiteral("2.25.")
+                          << false;
 }
 
 void TestUidRootFields::creationReplacesTheRootAndChecksIt()
@@ -152,20 +154,24 @@ void TestUidRootFields::filterRewritesAFieldOnlyWhenItGetsShorter_data()
     const int caseId = static_cast<int>(TextField::CaseId);
     const int root = static_cast<int>(TextField::UidRoot);
     QTest::newRow("CaseID 123a") << caseId << QStringLiteral("123a")
-        << QStringList({QStringLiteral("setText caseID: 123"), rootSet(validRoot), validLabel});
-    QTest::newRow("CaseID 123") << caseId << QStringLiteral("123") << QStringList({rootSet(validRoot), validLabel});
+                                 << QStringList({QStringLiteral("setText caseID: 123"), rootSet(validRoot),
+                                                 validLabel});
+    QTest::newRow("CaseID 123") << caseId << QStringLiteral("123")
+                                << QStringList({rootSet(validRoot), validLabel});
     QTest::newRow("CaseID 1a2") << caseId << QStringLiteral("1a2")
-        << QStringList({rootSet(validRoot), invalidLabel});
+                                << QStringList({rootSet(validRoot), invalidLabel});
     QTest::newRow("CaseID 12.") << caseId << QStringLiteral("12.")
-        << QStringList({rootSet(validRoot), invalidLabel});
+                                << QStringList({rootSet(validRoot), invalidLabel});
     QTest::newRow("CaseID abc") << caseId << QStringLiteral("abc")
-        << QStringList({QStringLiteral("setText caseID: "), rootSet(validRoot), validLabel});
+                                << QStringList(
+                                       {QStringLiteral("setText caseID: "), rootSet(validRoot), validLabel});
     QTest::newRow("root 123a") << root << QStringLiteral("123a")
-        << QStringList({rootSet(QStringLiteral("123")), rootSet(QStringLiteral("123")), invalidLabel});
-    QTest::newRow("root with a letter behind") << root << validRoot + u'a'
-        << QStringList({rootSet(validRoot), rootSet(validRoot), validLabel});
+                               << QStringList({rootSet(QStringLiteral("123")), rootSet(QStringLiteral("123")),
+                                               invalidLabel});
+    QTest::newRow("root with a letter behind")
+        << root << validRoot + u'a' << QStringList({rootSet(validRoot), rootSet(validRoot), validLabel});
     QTest::newRow("root 1a2") << root << QStringLiteral("1a2")
-        << QStringList({rootSet(QStringLiteral("1a2")), invalidLabel});
+                              << QStringList({rootSet(QStringLiteral("1a2")), invalidLabel});
 }
 
 void TestUidRootFields::filterRewritesAFieldOnlyWhenItGetsShorter()
@@ -228,7 +234,8 @@ void TestUidRootFields::composesFromAFreshRootWhenTheFieldsIsInvalid_data()
     row("trailing dot stays in the field", "1.2.3.", "", largestRoot);
     row("blanks around the CaseID make it invalid", "1.2.12345678901234567890", " 7 ",
         largestRoot + QStringLiteral(".7"));
-    row("CaseID that no root can cure", "1.2.12345678901234567890", "12.5", largestRoot + QStringLiteral(".12.5"));
+    row("CaseID that no root can cure", "1.2.12345678901234567890", "12.5",
+        largestRoot + QStringLiteral(".12.5"));
 }
 
 void TestUidRootFields::composesFromAFreshRootWhenTheFieldsIsInvalid()

@@ -12,8 +12,8 @@
 
 namespace dravolin::test {
 
-// A temporary folder and the odd things that a test puts into it, made with the system's own calls. A name may
-// be any that the file system allows; a failure to make something fails the test.
+// A temporary folder and the odd things that a test puts into it, made with the system's own calls. A name
+// may be any that the file system allows; a failure to make something fails the test.
 class ScratchFolder
 {
 public:
@@ -30,7 +30,8 @@ public:
     {
         FILE *stream = std::fopen(bytes(name).constData(), "wb");
         const auto size = static_cast<size_t>(content.size());
-        check(stream && std::fwrite(content.constData(), 1, size, stream) == size && std::fclose(stream) == 0);
+        check(stream && std::fwrite(content.constData(), 1, size, stream) == size &&
+              std::fclose(stream) == 0);
         return path(name);
     }
     // The parent folder has to exist.

@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 """A small window to drag files out of.
 
-    drag_source.py PATH...
+    drag_source.py ADDRESS...
 
-Offers the paths, in this order, as a list of file addresses. Prints the position of its middle when it can be
+Offers the addresses, in this order, as a list of files. Prints the position of its middle when it can be
 dragged, then "accepted" or "refused" when the drag is over, and ends.
 """
 import sys
@@ -18,7 +18,7 @@ SIZE = 70
 
 
 def main():
-    addresses = [GLib.filename_to_uri(path, None) for path in sys.argv[1:]]
+    addresses = sys.argv[1:]
     window = Gtk.Window(title="Files", decorated=False, accept_focus=False, skip_taskbar_hint=True)
     window.set_default_size(SIZE, SIZE)
     window.set_keep_above(True)
@@ -26,14 +26,14 @@ def main():
     window.drag_source_set(
         Gdk.ModifierType.BUTTON1_MASK, [Gtk.TargetEntry.new("text/uri-list", 0, 0)],
         Gdk.DragAction.COPY | Gdk.DragAction.MOVE | Gdk.DragAction.LINK)
-    outcome = ["accepted"]
+    failures = []
 
-    def over(*_):
-        print(outcome[0], flush=True)
+    def over(_, drag):
+        print("refused" if failures or not Gdk.drag_drop_succeeded(drag) else "accepted", flush=True)
         Gtk.main_quit()
 
-    def failed(*_):
-        outcome[0] = "refused"
+    def failed(*_):  # nothing took the drop; what took it and failed is known to the drag itself
+        failures.append(True)
         return True
 
     def tell_position():

@@ -129,10 +129,13 @@ class Program:
     def drop_outcome(self, *paths):
         target = steady_middle(self.control("Drop area"))
         source = pathlib.Path(__file__).with_name("drag_source.py")
-        with subprocess.Popen([sys.executable, str(source), *map(os.fspath, paths)], stdout=subprocess.PIPE, text=True,
+        addresses = [pathlib.Path(path).as_uri() for path in paths]
+        with subprocess.Popen([sys.executable, str(source), *addresses], stdout=subprocess.PIPE, text=True,
                               env=os.environ | {"NO_AT_BRIDGE": "1"}) as dragged:
             try:
                 place = dragged.stdout.readline().split()
+                if len(place) != 2:
+                    raise Failure("the window to drag from did not start")
                 mouse.drag(tuple(map(int, place)), target)
                 return dragged.communicate(timeout=20)[0].strip()
             except subprocess.TimeoutExpired:
