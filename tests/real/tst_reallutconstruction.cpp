@@ -1,4 +1,5 @@
 #include "real/RealLutTest.h"
+
 #include "processing/LutConstruction.h"
 
 #include <QTest>

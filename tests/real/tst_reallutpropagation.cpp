@@ -1,4 +1,5 @@
 #include "real/RealLutTest.h"
+
 #include "run/RunDriver.h"
 
 #include <QTest>
