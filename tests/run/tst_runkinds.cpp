@@ -22,14 +22,14 @@ public:
     }
 };
 
-// Marks every text that is looked up under the application's context.
+// Marks every text that is looked up.
 class MarkingTranslator : public QTranslator
 {
 public:
     [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
+    [[nodiscard]] QString translate(const char *, const char *text, const char *, int) const override
     {
-        return qstrcmp(context, "Dravolin") == 0 ? u'#' + QString::fromUtf8(text) : QString();
+        return u'#' + QString::fromUtf8(text);
     }
 };
 
