@@ -6,6 +6,7 @@
 #include "run/UidRootFields.h"
 #include "ui_MainWindow.h"
 
+#include <QGuiApplication>
 #include <QSettings>
 #include <QTimer>
 
@@ -29,7 +30,7 @@ std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
     controls->dragDropView->setImageFolder(paths.resourceFolder);
     controls->horLine->hide();
     controls->progressBar->hide();
-    window.setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
+    QGuiApplication::setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
     return controls;
 }
 

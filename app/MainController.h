@@ -69,6 +69,7 @@ public:
     [[nodiscard]] TitleToPath getConfigsAtPath(const QString &folder) const;
     void getLUTpathsAndPopulateButton();
     [[nodiscard]] TitleToPath getLUTsAtPath(const QString &folder) const;
+    bool loadLUTdictAtPath(const QString &path);
 
     // Processing of folders and files; each gives a number of errors.
     [[nodiscard]] quint64 anonymizeTagsForDICOMFilesInFolderWithOptions(const QStringList &tags,
@@ -82,6 +83,14 @@ public:
     [[nodiscard]] quint64 recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
         const QStringList &tags, const QString &folder, const RunOptions &options);
     [[nodiscard]] QStringList findDICOMDIRsAtPath(const QString &folder);
+    [[nodiscard]] quint64
+    prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(const QStringList &files, const QString &folder,
+                                                                 const RunOptions &options);
+    quint64 recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
+                                                                       const RunOptions &options);
+    [[nodiscard]] quint64 propagateLUTtoDICOMFilesInFolderWithOptions(const QStringList &entries,
+                                                                      const QString &folder,
+                                                                      const RunOptions &options);
 
     // Identifiers.
     bool checkUIDroot();

@@ -4,6 +4,9 @@
 #include "config/LutDiscovery.h"
 #include "processing/FolderAnonymization.h"
 #include "processing/FolderTree.h"
+#include "processing/LutConstruction.h"
+#include "processing/LutPropagation.h"
+#include "run/LutSteps.h"
 #include "run/OutputAnalysis.h"
 #include "run/RunDriver.h"
 
@@ -37,6 +40,11 @@ TitleToPath MainController::getLUTsAtPath(const QString &folder) const
     return lutsAtPath(folder);
 }
 
+bool MainController::loadLUTdictAtPath(const QString &path)
+{
+    return loadTable(m_context, path);
+}
+
 quint64 MainController::anonymizeTagsForDICOMFilesInFolderWithOptions(const QStringList &tags,
                                                                       const QString &folder,
                                                                       const RunOptions &options)
@@ -66,6 +74,26 @@ quint64 MainController::recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOpt
 QStringList MainController::findDICOMDIRsAtPath(const QString &folder)
 {
     return findDicomdirs(m_context, folder);
+}
+
+quint64 MainController::prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(const QStringList &files,
+                                                                                    const QString &folder,
+                                                                                    const RunOptions &)
+{
+    return collectLutValues(m_context, files, folder); // the options decide nothing here
+}
+
+quint64 MainController::recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
+                                                                                  const RunOptions &options)
+{
+    return propagateThroughTree(m_context, folder, options);
+}
+
+quint64 MainController::propagateLUTtoDICOMFilesInFolderWithOptions(const QStringList &entries,
+                                                                    const QString &folder,
+                                                                    const RunOptions &options)
+{
+    return propagateThroughFiles(m_context, entries, folder, options);
 }
 
 } // namespace dravolin

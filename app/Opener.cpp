@@ -9,6 +9,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QProcess>
+#include <QSet>
 
 namespace dravolin {
 
@@ -17,9 +18,12 @@ namespace {
 constexpr int startTimeout = 1000;  // milliseconds for a process to be created, which takes a few
 constexpr int answerTimeout = 2000; // milliseconds for a file browser to start and to answer
 
-void logFailure(const QString &url)
+// The openers that have not ended. Neither they nor the set are destroyed with the program: destroying one
+// would kill a browser that is still starting.
+QSet<QProcess *> &running()
 {
-    logMessage(QStringLiteral("Failed to open url: %1").arg(url));
+    static auto *const processes = new QSet<QProcess *>;
+    return *processes;
 }
 
 } // namespace
@@ -30,23 +34,22 @@ Opener::Opener(QObject *parent) : QObject(parent)
 
 void Opener::openUrl(const QString &url)
 {
-    // without a parent: destroying it with the program would kill a browser that is still starting
     auto *process = new QProcess;
+    running().insert(process);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setStandardInputFile(QProcess::nullDevice());
-    QObject::connect(process, &QProcess::errorOccurred, process,
-                     [process, url](QProcess::ProcessError error) {
-                         if (error != QProcess::FailedToStart)
-                             return;
-                         logFailure(url);
-                         process->deleteLater();
-                     });
+    const auto end = [process, url](bool failed) {
+        if (failed)
+            logMessage(QStringLiteral("Failed to open url: %1").arg(url));
+        running().remove(process);
+        process->deleteLater();
+    };
+    QObject::connect(process, &QProcess::errorOccurred, process, [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            end(true);
+    });
     QObject::connect(process, &QProcess::finished, process,
-                     [process, url](int exitCode, QProcess::ExitStatus) {
-                         if (exitCode != 0)
-                             logFailure(url);
-                         process->deleteLater();
-                     });
+                     [end](int exitCode, QProcess::ExitStatus) { end(exitCode != 0); });
     const std::lock_guard lock(processStartMutex());
     process->start(QStringLiteral("xdg-open"), {url});
     process->waitForStarted(startTimeout);

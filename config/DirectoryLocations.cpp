@@ -51,7 +51,7 @@ std::optional<QString> findOrCreateDirectory(const AppPaths &paths, SearchPathDi
                       {QStringLiteral("NSSearchPathDomainMask"), static_cast<int>(domain)}}});
     }
     const QString path = component.isEmpty() ? found.first() : joinPath(found.first(), component);
-    FolderError reason;
+    SystemError reason;
     if (!createFolder(path, &reason))
         return fail({QStringLiteral("POSIX"), reason.code, {{descriptionKey, reason.text}}});
     if (error)

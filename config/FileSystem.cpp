@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace dravolin {
@@ -164,8 +165,20 @@ QStringList listFolderNames(const QString &folder)
 
 bool isFolder(const QString &path)
 {
+    return entryKind(path) == EntryKind::Folder;
+}
+
+std::optional<EntryKind> entryKind(const QString &path, SystemError *error)
+{
     struct stat attributes = {};
-    return ::lstat(toBytes(path).constData(), &attributes) == 0 && S_ISDIR(attributes.st_mode);
+    if (::lstat(toBytes(path).constData(), &attributes) != 0) {
+        if (error)
+            *error = {errno, QString::fromStdString(std::generic_category().message(errno))};
+        return std::nullopt;
+    }
+    if (S_ISREG(attributes.st_mode))
+        return EntryKind::File;
+    return S_ISDIR(attributes.st_mode) ? EntryKind::Folder : EntryKind::Other;
 }
 
 bool pathExists(const QString &path)
@@ -230,7 +243,7 @@ bool makeExecutable(const QString &path)
     return ::chmod(toBytes(path).constData(), 0777) == 0;
 }
 
-bool createFolder(const QString &path, FolderError *error)
+bool createFolder(const QString &path, SystemError *error)
 {
     std::error_code code;
     std::filesystem::create_directories(nativePath(path), code);

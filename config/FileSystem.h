@@ -12,6 +12,15 @@
 // All functions may be called from any thread; none of them follows a failure with an exception.
 namespace dravolin {
 
+// What the system says about a failure.
+struct SystemError
+{
+    int code = 0; // errno
+    QString text;
+};
+
+enum class EntryKind { File, Folder, Other };
+
 // The bytes of a path or text; the inverse of fromBytes.
 [[nodiscard]] QByteArray toBytes(const QString &text);
 // A path or name from its bytes.
@@ -35,6 +44,9 @@ namespace dravolin {
 // attributes cannot be read are left out.
 [[nodiscard]] QStringList listFolderNames(const QString &folder);
 [[nodiscard]] bool isFolder(const QString &path);
+// What an entry is by its own attributes, a link is Other; nothing when they cannot be read, and `error` (may be
+// null) then gets the reason.
+[[nodiscard]] std::optional<EntryKind> entryKind(const QString &path, SystemError *error = nullptr);
 // Follows links: a broken link does not exist.
 [[nodiscard]] bool pathExists(const QString &path);
 
@@ -47,14 +59,9 @@ namespace dravolin {
 [[nodiscard]] bool writeText(const QString &path, const QString &text);
 // Sets the permissions to 0777.
 [[nodiscard]] bool makeExecutable(const QString &path);
-struct FolderError
-{
-    int code = 0; // errno
-    QString text;
-};
 // Creates a folder with all missing parents; an existing folder counts as success. `error` (may be null) gets
 // the system's error on failure.
-[[nodiscard]] bool createFolder(const QString &path, FolderError *error = nullptr);
+[[nodiscard]] bool createFolder(const QString &path, SystemError *error = nullptr);
 // Copies a file; false, and nothing changed, when the target exists already.
 [[nodiscard]] bool copyFile(const QString &from, const QString &to);
 // Failures, a missing file among them, are ignored.

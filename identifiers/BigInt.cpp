@@ -3,7 +3,7 @@
 #include "identifiers/BigIntWords.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace dravolin {
 
@@ -20,14 +20,46 @@ constexpr qint32 signWord = BigInt::maxLength - 1;
            std::all_of(data, data + signWord, [](quint32 word) { return word == 0; });
 }
 
+using Words = std::array<quint32, BigInt::maxLength>;
+
 /// The words of |value|, those of the most negative value being their own negation. Only a negative value is
 /// copied.
-[[nodiscard]] const quint32 *magnitude(const BigInt &value, std::optional<BigInt> &copy)
+[[nodiscard]] const quint32 *magnitude(const BigInt &value, Words &copy)
 {
     if ((value.getDataAtIndex(signWord) & words::topBit) == 0)
         return value.getData();
-    words::negate(copy.emplace(value).getData(), BigInt::maxLength);
-    return copy->getData();
+    std::copy_n(value.getData(), copy.size(), copy.begin());
+    words::negate(copy.data(), BigInt::maxLength);
+    return copy.data();
+}
+
+/// Stores what is carried out of a row.
+void storeCarry(quint32 *product, qint32 index, quint64 carry)
+{
+    for (; carry != 0; carry >>= 32, ++index) {
+        if (index >= BigInt::maxLength)
+            raiseArithmetic("Multiplication overflow.");
+        product[index] = low(carry);
+    }
+}
+
+/// product = left * right in 70 words, all zero before. The longer factor is the row.
+void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, const quint32 *right,
+                   qint32 rightLength)
+{
+    // Two top words that are not zero and meet above word 69.
+    if (leftLength + rightLength > BigInt::maxLength + 1)
+        raiseArithmetic("Multiplication overflow.");
+    if (leftLength > rightLength) {
+        std::swap(left, right);
+        std::swap(leftLength, rightLength);
+    }
+    qint32 i = 0;
+    for (; i + 1 < leftLength; i += 2)
+        storeCarry(product, i + rightLength,
+                   words::addTwoMultiples(product + i, right, rightLength, left[i], left[i + 1]));
+    if (i < leftLength)
+        storeCarry(product, i + rightLength, words::addMultiple(product + i, right, rightLength, left[i]));
 }
 
 } // namespace
@@ -41,6 +73,7 @@ BigInt BigInt::initWithLong(qint64 value)
         result.setDataAtIndex(static_cast<quint32>(rest & words::largest), length);
         rest >>= 32;
     }
+    // 64 bits never come near the end of the words: checks of what the loop promises.
     if (value > 0 && result.isNegative())
         raiseArithmetic("Positive overflow in constructor.");
     if (value < 0 && (rest != -1 || !result.isNegative()))
@@ -58,6 +91,7 @@ BigInt BigInt::initWithULong(quint64 value)
         result.setDataAtIndex(low(rest), length);
         rest >>= 32;
     }
+    // As above.
     if (rest != 0 || result.isNegative())
         raiseArithmetic("Positive overflow in constructor.");
     result.m_dataLength = std::max(length, 1);
@@ -80,6 +114,7 @@ BigInt BigInt::initWithUIntArrayWithSize(const quint32 *words, qint32 size)
     BigInt result;
     for (qint32 i = 0; i < size; ++i)
         result.setDataAtIndex(words[size - 1 - i], i);
+    // intended: an empty array keeps its size as the length
     result.m_dataLength = size;
     result.trim();
     return result;
@@ -140,38 +175,23 @@ BigInt BigInt::subtract(const BigInt &other) const
 
 BigInt BigInt::multiply(const BigInt &other) const
 {
-    std::optional<BigInt> leftCopy;
-    std::optional<BigInt> rightCopy;
+    Words leftCopy;
+    Words rightCopy;
     const quint32 *left = magnitude(*this, leftCopy);
     const quint32 *right = magnitude(other, rightCopy);
-    const qint32 leftLength = words::trimmedLength(left, m_dataLength);
-    const qint32 rightLength = words::trimmedLength(right, other.m_dataLength);
-    // Two top words that are not zero and meet above word 69.
-    if (leftLength + rightLength > maxLength + 1)
-        raiseArithmetic("Multiplication overflow.");
-
     BigInt product;
-    for (qint32 i = 0; i < leftLength; ++i) {
-        if (left[i] == 0)
-            continue;
-        const quint32 carry = words::addMultiple(product.m_data.data() + i, right, rightLength, left[i]);
-        if (carry == 0)
-            continue;
-        if (i + rightLength >= maxLength)
-            raiseArithmetic("Multiplication overflow.");
-        product.setDataAtIndex(carry, i + rightLength);
-    }
+    multiplyWords(product.getData(), left, words::trimmedLength(left, m_dataLength), right,
+                  words::trimmedLength(right, other.m_dataLength));
     product.m_dataLength = std::min(m_dataLength + other.m_dataLength, maxLength);
     product.trim();
 
     const bool signsDiffer = isNegative() != other.isNegative();
-    if (product.isNegative()) {
-        if (signsDiffer && isMostNegative(product.getData()))
-            return product;
-        // intended: another text than that of a product that does not fit at all
+    // intended: another text than that of a product that does not fit at all, and -2^2239 is no error
+    if (product.isNegative() && !(signsDiffer && isMostNegative(product.getData())))
         raiseArithmetic("overflow.");
-    }
-    return signsDiffer ? product.negate() : product;
+    if (signsDiffer && !product.isNegative() && !product.isZero())
+        product = product.negate();
+    return product;
 }
 
 BigInt BigInt::negate() const
@@ -190,6 +210,27 @@ BigInt BigInt::negate() const
 BigInt BigInt::abs() const
 {
     return isNegative() ? negate() : *this;
+}
+
+BigInt BigInt::sqrt() const
+{
+    const qint32 bits = (bitCount() + 1) / 2;
+    const qint32 bitPosition = bits % 32;
+    quint32 mask = bitPosition != 0 ? 1U << bitPosition : words::topBit;
+    BigInt root;
+    // intended: the root of zero has length 0
+    root.m_dataLength = bits / 32 + (bitPosition != 0 ? 1 : 0);
+    for (qint32 i = root.m_dataLength - 1; i >= 0; --i, mask = words::topBit) {
+        quint32 &word = root.m_data[static_cast<size_t>(i)];
+        for (; mask != 0; mask >>= 1) {
+            word |= mask;
+            // intended: from 2^2238 up the square itself overflows
+            if (root.multiply(root).greaterThan(*this))
+                word &= ~mask;
+        }
+    }
+    root.trim();
+    return root;
 }
 
 } // namespace dravolin

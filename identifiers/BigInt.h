@@ -11,20 +11,22 @@
 namespace dravolin {
 
 /// A signed integer of fixed width: 70 words of 32 bits, two's complement, least significant word first. A
-/// plain value: copied as it is, nothing on the heap, free to be used from any thread that owns it.
+/// plain value, copied as it is, nothing on the heap.
 ///
 /// Invariants, true after every operation:
-/// - A value is negative exactly when bit 31 of word 69 is set. Range: -2^2239 to 2^2239 - 1.
-/// - dataLength() words are in use, counted from word 0; every word of a non-negative value above them is
-/// zero.
-/// - The length is trimmed: above 1, the highest word in use is not zero. Zero has length 1, a negative
-/// value 70.
-///   Exceptions: setDataLength() and getData() leave it to the caller, and two operations make a zero of
-///   length 0 or less (sqrt() of zero, an empty word array). Such a zero calculates like zero but does not
-///   equal an ordinary one.
+/// - A value is negative exactly when bit 31 of word 69 is set. The range is -2^2239 to 2^2239 - 1.
+/// - dataLength() words are in use, counted from word 0. All words above them are zero.
+/// - The length is trimmed: above 1, the highest word in use is not zero. Zero has length 1, a negative value
+///   has 70.
 ///
-/// Results outside the range raise BigIntError as said below ("ArithmeticException" where no name is given);
-/// the operands are then unchanged. Below, b is 2^32 and x is the receiver.
+/// setDataLength() and getData() leave this to the caller. Two operations make a zero of length 0 or less,
+/// sqrt() of zero and an empty word array: it calculates like zero and does not equal an ordinary one.
+///
+/// What goes wrong raises BigIntError, by its name "ArithmeticException" where no other is given; the
+/// operands are then unchanged. Operations that "trim" an operand change its length, not its value; as long
+/// as it is trimmed already, a value can be read from several threads at once.
+///
+/// Below, b is 2^32 and x is the receiver.
 class BigInt
 {
 public:
@@ -82,10 +84,9 @@ public:
     /// "overflow.", except that -2^2239 itself is a result.
     [[nodiscard]] BigInt multiply(const BigInt &other) const;
     /// x / y rounded towards zero; "Division by zero.". The most negative value on either side: "Overflow in
-    /// negation.". Quotients by two words and more are those of the division below, with what it says about
-    /// digits.
+    /// negation.". By two words and more it is the division below, with what it says about digits.
     [[nodiscard]] BigInt divide(const BigInt &other) const;
-    /// x - y * (x / y), with the sign of x; errors as divide().
+    /// The remainder of that division, with the sign of x; errors as divide().
     [[nodiscard]] BigInt mod(const BigInt &other) const;
     /// -x; "Overflow in negation." for the most negative value.
     [[nodiscard]] BigInt negate() const;
@@ -162,24 +163,29 @@ public:
     /// |modulus|), and that x^0 is 1 whatever the modulus. "Positive exponents only.". Trims the length of
     /// the exponent.
     [[nodiscard]] BigInt modPowWithMod(const BigInt &exponent, const BigInt &modulus) const;
-    /// x mod n by Barrett's reduction for 0 <= x < b^(2k), with k = length of n and constant = b^(2k) divide:
-    /// n.
+    /// x mod n by Barrett's reduction for 0 <= x < b^(2k), with k = length of n and constant = b^(2k) / n as
+    /// divide() has it. A constant with a digit cut short makes the reduction lose multiples of b^(k+1): the
+    /// result is below n all the same, but need not be congruent to x.
     [[nodiscard]] static BigInt barrettReductionAndNAndConstant(const BigInt &x, const BigInt &n,
                                                                 const BigInt &constant);
-    /// x becomes a random value of exactly that many bits, negative for 2240 bits, 0 for none. Words below
-    /// the top one are scaled down: never 1844674407 or more. A count below 0 or above 2240: "Number of
-    /// required bits > maxLength.".
+    /// x becomes a random value of exactly that many bits, negative for 2240 bits, 0 for none. Not uniform: a
+    /// drawn word r becomes trunc(((r + 1) mod b) / 10^10 * b), which is below 1844674407. A count below 0 or
+    /// above 2240: "Number of required bits > maxLength.".
     void getRandomBits(qint32 bits, RandomSource &source = RandomSource::platform());
-    /// The Jacobi symbol (a/b), but 0 for b = 1. Even b: "ArgumentException" / "Jacobi defined only for odd
-    /// integers.".
+    /// The Jacobi symbol (a/b), but 0 for b = 1, where the textbook has 1. Even b: "ArgumentException" /
+    /// "Jacobi defined only for odd integers.".
     [[nodiscard]] static qint32 jacobiAndB(const BigInt &a, const BigInt &b);
     /// {U, V, Q^m} mod n of the Lucas sequences with the parameters P and Q at the index m = k * 2^s. Even k:
-    /// "ArgumentException" / "Argument k must be odd.". Doublings are shiftLeft(1) and lose what that loses.
-    /// constant is the Barrett constant of n. Trims the length of k.
+    /// "ArgumentException" / "Argument k must be odd.". constant is the Barrett constant of n. The terms
+    /// 2 * Q^i are shiftLeft(1) and lose what that loses, so the values are those of the textbook only as
+    /// long as no power of Q, nor its product with Q, has the top bit of its highest word set. Trims the
+    /// length of k.
     [[nodiscard]] static std::array<BigInt, 3>
     lucasSequenceAndQAndkAndnAndConstantAnds(const BigInt &P, const BigInt &Q, const BigInt &k,
                                              const BigInt &n, const BigInt &constant, qint32 s);
-    /// The strong Lucas test of Baillie and Wagstaff with Selfridge's parameters.
+    /// The strong Lucas test of Baillie and Wagstaff with Selfridge's parameters P = 1, Q = (1 - D) / 4, and
+    /// their check of Q^((n + 1) / 2) after it. Because of the terms lost above it passes large primes
+    /// when D is 5, and few others.
     [[nodiscard]] static bool lucasStrongTest(const BigInt &n);
     /// The test of Miller and Rabin with that many random bases, none longer than 43 % of the bits of |x|.
     /// Therefore it never returns for an odd |x| from 5 to 15 and a positive number of rounds.
@@ -191,7 +197,8 @@ public:
                                                      RandomSource &source = RandomSource::platform()) const;
     /// Trial division, the strong test to base 2 and lucasStrongTest(): Baillie and Wagstaff's combination.
     [[nodiscard]] bool isProbablePrime() const;
-    /// Random odd values of that many bits until one passes isProbablePrimeWithConfidence().
+    /// Random odd values of that many bits until one passes isProbablePrimeWithConfidence(), however long
+    /// that takes: for ever with 0 and 1 bits, of which 1 is the only value.
     [[nodiscard]] static BigInt
     generatePseudoPrimeWithBitsAndConfidence(qint32 bits, qint32 rounds,
                                              RandomSource &source = RandomSource::platform());
@@ -202,6 +209,9 @@ private:
     [[nodiscard]] bool isOne() const { return m_dataLength == 1 && m_data[0] == 1; }
     [[nodiscard]] bool isEven() const { return (m_data[0] & 1U) == 0; }
     void trim() const;
+    static void divideMagnitudes(const BigInt &dividend, const BigInt &divisor, BigInt &quotient,
+                                 BigInt &remainder);
+    void divideInto(const BigInt &other, BigInt &quotient, BigInt &remainder) const;
 
     // bitCount() trims the length of a value that it otherwise only reads.
     mutable qint32 m_dataLength = 1;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr qint32 smallestRadix = 2;
 constexpr qint32 largestRadix = 36;
-// Larger than any digit of a radix up to 36; a radix larger still takes every character.
+// intended: any other character is a digit of this value, which only a radix larger still takes
 constexpr qint64 noDigit = 9999999;
 
 [[nodiscard]] qint64 digitValue(QChar character)
@@ -45,6 +45,7 @@ BigInt BigInt::initWithStringAndRadix(const QString &text, qint32 radix)
 {
     if (text.isEmpty())
         words::raiseArithmetic("Invalid string in constructor.");
+    // intended: characters whose upper case is A to Z, or several of them, count as these
     const QString upper = text.toUpper();
     const bool negative = upper.front() == QLatin1Char('-');
     const qsizetype first = negative ? 1 : 0;
@@ -53,6 +54,7 @@ BigInt BigInt::initWithStringAndRadix(const QString &text, qint32 radix)
     BigInt multiplier = createFromInt(1);
     for (qsizetype i = upper.size() - 1; i >= first; --i) {
         const qint64 digit = digitValue(upper.at(i));
+        // intended: a sum or place value that overflowed further right has been raised before
         if (digit >= radix)
             words::raiseArithmetic("Invalid string in constructor.");
         result = result.add(multiplier.multiply(createFromLong(negative ? -digit : digit)));
@@ -62,6 +64,7 @@ BigInt BigInt::initWithStringAndRadix(const QString &text, qint32 radix)
     }
     if (negative && !result.isNegative())
         words::raiseArithmetic("Negative underflow in constructor.");
+    // add() has raised before this can happen.
     if (!negative && result.isNegative())
         words::raiseArithmetic("Positive overflow in constructor.");
     return result;
@@ -75,6 +78,7 @@ QString BigInt::toStringWithRadix(qint32 radix) const
         return QStringLiteral("0");
 
     std::array<quint32, maxLength> rest = m_data;
+    // intended: the most negative value is written from its own words, which are those of its negation
     if (isNegative())
         words::negate(rest.data(), maxLength);
     qint32 length = words::trimmedLength(rest.data(), m_dataLength);

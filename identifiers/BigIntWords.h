@@ -7,6 +7,7 @@
 
 #include <QtGlobal>
 
+#include <bit>
 #include <limits>
 
 namespace dravolin::words {
@@ -36,6 +37,13 @@ inline constexpr quint32 topBit = 0x80000000U;
     while (size > 1 && words[size - 1] == 0)
         --size;
     return size;
+}
+
+/// The position of the highest set bit counted from 1; 0 when there is none.
+[[nodiscard]] inline qint32 bitLength(const quint32 *words, qint32 size)
+{
+    const qint32 length = trimmedLength(words, size);
+    return length < 1 ? 0 : 32 * (length - 1) + static_cast<qint32>(std::bit_width(words[length - 1]));
 }
 
 /// -1, 0 or 1 for left below, equal to, above right.
@@ -93,6 +101,26 @@ inline quint32 addMultiple(quint32 *sum, const quint32 *row, qint32 size, quint3
         carry >>= 32;
     }
     return low(carry);
+}
+
+/// sum += (lowFactor + highFactor * b) * row, where the words above sum are zero; the result is what is
+/// carried out, of two words. Two rows at once take little longer than one, as their carries do not wait for
+/// each other.
+inline quint64 addTwoMultiples(quint32 *sum, const quint32 *row, qint32 size, quint32 lowFactor,
+                               quint32 highFactor)
+{
+    quint64 lowCarry = 0;
+    quint64 highCarry = 0;
+    quint32 wordBefore = 0;
+    for (qint32 i = 0; i < size; ++i) {
+        lowCarry += quint64{lowFactor} * row[i] + sum[i];
+        highCarry += quint64{highFactor} * wordBefore + low(lowCarry);
+        sum[i] = low(highCarry);
+        wordBefore = row[i];
+        lowCarry >>= 32;
+        highCarry >>= 32;
+    }
+    return quint64{highFactor} * wordBefore + lowCarry + highCarry;
 }
 
 /// number /= divisor; the result is the remainder.

@@ -2,8 +2,8 @@
 
 #include "config/ConfigurationDiscovery.h"
 #include "config/ConfigurationFile.h"
+#include "config/LutFile.h"
 
-#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -12,9 +12,6 @@
 #include <utility>
 
 namespace dravolin {
-
-// Old value to new value.
-using LutTable = QHash<QString, QString>;
 
 // Everything that a run counts and collects. It lives as long as the application.
 struct RunState

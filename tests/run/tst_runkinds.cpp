@@ -22,14 +22,14 @@ public:
     }
 };
 
-// Marks every text that is looked up.
+// Marks every text that is looked up under the application's context.
 class MarkingTranslator : public QTranslator
 {
 public:
     [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *, const char *text, const char *, int) const override
+    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
     {
-        return u'#' + QString::fromUtf8(text);
+        return qstrcmp(context, "Texts") == 0 ? u'#' + QString::fromUtf8(text) : QString();
     }
 };
 

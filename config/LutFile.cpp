@@ -1,0 +1,166 @@
+#include "config/LutFile.h"
+
+#include "config/FileSystem.h"
+#include "identifiers/NOXUtils.h"
+
+#include <QStringDecoder>
+
+namespace dravolin {
+
+namespace {
+
+// so that a table of a million rows is never held as decoded text as a whole
+constexpr qsizetype blockSize = 65536;
+constexpr qsizetype shortValue = 8;
+
+const QString columnSpaces = QStringLiteral("   ");
+const QString missingTemplate = QStringLiteral("<supply missing value replacement, eg: Unknown>");
+
+const QString header = QStringLiteral(
+    "#\n"
+    "# The format of this file is simple:\n"
+    "#\n"
+    "# <old_value>[one_or_more_tabs]<new_value>\n"
+    "#\n"
+    "#\n"
+    "# The first line *must* contain the <missing> value replacement.\n"
+    "# Enter anything to replace the missing value with.\n"
+    "# Note that you can enter <skip> to leave the value un-anonymized.\n"
+    "#\n"
+    "# Lines starting with # are considered to be comments\n"
+    "# !! Please make sure to use [tabs] (or a minimum of three spaces) to separate the fields in a row !!\n"
+    "# !! Please make sure there are no tabs or spaces after the last field in a row !!\n"
+    "#\n"
+    "# Note that propagating a LUT may take a lot of time,\n"
+    "# up to several mins/GB for non-4D data sets, even for data sets on an SSD.\n"
+    "#\n"
+    "#\n"
+    "# This LUT file was prepopulated using tag (%1)\n"
+    "#\n"
+    "#\n"
+    "# THE ABOVE MESSAGE *MAY NOT* BE REMOVED\n"
+    "#\n"
+    "%2\t\t%3\n");
+
+struct Row
+{
+    QStringView key;
+    QStringView value;
+};
+
+// The first and the last field. The spaces count in the first column alone, and only when they make more
+// fields there than the tabs make in the whole line.
+std::optional<Row> fieldsOf(QStringView line)
+{
+    const qsizetype firstTab = line.indexOf(u'\t');
+    const QStringView firstColumn = firstTab < 0 ? line : line.first(firstTab);
+    const qsizetype tabs = firstTab < 0 ? 0 : line.sliced(firstTab).count(u'\t');
+
+    qsizetype separators = 0;
+    qsizetype firstSeparator = -1;
+    qsizetype behindLast = 0;
+    for (qsizetype at = firstColumn.indexOf(columnSpaces); at >= 0;
+         at = firstColumn.indexOf(columnSpaces, behindLast)) {
+        if (separators++ == 0)
+            firstSeparator = at;
+        behindLast = at + columnSpaces.size();
+    }
+    if (separators > tabs)
+        return Row{firstColumn.first(firstSeparator), firstColumn.sliced(behindLast)};
+    if (tabs == 0)
+        return std::nullopt;
+    return Row{firstColumn, line.sliced(line.lastIndexOf(u'\t') + 1)};
+}
+
+void addLine(LutTable &table, QStringView line)
+{
+    const QStringView trimmed = NOXUtils::trimmed(line);
+    if (trimmed.startsWith(u'#'))
+        return;
+    if (const std::optional<Row> row = fieldsOf(trimmed))
+        table.insert(NOXUtils::stringByTrimmingLeadingAndTrailingspaces(row->key),
+                     NOXUtils::stringByTrimmingLeadingAndTrailingspaces(row->value));
+}
+
+void addLines(LutTable &table, QStringView text)
+{
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !NOXUtils::isNewline(text.at(i)))
+            continue;
+        addLine(table, text.sliced(start, i - start));
+        start = i + 1;
+    }
+}
+
+// The length of the next block of whole lines; at least one line, however long.
+qsizetype blockLength(QByteArrayView bytes)
+{
+    if (bytes.size() <= blockSize)
+        return bytes.size();
+    qsizetype newline = bytes.lastIndexOf('\n', blockSize - 1);
+    if (newline < 0)
+        newline = bytes.indexOf('\n', blockSize);
+    return newline < 0 ? bytes.size() : newline + 1;
+}
+
+void tidyMissingValue(LutTable &table)
+{
+    const auto missing = table.find(missingValue);
+    if (missing == table.end())
+        return;
+    // intended: every replacement text comes in lower case, keywords and names too
+    const QString text = missing.value().toLower();
+    missing.value() = text == missingTemplate.toLower() ? QStringLiteral("Unknown") : text;
+}
+
+} // namespace
+
+std::optional<LutTable> parseLut(const QByteArray &bytes)
+{
+    QByteArrayView rest(bytes);
+    if (!rest.isValidUtf8())
+        return std::nullopt;
+    if (rest.startsWith("\xEF\xBB\xBF"))
+        rest = rest.sliced(3);
+    if (rest.isEmpty())
+        return std::nullopt;
+
+    LutTable table;
+    // a mark is a character like any other behind the beginning of the file
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    QString block;
+    while (!rest.isEmpty()) {
+        const qsizetype length = blockLength(rest);
+        block = decoder(rest.first(length));
+        addLines(table, block);
+        rest = rest.sliced(length);
+    }
+    tidyMissingValue(table);
+    return table;
+}
+
+std::optional<LutTable> loadLut(const QString &path)
+{
+    const std::optional<QByteArray> bytes = readBytes(path);
+    return bytes ? parseLut(*bytes) : std::nullopt;
+}
+
+QString lutText(const QString &tag, const QStringList &values)
+{
+    QString text = header.arg(tag, missingValue, missingTemplate);
+    for (qsizetype i = 0; i < values.size(); ++i)
+        text += lutRow(values.at(i), i + 1);
+    return text;
+}
+
+QString lutRow(const QString &value, qsizetype position)
+{
+    // intended: two tabs from eight characters on, whatever the width of a tab
+    const QString tabs = value.size() < shortValue ? QStringLiteral("\t\t\t") : QStringLiteral("\t\t");
+    return value + tabs + QStringLiteral("Subject_") + QString::number(position).rightJustified(3, u'0') +
+           u'\n';
+}
+
+} // namespace dravolin

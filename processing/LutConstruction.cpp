@@ -1,0 +1,144 @@
+#include "processing/LutConstruction.h"
+
+#include "config/FileSystem.h"
+#include "identifiers/SystemLog.h"
+#include "run/jobs/ScriptJob.h"
+
+#include <QCollator>
+
+#include <algorithm>
+#include <vector>
+
+namespace dravolin {
+
+namespace {
+
+constexpr qsizetype tagLength = 9; // gggg,eeee; only the length is looked at
+
+QString constructionCommands(const RunContext &context, const QString &tag, const QStringList &files,
+                             bool wholeFolder)
+{
+    const QString prefix = constructionPrefix(context.paths.dcmdump(), tag);
+    if (wholeFolder)
+        return prefix + constructionRedirections().only;
+    return commandLines(prefix, fileArguments(files), constructionRedirections(),
+                        context.state.get(&RunState::max_arg_len));
+}
+
+void addValues(SharedRunState &shared, const QString &output)
+{
+    QSet<QString> found;
+    for (const QStringView line : NOXUtils::lines(output)) {
+        if (!line.isEmpty())
+            found.insert(line.toString());
+    }
+    shared.update([&found](RunState &state) {
+        if (state.LUTtagSet.isEmpty())
+            state.LUTtagSet.swap(found);
+        else
+            state.LUTtagSet.unite(found);
+    });
+}
+
+QString freeLutPath(const QString &folder, const QString &name)
+{
+    const QString stem = joinPath(folder, QStringLiteral("AnonymizationLUT_") + name);
+    const QString extension = QStringLiteral(".txt");
+    QString path = stem + extension;
+    for (quint64 counter = 1; pathExists(path); ++counter)
+        path = stem + QString::number(counter) + extension;
+    return path;
+}
+
+QString lutName(const SharedRunState &state, const RunOptions &options)
+{
+    if (!options.selectedLUT.isEmpty())
+        return options.selectedLUT;
+    const QString first = state.get(&RunState::firstFoundLUTtagInNewValueDict);
+    return first.isEmpty() ? QStringLiteral("XX") : first;
+}
+
+// Sorts by keys that are made once for each value; values whose keys are equal by their characters.
+template <typename Key, typename MakeKey>
+QStringList sortedByKey(const QSet<QString> &values, MakeKey &&makeKey)
+{
+    struct Entry
+    {
+        Key key;
+        QString value;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(static_cast<size_t>(values.size()));
+    for (const QString &value : values)
+        entries.push_back({makeKey(value), value});
+    std::sort(entries.begin(), entries.end(), [](const Entry &left, const Entry &right) {
+        const int order = left.key.compare(right.key);
+        return order != 0 ? order < 0 : left.value < right.value;
+    });
+    QStringList sorted;
+    sorted.reserve(values.size());
+    for (const Entry &entry : entries)
+        sorted.append(entry.value);
+    return sorted;
+}
+
+} // namespace
+
+QString constructionPrefix(const QString &tool, const QString &tag)
+{
+    return quoted(tool) + QStringLiteral(" -M -Un +E +F -q +sd +r +s --search ") + tag + u' ';
+}
+
+const Redirections &constructionRedirections()
+{
+    static const QString filter = QStringLiteral("| awk -F [][] '{print $2}' ");
+    static const QString append = QStringLiteral(">>.noxTemp.out");
+    // intended: "*" directly behind the last name, which then stands for all names that begin with it; and a
+    // last line that truncates, so that of a split list only the last line's values survive
+    static const Redirections redirections = {
+        u'*' + (u' ' + filter) + QStringLiteral(">.noxTemp.out"), u' ' + filter + append + u'\n',
+        u' ' + filter + QStringLiteral(">.noxTemp.out"), filter.size() + append.size()};
+    return redirections;
+}
+
+quint64 collectLutValues(const RunContext &context, const QStringList &files, const QString &folder)
+{
+    if (folder.isEmpty() && files.isEmpty())
+        return 0;
+    const QString tag = context.state.get(&RunState::LUTconstructionTag);
+    if (tag.size() != tagLength) {
+        logMessage(QStringLiteral("Malformed LUT tag: %1").arg(tag));
+        return 1;
+    }
+    const bool wholeFolder = !folder.isEmpty();
+    const QString workingFolder = wholeFolder ? folder : parentPath(files.first());
+    removeOutputBeside(workingFolder);
+    const ScriptJobResult result = runScriptJob(context.jobs, context.paths, workingFolder,
+                                                constructionCommands(context, tag, files, wholeFolder));
+    addValues(context.state, result.output);
+    return result.ran ? 0 : 1;
+}
+
+QStringList sortedLutValues(const QSet<QString> &values, const QLocale &locale)
+{
+    // the C locale has no alphabet of its own, and a collator for it would tell upper from lower case
+    if (locale.language() == QLocale::C)
+        return sortedByKey<QString>(values, [](const QString &value) { return value.toCaseFolded(); });
+    QCollator collator(locale);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    return sortedByKey<QCollatorSortKey>(
+        values, [&collator](const QString &value) { return collator.sortKey(value); });
+}
+
+void writeConstructedLut(const RunContext &context, const RunOptions &options)
+{
+    const QString text =
+        lutText(context.state.get(&RunState::LUTconstructionTag),
+                sortedLutValues(context.state.get(&RunState::LUTtagSet), QLocale().collation()));
+    (void)createFolder(context.paths.desktopFolder);
+    const QString path = freeLutPath(context.paths.desktopFolder, lutName(context.state, options));
+    if (!writeText(path, text))
+        logMessage(QStringLiteral("Could not write LUT to file: %1").arg(path));
+}
+
+} // namespace dravolin

@@ -1,0 +1,156 @@
+#include "processing/LutPropagation.h"
+
+#include "config/FileSystem.h"
+#include "identifiers/SystemLog.h"
+#include "identifiers/Texts.h"
+#include "run/jobs/Script.h"
+#include "run/jobs/ScriptJob.h"
+
+namespace dravolin {
+
+namespace {
+
+// What the files of one folder have in common.
+struct FolderPass
+{
+    const RunContext &context;
+    const QString &folder;
+    QString tag;
+    LutTable table;
+};
+
+bool isToBeProcessed(const QString &folder, const QString &name)
+{
+    const QString path = joinPath(folder, name);
+    SystemError error;
+    const std::optional<EntryKind> kind = entryKind(path, &error);
+    if (!kind) {
+        logMessage(QStringLiteral("Could not get attributes for file: %1 (%2)").arg(path, error.text));
+        return false;
+    }
+    return *kind == EntryKind::File && !name.startsWith(u'.') && pathExtension(name) != QStringLiteral("bak");
+}
+
+JobResult search(const FolderPass &pass, const QString &name)
+{
+    const AppPaths &paths = pass.context.paths;
+    return pass.context.jobs.run({paths.dcmdump(),
+                                  {QStringLiteral("-M"), QStringLiteral("-Un"), QStringLiteral("+E"),
+                                   QStringLiteral("-s"), QStringLiteral("--search"), pass.tag, name},
+                                  pass.folder,
+                                  toolEnvironment(paths),
+                                  true});
+}
+
+void tellAboutFileHandles(RunHost &host)
+{
+    logMessage(QStringLiteral("Running out of fileHandles"));
+    (void)host.runModalAlert(
+        {Texts::tr("Ran out of file handles!"),
+         Texts::tr(
+             "Please try and process your data in slightly smaller batches.\n\nNevertheless, this should "
+             "not have happened. If it reoccurs, please let me know."),
+         Texts::tr("OK"), Texts::tr("Quit")});
+    host.closeMainWindow(); // intended: whatever was answered
+}
+
+void modify(const FolderPass &pass, const QString &name, const QString &newValue)
+{
+    const RunContext &context = pass.context;
+    const ScriptJobResult result =
+        runScriptJob(context.jobs, context.paths, pass.folder,
+                     propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
+    if (!result.ran)
+        return;
+    context.state.update([&](RunState &state) {
+        state.output += result.output;
+        ++state.numLUTadaptedFiles; // intended: also when the tool reports an error
+    });
+}
+
+// False when no pipe could be created.
+bool propagateThroughFile(const FolderPass &pass, const QString &name)
+{
+    const JobResult found = search(pass, name);
+    if (found.outcome == JobOutcome::NoPipe)
+        return false;
+    const std::optional<QString> value = searchedValue(decodeUtf8(found.output).value_or(QString()));
+    if (!value)
+        return true;
+    const QString newValue = propagatedValue(pass.table, *value);
+    if (newValue == skippedValue)
+        pass.context.state.add(&RunState::numLUTskippedFiles, 1);
+    else
+        modify(pass, name, newValue);
+    return true;
+}
+
+} // namespace
+
+quint64 propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options)
+{
+    for (const QString &name : listFolderNames(folder)) {
+        const quint64 errors = propagateThroughTree(context, joinPath(folder, name), options);
+        context.state.add(&RunState::errCount, errors);
+    }
+    // listed anew, because the tools may have changed it meanwhile
+    context.state.add(&RunState::errCount,
+                      propagateThroughFiles(context, listNames(folder), folder, options));
+    context.state.add(&RunState::folderCount, 1);
+    context.host.setStatus(propagatingText(context));
+    return 0;
+}
+
+quint64 propagateThroughFiles(const RunContext &context, const QStringList &entries, const QString &folder,
+                              const RunOptions &options)
+{
+    if (entries.isEmpty() || folder.isEmpty())
+        return 0;
+    // intended: a run that only generates UIDs has no attribute; the search then finds nothing
+    const FolderPass pass = {context, folder, options.theLUTtag.value_or(QString()),
+                             context.state.get(&RunState::selectedLUTdict)};
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        const QString name = lastPathComponent(entries.at(i));
+        context.host.setProgress(static_cast<double>(i + 1) * 100 / static_cast<double>(entries.size()));
+        if (isToBeProcessed(folder, name) && !propagateThroughFile(pass, name)) {
+            tellAboutFileHandles(context.host);
+            return 1;
+        }
+    }
+    return 0;
+}
+
+std::optional<QString> searchedValue(const QString &printed)
+{
+    const QList<QStringView> pieces = QStringView(printed).split(u' ');
+    if (pieces.size() < 3)
+        return std::nullopt;
+    const QStringView piece = pieces.at(2);
+    if (!piece.startsWith(u'['))
+        return piece.toString();
+    // intended: the last character goes whatever it is, so that of "[John Doe]" only "Joh" is left
+    return piece.size() < 2 ? QString() : piece.sliced(1, piece.size() - 2).toString();
+}
+
+QString propagatedValue(const LutTable &table, const QString &value)
+{
+    const QString found = table.value(value);
+    // intended: the key itself, not the text that the table has for it
+    return found.isEmpty() ? missingValue : found;
+}
+
+QString propagationCommand(const QString &tool, const QString &tag, const QString &newValue,
+                           const QString &name)
+{
+    return quoted(tool) + QStringLiteral(" -ie -nb -m \"(") + tag + QStringLiteral(")=") + newValue +
+           QStringLiteral("\" ") + quoted(name) + QStringLiteral("  >.noxTemp.out 2>&1");
+}
+
+QString propagatingText(const RunContext &context)
+{
+    return Texts::tr("\nPropagating LUT tag... %1/%2 folders")
+        .arg(QString::number(context.state.get(&RunState::folderCount)),
+             QString::number(context.state.get(&RunState::totalFolders)));
+}
+
+} // namespace dravolin

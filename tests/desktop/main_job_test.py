@@ -1,0 +1,195 @@
+#!/usr/bin/python3
+"""The built executable, driven from outside on the desktop that is there.
+
+    main_job_test.py EXECUTABLE PICTURE_FOLDER
+
+A failing test leaves a picture of the screen in the picture folder.
+"""
+import pathlib
+import shutil
+import stat
+import sys
+import tempfile
+import unittest
+
+from outside.configuration import asked_for, read_rules
+from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge
+from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture
+from outside.verdict import expected_report, problems, wrong_report
+from outside.waiting import wait_until
+
+EXECUTABLE = pathlib.Path()
+PICTURES = pathlib.Path()
+ROOT = "2.25.271828182845904523536028747135"
+PRIVATE = "0009,1001\n0011,1010\n"
+WAITING_TOOL = """#!/bin/sh
+here="${0%/*}"
+: > "$here/started"
+while [ ! -e "$here/go" ]; do sleep 0.05; done
+"$here/real-dcmodify" "$@"
+: > "$here/finished"
+"""
+
+
+def contents(folder):
+    """Every path of the tree with its bytes; a folder has none."""
+    return {path.relative_to(folder): path.read_bytes() if path.is_file() else None for path in folder.rglob("*")}
+
+
+class ResultWithPictures(unittest.TextTestResult):
+    """Takes a picture as soon as a test fails, while the program is still on the screen."""
+
+    def addFailure(self, test, err):
+        self.failed(test)
+        super().addFailure(test, err)
+
+    def addError(self, test, err):
+        self.failed(test)
+        super().addError(test, err)
+
+    def failed(self, test):
+        take_picture(PICTURES / (test.id().rpartition(".")[2] + ".png"))
+
+
+class MainJob(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
+        self.home = Home(self.folder / "home")
+
+    def start(self, executable=None):
+        return self.enterContext(Program(executable or EXECUTABLE, self.home))
+
+    def close(self, program):
+        program.close()
+        self.assertEqual(program.wait_for_end(), 0, "the exit status")
+
+    def save_configuration(self, name, text):
+        self.home.configurations.mkdir(parents=True, exist_ok=True)
+        (self.home.configurations / f"AnonymizationConfiguration_{name}.txt").write_text(text, encoding="utf-8")
+
+    def test_anonymizes_a_dropped_folder_after_asking(self):
+        study = prepare(self.folder)
+        program = self.start()
+        program.start_with_default_configuration()
+        self.assertEqual(program.control("Configuration").name, "Bundled Default")
+        describe_case(program)
+        self.assertEqual(program.read("UID root validity"), "UID may be valid")
+
+        program.tick("Overwrite source files")
+        status = program.status
+        program.drop(study.after)
+        program.answer(OVERWRITE, "No, Cancel")
+        self.assertEqual(contents(study.after), contents(study.before), "changed although the user said no")
+        self.assertEqual((program.status, program.running()), (status, False))
+
+        x, y, width, _ = program.window.box
+        outcome = run_and_judge(program, study, default_rules(EXECUTABLE))
+        self.assertEqual(outcome.wrong, [])
+        self.assertEqual(program.window.box, (x, y, width, 696), "the window grows downwards")
+        self.assertFalse(list(study.after.rglob("*.bak")), "backups although the source is overwritten")
+
+        root = program.read("UID root")
+        self.close(program)
+        self.assertEqual(self.home.stored_root(), root)
+
+        program = self.start()
+        program.start_with_default_configuration()
+        self.assertEqual(program.read("UID root"), root)
+        self.assertEqual(program.read("UID root validity"), "UID may be valid")
+
+    def test_keeps_backups_and_follows_the_chosen_configuration(self):
+        study = prepare(self.folder)
+        everything = (EXECUTABLE.parent / "resources" / DEFAULT).read_text(encoding="utf-8") + "\n" + PRIVATE
+        self.save_configuration("Nothing more", "# only what the window asks for\n")
+        self.save_configuration("Everything", everything)
+        program = self.start()
+        describe_case(program)
+        program.fill("UID root", ROOT)
+        program.choose("Configuration", "Nothing more")
+        program.choose("Configuration", "Everything")
+
+        program.drop(study.after / "disc", study.after / "archive")
+        summary, log = program.wait_for_summary(), program.log_window_text()
+        self.assertEqual(program.application.questions(), [])
+        report = expected_report(study.tried / "disc", study.tried / "archive")
+        self.assertEqual(list(wrong_report(summary, log, report, ["./DICOMDIR"])), [])
+
+        for file in study.files:
+            backup = study.after / file.with_name(file.name + ".bak")
+            self.assertEqual(backup.read_bytes(), (study.before / file).read_bytes(), f"the backup {backup.name}")
+        for backup in study.after.rglob("*.bak"):
+            backup.unlink()
+        rules = read_rules(self.home.configurations / "AnonymizationConfiguration_Everything.txt")
+        wrong, kept = problems(study.before, study.after, study.files, asked_for(rules, CASE, ROOT), False)
+        self.assertEqual((wrong, kept), ([], []))
+        self.close(program)
+        self.assertEqual(self.home.stored_root(), ROOT)
+
+    def test_a_single_picture_is_refused_and_starts_nothing(self):
+        picture = self.folder / "cover.png"
+        picture.write_bytes(b"no picture really")
+        program = self.start()
+        program.start_with_default_configuration()
+        status = program.status
+        self.assertEqual(program.drop_outcome(picture), "refused")
+        self.assertEqual((program.status, program.running(), program.read("UID root")), (status, False, ""))
+        self.assertEqual(picture.read_bytes(), b"no picture really")
+        self.assertEqual(list(self.folder.glob(".noxTemp*")), [])
+
+    def test_saves_the_default_configuration_and_finds_it_at_the_next_start(self):
+        browser = self.enterContext(FileBrowser())
+        program = self.start()
+        program.answer(DEFAULT_CONFIGURATION, "Save copy to Configuration folder & Quit")
+        self.assertEqual(program.wait_for_end(), 0)
+        saved = self.home.configurations / "AnonymizationConfiguration_Default.txt"
+        self.assertEqual(browser.shown(), [saved.as_uri()])
+        self.assertEqual(saved.read_bytes(), (EXECUTABLE.parent / "resources" / DEFAULT).read_bytes())
+
+        program = self.start()
+        wait_until(lambda: program.control("Configuration").name == "Default", "'Default' in 'Configuration'")
+        self.assertEqual(program.application.questions(), [])
+        self.close(program)
+
+    def test_a_window_closed_in_mid_run_leaves_the_tool_to_finish_its_file(self):
+        study = prepare(self.folder)
+        executable = self.copy_with_waiting_tool()
+        resources = executable.parent / "resources"
+        program = self.start(executable)
+        program.start_with_default_configuration()
+        describe_case(program)
+        program.fill("UID root", ROOT)
+        program.tick("Overwrite source files")
+        series = study.after / "disc/IMAGES/AXIAL"
+        program.drop(series)
+        program.answer(OVERWRITE, "Ok, Overwrite source data")
+        wait_until((resources / "started").exists, "the start of the tool")
+        self.assertTrue(program.running())
+
+        self.close(program)
+        self.assertEqual(self.home.stored_root(), ROOT)
+        self.assertFalse((resources / "finished").exists())
+        (resources / "go").touch()
+        wait_until((resources / "finished").exists, "the end of the tool after its program has ended")
+        files = [file for file in study.files if series in (study.after / file).parents]
+        asked = asked_for(default_rules(EXECUTABLE), CASE, ROOT)
+        wrong, _ = problems(study.before, study.after, files, asked, new_instances=False)
+        self.assertEqual([line for line in wrong if line.startswith("disc/IMAGES/AXIAL")], [])
+
+    def copy_with_waiting_tool(self):
+        """A copy of the program whose dcmodify says when it has started and waits until it may go on."""
+        copy = self.folder / "program"
+        shutil.copytree(EXECUTABLE.parent / "resources", copy / "resources", symlinks=True)
+        shutil.copy2(EXECUTABLE, copy)
+        tool = copy / "resources/dcmodify"
+        tool.rename(tool.with_name("real-dcmodify"))
+        tool.write_text(WAITING_TOOL, encoding="ascii")
+        tool.chmod(tool.stat().st_mode | stat.S_IXUSR)
+        return copy / EXECUTABLE.name
+
+
+if __name__ == "__main__":
+    EXECUTABLE, PICTURES = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    unittest.main(argv=sys.argv[:1], testRunner=unittest.TextTestRunner(verbosity=2, resultclass=ResultWithPictures))

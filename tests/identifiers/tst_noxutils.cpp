@@ -1,0 +1,241 @@
+#include "identifiers/NOXUtils.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+using namespace dravolin;
+
+class TestNOXUtils : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void trimsBlanksAndNothingElse_data();
+    void trimsBlanksAndNothingElse();
+    void trimsEverySpaceSeparator();
+    void viewOfTrimmedTextPointsIntoTheText();
+    void reverses_data();
+    void reverses();
+    void keepsTheHalvesOfASurrogatePairSwapped();
+    void leavesItsArgumentsAsTheyAre();
+    void makesRandomUuidsOf36UpperCaseCharacters();
+    void makesANewUuidAtEachCall();
+    void writesUuidsInDecimal_data();
+    void writesUuidsInDecimal();
+    void dropsLeadingZeros_data();
+    void dropsLeadingZeros();
+    void cutsLinesAtEveryNewline_data();
+    void cutsLinesAtEveryNewline();
+    void givesThePluralSuffix_data();
+    void givesThePluralSuffix();
+};
+
+void TestNOXUtils::trimsBlanksAndNothingElse_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *name, const char16_t *text, const char16_t *expected) {
+        QTest::newRow(name) << QStringView(text).toString() << QStringView(expected).toString();
+    };
+    row("two spaces in front and a tab behind", u"  1.2.3\t", u"1.2.3");
+    row("empty", u"", u"");
+    row("blanks alone", u" \t \u00A0\u3000", u"");
+    row("nothing to trim", u"a", u"a");
+    row("inside stays", u" a \t b ", u"a \t b");
+    row("no-break space", u"\u00A0a\u00A0", u"a");
+    row("ideographic space", u"\u3000a\u3000", u"a");
+    row("line break at the end is kept", u" a\n", u"a\n");
+    row("blanks before a line break are kept", u" a \t\n", u"a \t\n");
+    row("blanks behind a line break go", u"a\n \t", u"a\n");
+    row("line break in front is kept", u"\n a", u"\n a");
+    row("line break alone", u"\n", u"\n");
+    row("carriage return", u"\ra\r", u"\ra\r");
+    row("vertical tab and form feed", u"\v\fa\f\v", u"\v\fa\f\v");
+    row("next line", u"\u0085a\u0085", u"\u0085a\u0085");
+    row("line separator", u"\u2028a\u2028", u"\u2028a\u2028");
+    row("paragraph separator", u"\u2029a\u2029", u"\u2029a\u2029");
+    row("byte-order mark is no blank", u"\uFEFFa", u"\uFEFFa");
+}
+
+void TestNOXUtils::trimsBlanksAndNothingElse()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, expected);
+    QCOMPARE(NOXUtils::stringByTrimmingLeadingAndTrailingspaces(text), expected);
+    QCOMPARE(NOXUtils::trimmed(text).toString(), expected);
+}
+
+void TestNOXUtils::trimsEverySpaceSeparator()
+{
+    QString separators = QStringLiteral("\t \u00A0\u1680\u202F\u205F\u3000");
+    for (char16_t unit = 0x2000; unit <= 0x200A; ++unit)
+        separators += QChar(unit);
+    for (const QChar separator : separators) {
+        const QString text = separator + QStringLiteral("x") + separator;
+        QVERIFY2(NOXUtils::stringByTrimmingLeadingAndTrailingspaces(text) == QStringLiteral("x"),
+                 qPrintable(QString::number(separator.unicode(), 16)));
+    }
+}
+
+void TestNOXUtils::viewOfTrimmedTextPointsIntoTheText()
+{
+    const QString text = QStringLiteral("  abc ");
+    QCOMPARE(NOXUtils::trimmed(text).data(), text.constData() + 2);
+}
+
+void TestNOXUtils::reverses_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("three letters") << QStringLiteral("abc") << QStringLiteral("cba");
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("one letter") << QStringLiteral("x") << QStringLiteral("x");
+    QTest::newRow("even length") << QStringLiteral("12 rorre") << QStringLiteral("error 21");
+    QTest::newRow("combining mark") << QStringLiteral("ae\u0301") << QStringLiteral("\u0301ea");
+}
+
+void TestNOXUtils::reverses()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, expected);
+    QCOMPARE(NOXUtils::reverseString(text), expected);
+}
+
+void TestNOXUtils::keepsTheHalvesOfASurrogatePairSwapped()
+{
+    const char16_t units[] = {u'a', 0xD83D, 0xDE00, u'b'};
+    const char16_t swapped[] = {u'b', 0xDE00, 0xD83D, u'a'};
+    QCOMPARE(NOXUtils::reverseString(QStringView(units, 4)), QString::fromUtf16(swapped, 4));
+}
+
+void TestNOXUtils::leavesItsArgumentsAsTheyAre()
+{
+    QString text = QStringLiteral(" 00abc ");
+    const QChar *const before = text.constData();
+    QString trimmed = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(text);
+    QString reversed = NOXUtils::reverseString(text);
+    trimmed[0] = u'X';
+    reversed[0] = u'X';
+    QCOMPARE(text, QStringLiteral(" 00abc "));
+    QCOMPARE(text.constData(), before);
+}
+
+void TestNOXUtils::makesRandomUuidsOf36UpperCaseCharacters()
+{
+    NOXUtils::RandomUuidSource source;
+    static const QRegularExpression form(
+        QStringLiteral("\\A[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}\\z"));
+    for (int i = 0; i < 100; ++i) {
+        const QString uuid = source.uniqueString();
+        QVERIFY2(form.match(uuid).hasMatch(), qPrintable(uuid));
+    }
+}
+
+void TestNOXUtils::makesANewUuidAtEachCall()
+{
+    NOXUtils::RandomUuidSource source;
+    QSet<QString> seen;
+    for (int i = 0; i < 1000; ++i)
+        seen.insert(source.uniqueString());
+    QCOMPARE(seen.size(), 1000);
+}
+
+void TestNOXUtils::writesUuidsInDecimal_data()
+{
+    QTest::addColumn<QString>("uuid");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *uuid, const char *expected) {
+        QTest::newRow(uuid) << QString::fromLatin1(uuid) << QString::fromLatin1(expected);
+    };
+    row("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF", "340282366920938463463374607431768211455");
+    row("ffffffff-ffff-ffff-ffff-ffffffffffff", "340282366920938463463374607431768211455");
+    row("00000000-0000-0000-0000-000000000001", "1");
+    row("00000000-0000-0000-0000-000000000000", "0");
+    row("00000000-0000-0000-0001-000000000000", "281474976710656");
+    row("80000000-0000-0000-0000-000000000000", "170141183460469231731687303715884105728");
+    row("F81D4FAE-7DEC-11D0-A765-00A0C91E6BF6", "329800735698586629295641978511506172918");
+    row("01234567-89AB-4DEF-8123-456789ABCDEF", "1512366075203566475363147076673981935");
+}
+
+void TestNOXUtils::writesUuidsInDecimal()
+{
+    QFETCH(const QString, uuid);
+    QFETCH(const QString, expected);
+    QCOMPARE(NOXUtils::decimalRepresentationOfUUID(uuid), expected);
+}
+
+void TestNOXUtils::dropsLeadingZeros_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("zeros in front") << QStringLiteral("007") << QStringLiteral("7");
+    QTest::newRow("zeros alone") << QStringLiteral("000") << QString();
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("none") << QStringLiteral("7") << QStringLiteral("7");
+    QTest::newRow("zeros inside and behind") << QStringLiteral("01020") << QStringLiteral("1020");
+    QTest::newRow("a blank in front stops it") << QStringLiteral(" 07") << QStringLiteral(" 07");
+}
+
+void TestNOXUtils::dropsLeadingZeros()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, expected);
+    QCOMPARE(NOXUtils::withoutLeadingZeros(text), expected);
+}
+
+void TestNOXUtils::cutsLinesAtEveryNewline_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("expected");
+    const auto row = [](const char *name, const char16_t *text, const char *lines) {
+        QTest::newRow(name) << QString::fromUtf16(text) << QString::fromLatin1(lines).split(u'|');
+    };
+    row("empty", u"", "");
+    row("no newline", u"a", "a");
+    row("LF", u"a\nb", "a|b");
+    row("CR", u"a\rb", "a|b");
+    row("CR LF makes an empty line", u"a\r\nb", "a||b");
+    row("VT", u"a\vb", "a|b");
+    row("FF", u"a\fb", "a|b");
+    row("next line", u"a\u0085b", "a|b");
+    row("line separator", u"a\u2028b", "a|b");
+    row("paragraph separator", u"a\u2029b", "a|b");
+    row("newline at the end", u"a\n", "a|");
+    row("newline in front", u"\na", "|a");
+    row("tab and blank are none", u"a\tb c", "a\tb c");
+    row("unit separator is none", u"a\u001Fb",
+        "a\x1F"
+        "b");
+}
+
+void TestNOXUtils::cutsLinesAtEveryNewline()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QStringList, expected);
+    QStringList lines;
+    for (const QStringView line : NOXUtils::lines(text))
+        lines.append(line.toString());
+    QCOMPARE(lines, expected);
+}
+
+void TestNOXUtils::givesThePluralSuffix_data()
+{
+    QTest::addColumn<quint64>("number");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("0") << quint64{0} << QStringLiteral("s");
+    QTest::newRow("1") << quint64{1} << QString();
+    QTest::newRow("2") << quint64{2} << QStringLiteral("s");
+    QTest::newRow("11") << quint64{11} << QStringLiteral("s");
+    QTest::newRow("all ones") << ~quint64{0} << QStringLiteral("s");
+}
+
+void TestNOXUtils::givesThePluralSuffix()
+{
+    QFETCH(const quint64, number);
+    QFETCH(const QString, expected);
+    QCOMPARE(NOXUtils::pluralSuffix(number), expected);
+}
+
+QTEST_GUILESS_MAIN(TestNOXUtils)
+#include "tst_noxutils.moc"
