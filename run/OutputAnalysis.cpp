@@ -3,10 +3,13 @@
 #include "identifiers/NOXUtils.h"
 #include "identifiers/Texts.h"
 
-#include <QSet>
 #include <QThread>
 
+#include <algorithm>
+#include <bit>
 #include <limits>
+#include <optional>
+#include <vector>
 
 namespace dravolin {
 
@@ -62,32 +65,87 @@ qint64 leadingInteger(QStringView text)
     return negative ? -value : value;
 }
 
-// What the lines of the output add up to.
+// Inline and leaving at the first difference: most lines differ early.
+bool startsWith(QStringView text, QStringView prefix)
+{
+    return text.size() >= prefix.size() && std::equal(prefix.begin(), prefix.end(), text.begin());
+}
+
+bool endsWith(QStringView text, QStringView suffix)
+{
+    return text.size() >= suffix.size() && std::equal(suffix.rbegin(), suffix.rend(), text.rbegin());
+}
+
+// Folder names, asked for with a prefix of every complaint about a file: a hash table whose hash is built
+// while a text is read, so that a text is read once however many names there are. It views the names.
+class FolderNames
+{
+public:
+    explicit FolderNames(const QStringList &names) : m_slots(std::bit_ceil(2 * size_t(names.size()) + 1))
+    {
+        for (const QString &name : names) {
+            quint64 hash = seed;
+            for (const QChar c : name)
+                hash = mixed(hash, c);
+            m_slots[slotOf(name, hash)] = name;
+            m_longest = std::max(m_longest, name.size());
+        }
+    }
+
+    // Whether `text`, which is in lower case, begins with one of the names followed by ":".
+    [[nodiscard]] bool beginLowered(QStringView text) const
+    {
+        const qsizetype end = std::min(text.size(), m_longest + 1);
+        quint64 hash = seed;
+        for (qsizetype i = 0; i < end; ++i) {
+            if (text[i] == u':' && m_slots[slotOf(text.first(i), hash)])
+                return true;
+            hash = mixed(hash, text[i]);
+        }
+        return false;
+    }
+
+    // How many characters of a text beginLowered looks at.
+    [[nodiscard]] qsizetype lookedAt() const { return m_longest + 1; }
+
+private:
+    static constexpr quint64 seed = 0xcbf29ce484222325; // FNV-1a over units
+    static quint64 mixed(quint64 hash, QChar c) { return (hash ^ c.unicode()) * 0x100000001b3; }
+
+    // Where `name` is, or the free slot where it belongs.
+    [[nodiscard]] size_t slotOf(QStringView name, quint64 hash) const
+    {
+        size_t slot = (hash ^ hash >> 32) & (m_slots.size() - 1);
+        while (m_slots[slot] &&
+               !std::equal(m_slots[slot]->begin(), m_slots[slot]->end(), name.begin(), name.end()))
+            slot = (slot + 1) & (m_slots.size() - 1);
+        return slot;
+    }
+
+    std::vector<std::optional<QStringView>> m_slots;
+    qsizetype m_longest = -1; // without names not even the first character is looked at
+};
+
+// What the lines of the output add up to. Output may be many megabytes of error lines, so nothing here copies
+// a line that is not collected.
 class LineJudge
 {
 public:
-    explicit LineJudge(const QStringList &folderNames)
-        : m_folderNames(folderNames.cbegin(), folderNames.cend())
-    {
-        for (const QString &name : folderNames)
-            m_longestName = std::max(m_longestName, name.size());
-    }
+    explicit LineJudge(const QStringList &folderNames) : m_folderNames(folderNames) {}
 
     void judge(QStringView line)
     {
-        static const QString unloadable = QStringLiteral("E: unable to load file ");
-        if (!line.startsWith(QStringLiteral("E:")))
+        if (!startsWith(line, u"E:"))
             return;
-        if (line.startsWith(QStringLiteral("E: There was")) ||
-            line.startsWith(QStringLiteral("E: There were"))) {
+        if (startsWith(line, u"E: There was") || startsWith(line, u"E: There were")) {
             // unsigned, so that sums past 64 bits wrap
             m_filesWithErrors += static_cast<quint64>(closingLineCount(line));
-        } else if (line.startsWith(unloadable)) {
-            if (namesFolder(line.sliced(unloadable.size())))
+        } else if (startsWith(line, unloadable)) {
+            if (m_folderNames.beginLowered(lowered(NOXUtils::trimmed(line.sliced(unloadable.size())))))
                 --m_filesWithErrors; // intended: may go below zero and is then shown as an unsigned number
             else
                 collect(line);
-        } else if (!line.endsWith(QStringLiteral("put value into non-leaf elements!"))) {
+        } else if (!endsWith(line, u"put value into non-leaf elements!")) {
             collect(line);
         }
     }
@@ -97,28 +155,32 @@ public:
     [[nodiscard]] const QString &logText() const { return m_logText; }
 
 private:
-    // Whether `rest` begins with a folder's name followed by ":". Only the places of ":" are looked up, so
-    // that the number of names does not matter.
-    [[nodiscard]] bool namesFolder(QStringView rest) const
+    static constexpr QStringView unloadable = u"E: unable to load file ";
+
+    // As much of `text` as is looked at for names, in lower case, in memory that is kept from line to line.
+    [[nodiscard]] QStringView lowered(QStringView text)
     {
-        const QString text = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(rest.toString().toLower());
-        for (qsizetype colon = text.indexOf(u':'); colon >= 0 && colon <= m_longestName;
-             colon = text.indexOf(u':', colon + 1)) {
-            if (m_folderNames.contains(text.first(colon)))
-                return true;
-        }
-        return false;
+        const QStringView head = text.first(std::min(text.size(), m_folderNames.lookedAt()));
+        m_lowered.resize(head.size());
+        bool ascii = true;
+        std::transform(head.begin(), head.end(), m_lowered.begin(), [&ascii](QChar c) {
+            ascii = ascii && c < u'\x80';
+            return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c;
+        });
+        if (!ascii)
+            m_lowered = text.toString().toLower(); // whole: other letters may become more or fewer
+        return m_lowered;
     }
 
     void collect(QStringView line)
     {
         m_logText += line;
-        m_logText += QStringLiteral("\n\n");
+        m_logText += u"\n\n";
         ++m_errorLines;
     }
 
-    QSet<QString> m_folderNames;
-    qsizetype m_longestName = 0;
+    FolderNames m_folderNames;
+    QString m_lowered;
     quint64 m_filesWithErrors = 0;
     quint64 m_errorLines = 0;
     QString m_logText;
@@ -126,12 +188,10 @@ private:
 
 void judgeLines(QStringView output, LineJudge &judge)
 {
-    qsizetype start = 0;
-    for (qsizetype i = 0; i <= output.size(); ++i) {
-        if (i < output.size() && !NOXUtils::isNewline(output.at(i)))
-            continue;
-        judge.judge(NOXUtils::trimmed(output.sliced(start, i - start)));
-        start = i + 1;
+    for (qsizetype start = 0; start <= output.size();) {
+        const qsizetype end = NOXUtils::indexOfNewline(output, start);
+        judge.judge(NOXUtils::trimmed(output.sliced(start, end - start)));
+        start = end + 1;
     }
 }
 
