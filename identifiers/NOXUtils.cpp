@@ -31,6 +31,16 @@ bool isNewline(QChar c)
     return (u >= 0x0A && u <= 0x0D) || u == 0x85 || u == 0x2028 || u == 0x2029;
 }
 
+qsizetype indexOfNewline(QStringView text, qsizetype from)
+{
+    const QChar *const end = text.cend();
+    const QChar *at = text.cbegin() + from;
+    // one test passes over almost everything that is printed
+    while (at != end && ((at->unicode() > 0x0D && at->unicode() < 0x80) || !isNewline(*at)))
+        ++at;
+    return at - text.cbegin();
+}
+
 QStringView trimmed(QStringView text)
 {
     while (!text.isEmpty() && isBlank(text.front()))
@@ -63,14 +73,11 @@ QString withoutLeadingZeros(const QString &text)
 QList<QStringView> lines(QStringView text)
 {
     QList<QStringView> result;
-    qsizetype start = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (!isNewline(text.at(i)))
-            continue;
-        result.append(text.sliced(start, i - start));
-        start = i + 1;
+    for (qsizetype start = 0; start <= text.size();) {
+        const qsizetype end = indexOfNewline(text, start);
+        result.append(text.sliced(start, end - start));
+        start = end + 1;
     }
-    result.append(text.sliced(start));
     return result;
 }
 

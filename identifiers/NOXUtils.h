@@ -45,6 +45,10 @@ public:
 // `text` without its leading "0" characters; zeros alone give the empty string.
 [[nodiscard]] QString withoutLeadingZeros(const QString &text);
 
+// The index of the first newline character of `text` at or behind `from`, or its size when there is none. Made
+// for texts of many megabytes.
+[[nodiscard]] qsizetype indexOfNewline(QStringView text, qsizetype from);
+
 // `text` cut at every newline character; CR LF gives an empty line between the two, an empty text one empty
 // line. The views point into the argument.
 [[nodiscard]] QList<QStringView> lines(QStringView text);

@@ -3,10 +3,12 @@
 #include "identifiers/NOXUtils.h"
 #include "identifiers/Texts.h"
 
-#include <QSet>
 #include <QThread>
 
+#include <algorithm>
 #include <limits>
+#include <string_view>
+#include <unordered_set>
 
 namespace dravolin {
 
@@ -62,32 +64,74 @@ qint64 leadingInteger(QStringView text)
     return negative ? -value : value;
 }
 
-// What the lines of the output add up to.
+// Inline and leaving at the first difference: most lines differ early.
+bool startsWith(QStringView text, QStringView prefix)
+{
+    return text.size() >= prefix.size() && std::equal(prefix.begin(), prefix.end(), text.begin());
+}
+
+bool endsWith(QStringView text, QStringView suffix)
+{
+    return text.size() >= suffix.size() && std::equal(suffix.rbegin(), suffix.rend(), text.rbegin());
+}
+
+// Folder names, asked for with the beginning of every complaint about a file. It views the names.
+class FolderNames
+{
+public:
+    explicit FolderNames(const QStringList &names)
+    {
+        for (const QString &name : names) {
+            m_names.insert(units(name));
+            m_longest = std::max(m_longest, name.size());
+        }
+    }
+
+    // Whether `text`, which is in lower case, begins with one of the names followed by ":". Only what stands
+    // before a ":" is looked up, so that the number of names does not matter.
+    [[nodiscard]] bool beginLowered(QStringView text) const
+    {
+        const std::u16string_view all = units(text);
+        for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
+            if (m_names.contains(all.substr(0, colon)))
+                return true;
+        }
+        return false;
+    }
+
+    // How many characters of a text beginLowered needs to see.
+    [[nodiscard]] qsizetype lookedAt() const { return m_longest + 1; }
+
+private:
+    static std::u16string_view units(QStringView text)
+    {
+        return {text.utf16(), static_cast<size_t>(text.size())};
+    }
+
+    std::unordered_set<std::u16string_view> m_names;
+    qsizetype m_longest = -1; // without names not even the first character is looked at
+};
+
+// What the lines of the output add up to. Output may be many megabytes of error lines, so nothing here copies
+// a line that is not collected.
 class LineJudge
 {
 public:
-    explicit LineJudge(const QStringList &folderNames)
-        : m_folderNames(folderNames.cbegin(), folderNames.cend())
-    {
-        for (const QString &name : folderNames)
-            m_longestName = std::max(m_longestName, name.size());
-    }
+    explicit LineJudge(const QStringList &folderNames) : m_folderNames(folderNames) {}
 
     void judge(QStringView line)
     {
-        static const QString unloadable = QStringLiteral("E: unable to load file ");
-        if (!line.startsWith(QStringLiteral("E:")))
+        if (!startsWith(line, u"E:"))
             return;
-        if (line.startsWith(QStringLiteral("E: There was")) ||
-            line.startsWith(QStringLiteral("E: There were"))) {
+        if (startsWith(line, u"E: There was") || startsWith(line, u"E: There were")) {
             // unsigned, so that sums past 64 bits wrap
             m_filesWithErrors += static_cast<quint64>(closingLineCount(line));
-        } else if (line.startsWith(unloadable)) {
-            if (namesFolder(line.sliced(unloadable.size())))
+        } else if (startsWith(line, unloadable)) {
+            if (m_folderNames.beginLowered(lowered(NOXUtils::trimmed(line.sliced(unloadable.size())))))
                 --m_filesWithErrors; // intended: may go below zero and is then shown as an unsigned number
             else
                 collect(line);
-        } else if (!line.endsWith(QStringLiteral("put value into non-leaf elements!"))) {
+        } else if (!endsWith(line, u"put value into non-leaf elements!")) {
             collect(line);
         }
     }
@@ -97,28 +141,32 @@ public:
     [[nodiscard]] const QString &logText() const { return m_logText; }
 
 private:
-    // Whether `rest` begins with a folder's name followed by ":". Only the places of ":" are looked up, so
-    // that the number of names does not matter.
-    [[nodiscard]] bool namesFolder(QStringView rest) const
+    static constexpr QStringView unloadable = u"E: unable to load file ";
+
+    // As much of `text` as is looked at for names, in lower case, in memory that is kept from line to line.
+    [[nodiscard]] QStringView lowered(QStringView text)
     {
-        const QString text = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(rest.toString().toLower());
-        for (qsizetype colon = text.indexOf(u':'); colon >= 0 && colon <= m_longestName;
-             colon = text.indexOf(u':', colon + 1)) {
-            if (m_folderNames.contains(text.first(colon)))
-                return true;
-        }
-        return false;
+        const QStringView head = text.first(std::min(text.size(), m_folderNames.lookedAt()));
+        m_lowered.resize(head.size());
+        bool ascii = true;
+        std::transform(head.begin(), head.end(), m_lowered.begin(), [&ascii](QChar c) {
+            ascii = ascii && c < u'\x80';
+            return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c;
+        });
+        if (!ascii)
+            m_lowered = text.toString().toLower(); // whole: other letters may become more or fewer
+        return m_lowered;
     }
 
     void collect(QStringView line)
     {
         m_logText += line;
-        m_logText += QStringLiteral("\n\n");
+        m_logText += u"\n\n";
         ++m_errorLines;
     }
 
-    QSet<QString> m_folderNames;
-    qsizetype m_longestName = 0;
+    FolderNames m_folderNames;
+    QString m_lowered;
     quint64 m_filesWithErrors = 0;
     quint64 m_errorLines = 0;
     QString m_logText;
@@ -126,12 +174,10 @@ private:
 
 void judgeLines(QStringView output, LineJudge &judge)
 {
-    qsizetype start = 0;
-    for (qsizetype i = 0; i <= output.size(); ++i) {
-        if (i < output.size() && !NOXUtils::isNewline(output.at(i)))
-            continue;
-        judge.judge(NOXUtils::trimmed(output.sliced(start, i - start)));
-        start = i + 1;
+    for (qsizetype start = 0; start <= output.size();) {
+        const qsizetype end = NOXUtils::indexOfNewline(output, start);
+        judge.judge(NOXUtils::trimmed(output.sliced(start, end - start)));
+        start = end + 1;
     }
 }
 

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/MainController.h"
+#include "identifiers/NOXUtils.h"
+#include "run/jobs/JobRunner.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <memory>
+
+// The application as it is, with its window off screen, over folders made for a measurement.
+namespace dravolin::bench {
+
+enum class Tool { Real, Stub }; // dcmodify, or a program that ends at once
+
+// Answers every question with "go on".
+class WillingPresenter : public AlertPresenter
+{
+public:
+    [[nodiscard]] AlertButton runModal(const ModalAlert &, QWidget *) override
+    {
+        return AlertButton::Alternate;
+    }
+    void beginSheet(const AlertSheet &, QWidget *) override {}
+};
+
+class BenchApp
+{
+public:
+    explicit BenchApp(Tool tool);
+    ~BenchApp();
+    BenchApp(const BenchApp &) = delete;
+    BenchApp &operator=(const BenchApp &) = delete;
+
+    [[nodiscard]] QString path(const QString &relative) const;
+    // A folder of `files` small DICOM files, made once and copied; with the stub tool the files are empty.
+    QString makeFolder(const QString &relative, int files);
+    // A tree of `folders` folders of `files` files in groups of a hundred; gives its top.
+    QString makeTree(const QString &name, int folders, int files);
+
+    // Drops `folder` on the application and runs the event loop until the run has ended; gives the seconds.
+    [[nodiscard]] double run(const QString &folder);
+    // The same without starting anything; the scripts stay in their folders. Gives the number of jobs.
+    int captureScripts(const QString &folder);
+    // Runs the captured scripts one after another; gives the seconds.
+    [[nodiscard]] double runNatively();
+
+private:
+    class CapturingRunner;
+
+    void placeResources(Tool tool);
+    void makeImage();
+    void start(JobRunner &jobs);
+    double dropAndWait(const QString &folder);
+
+    QTemporaryDir m_folder;
+    AppPaths m_paths;
+    PosixJobRunner m_jobs;
+    NOXUtils::RandomUuidSource m_uuids;
+    WillingPresenter m_presenter;
+    std::unique_ptr<MainController> m_controller;
+    QByteArray m_image; // a DICOM file
+    QStringList m_captured;
+};
+
+// Sets HOME and the platform, then makes the application object.
+[[nodiscard]] std::unique_ptr<QApplication> makeApplication(int &argc, char **argv);
+
+} // namespace dravolin::bench
