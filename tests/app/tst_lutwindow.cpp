@@ -55,6 +55,7 @@ private:
     }
     [[nodiscard]] QComboBox &popup() const { return *m_app->controls->selectLUTpopupButton; }
     QTemporaryDir m_home;
+    MainThreadGate m_gate; // for looking at the window in the middle of a job
     std::unique_ptr<TestApp> m_app;
 };
 
@@ -163,9 +164,7 @@ void TestLutWindow::aConstructedTableIsOfferedWhenTheRunEnds()
     start();
     QString during;
     m_app->run.jobs.answer = [&](const Job &job) {
-        QMetaObject::invokeMethod(
-            m_app->controls->outputTextField, [&] { during = m_app->status(); },
-            Qt::BlockingQueuedConnection);
+        (void)m_gate.run([&] { during = m_app->status(); });
         return writeText(joinPath(job.folder, outputFileName), QStringLiteral("b\nA\n"))
                    ? JobResult{JobOutcome::Ran, {}}
                    : JobResult{};
@@ -189,14 +188,11 @@ void TestLutWindow::theProgressBarShowsWhilePropagating()
     start();
     QStringList seen;
     m_app->run.jobs.answer = [&](const Job &job) {
-        QMetaObject::invokeMethod(
-            m_app->controls->progressBar,
-            [&] {
-                const QProgressBar &bar = *m_app->controls->progressBar;
-                seen.append(bar.isVisible() ? QStringLiteral("%1 %2").arg(bar.value()).arg(m_app->status())
-                                            : QStringLiteral("hidden"));
-            },
-            Qt::BlockingQueuedConnection);
+        (void)m_gate.run([&] {
+            const QProgressBar &bar = *m_app->controls->progressBar;
+            seen.append(bar.isVisible() ? QStringLiteral("%1 %2").arg(bar.value()).arg(m_app->status())
+                                        : QStringLiteral("hidden"));
+        });
         return JobResult{JobOutcome::Ran,
                          job.pipeOutput ? QByteArray("(0010,1000) LO [A]  # 1") : QByteArray()};
     };
