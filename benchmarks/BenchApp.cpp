@@ -10,8 +10,6 @@
 #include <QFile>
 #include <QProcess>
 
-#include <atomic>
-
 namespace dravolin::bench {
 
 namespace {

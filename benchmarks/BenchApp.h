@@ -46,6 +46,8 @@ public:
     // Runs the captured scripts one after another; gives the seconds.
     [[nodiscard]] double runNatively();
 
+    [[nodiscard]] MainController &controller() { return *m_controller; }
+
 private:
     class CapturingRunner;
 
