@@ -6,10 +6,9 @@
 #include <QThread>
 
 #include <algorithm>
-#include <bit>
 #include <limits>
-#include <optional>
-#include <vector>
+#include <string_view>
+#include <unordered_set>
 
 namespace dravolin {
 
@@ -76,53 +75,40 @@ bool endsWith(QStringView text, QStringView suffix)
     return text.size() >= suffix.size() && std::equal(suffix.rbegin(), suffix.rend(), text.rbegin());
 }
 
-// Folder names, asked for with a prefix of every complaint about a file: a hash table whose hash is built
-// while a text is read, so that a text is read once however many names there are. It views the names.
+// Folder names, asked for with the beginning of every complaint about a file. It views the names.
 class FolderNames
 {
 public:
-    explicit FolderNames(const QStringList &names) : m_slots(std::bit_ceil(2 * size_t(names.size()) + 1))
+    explicit FolderNames(const QStringList &names)
     {
         for (const QString &name : names) {
-            quint64 hash = seed;
-            for (const QChar c : name)
-                hash = mixed(hash, c);
-            m_slots[slotOf(name, hash)] = name;
+            m_names.insert(units(name));
             m_longest = std::max(m_longest, name.size());
         }
     }
 
-    // Whether `text`, which is in lower case, begins with one of the names followed by ":".
+    // Whether `text`, which is in lower case, begins with one of the names followed by ":". Only what stands
+    // before a ":" is looked up, so that the number of names does not matter.
     [[nodiscard]] bool beginLowered(QStringView text) const
     {
-        const qsizetype end = std::min(text.size(), m_longest + 1);
-        quint64 hash = seed;
-        for (qsizetype i = 0; i < end; ++i) {
-            if (text[i] == u':' && m_slots[slotOf(text.first(i), hash)])
+        const std::u16string_view all = units(text);
+        for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
+            if (m_names.contains(all.substr(0, colon)))
                 return true;
-            hash = mixed(hash, text[i]);
         }
         return false;
     }
 
-    // How many characters of a text beginLowered looks at.
+    // How many characters of a text beginLowered needs to see.
     [[nodiscard]] qsizetype lookedAt() const { return m_longest + 1; }
 
 private:
-    static constexpr quint64 seed = 0xcbf29ce484222325; // FNV-1a over units
-    static quint64 mixed(quint64 hash, QChar c) { return (hash ^ c.unicode()) * 0x100000001b3; }
-
-    // Where `name` is, or the free slot where it belongs.
-    [[nodiscard]] size_t slotOf(QStringView name, quint64 hash) const
+    static std::u16string_view units(QStringView text)
     {
-        size_t slot = (hash ^ hash >> 32) & (m_slots.size() - 1);
-        while (m_slots[slot] &&
-               !std::equal(m_slots[slot]->begin(), m_slots[slot]->end(), name.begin(), name.end()))
-            slot = (slot + 1) & (m_slots.size() - 1);
-        return slot;
+        return {text.utf16(), static_cast<size_t>(text.size())};
     }
 
-    std::vector<std::optional<QStringView>> m_slots;
+    std::unordered_set<std::u16string_view> m_names;
     qsizetype m_longest = -1; // without names not even the first character is looked at
 };
 

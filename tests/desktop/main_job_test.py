@@ -12,6 +12,7 @@ import sys
 import tempfile
 import unittest
 
+from outside import table_job
 from outside.configuration import asked_for, read_rules
 from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge
 from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture
@@ -127,6 +128,23 @@ class MainJob(unittest.TestCase):
         self.assertEqual((wrong, kept), ([], []))
         self.close(program)
         self.assertEqual(self.home.stored_root(), ROOT)
+
+    def test_constructs_a_table_and_propagates_it_after_an_edit(self):
+        study = prepare(self.folder)
+        configuration = table_job.save_configuration(self.home, EXECUTABLE)
+        program = self.start()
+        describe_case(program)
+        program.tick("Construct look-up table")
+        self.assertEqual(program.control("Drop area").description, "construct look-up table")
+        summary, table = table_job.construct(program, study)
+        self.assertEqual(summary, table_job.CONSTRUCTED)
+        self.assertEqual(contents(study.after).keys() - contents(study.before).keys(),
+                         {pathlib.Path(".noxTemp.out")}, "construction changes nothing")
+        self.assertEqual(table_job.rows(table), {"<missing>": "<supply missing value replacement, eg: Unknown>",
+                                                 "STU-0808": "Subject_001", "STU-3391": "Subject_002"})
+        table_job.skip_one(table)
+        self.assertEqual(table_job.propagate(program, study, configuration, table).wrong, [])
+        self.close(program)
 
     def test_a_single_picture_is_refused_and_starts_nothing(self):
         picture = self.folder / "cover.png"

@@ -149,8 +149,7 @@ class Program:
     def wait_for_summary(self, seconds=120):
         """The status text at the end of a run that has been started."""
         def summary():
-            status = self.status
-            return not self.running() and not status.startswith("\nWorking") and status
+            return not self.running() and self.status
         return wait_until(summary, "the summary of the run", seconds)
 
     def log_window_text(self):
