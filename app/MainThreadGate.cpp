@@ -26,7 +26,9 @@ bool MainThreadGate::run(const std::function<void()> &work)
     if (m_closed)
         return false;
     m_queue.push_back(&handover);
+    lock.unlock(); // the main thread, once woken, is not to find it locked
     QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    lock.lock();
     m_changed.wait(lock, [&] { return handover.done || (m_closed && !handover.begun); });
     return handover.done;
 }
@@ -37,6 +39,12 @@ void MainThreadGate::close()
     m_closed = true;
     m_queue.clear();
     m_changed.notify_all();
+}
+
+bool MainThreadGate::isClosed() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_closed;
 }
 
 bool MainThreadGate::event(QEvent *event)
@@ -58,7 +66,9 @@ void MainThreadGate::runQueued()
         handover->work();
         lock.lock();
         handover->done = true;
+        lock.unlock(); // from here on the handover may be gone
         m_changed.notify_all();
+        lock.lock();
     }
 }
 

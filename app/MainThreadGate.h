@@ -36,6 +36,8 @@ public:
 
     // Main thread, once, when the application ends: drops what is queued and wakes all waiters.
     void close();
+    // Any thread.
+    [[nodiscard]] bool isClosed() const;
 
     [[nodiscard]] bool onMainThread() const;
 
@@ -52,7 +54,7 @@ private:
 
     void runQueued();
 
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<Handover *> m_queue; // each lives on its waiter's stack
     bool m_closed = false;

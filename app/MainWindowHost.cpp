@@ -15,6 +15,19 @@ MainWindowHost::MainWindowHost(MainThreadGate &gate, QWidget &window, Ui::MainWi
     : m_gate(gate), m_window(window), m_controls(controls), m_presenter(presenter), m_delays(delays),
       m_showLog(std::move(showLog))
 {
+    followCheckStates();
+}
+
+void MainWindowHost::followCheckStates()
+{
+    for (const CheckBox box : {CheckBox::OverwriteSource, CheckBox::Prepopulate, CheckBox::GenerateSOP,
+                               CheckBox::OnlyGenerateSOP}) {
+        std::atomic<Qt::CheckState> &state = m_checkStates.at(static_cast<size_t>(box));
+        const QCheckBox *const control = widget(box);
+        state = control->checkState();
+        QObject::connect(control, &QCheckBox::stateChanged, &m_window,
+                         [&state](int shown) { state = static_cast<Qt::CheckState>(shown); });
+    }
 }
 
 void MainWindowHost::onMain(const std::function<void()> &work)
@@ -64,7 +77,9 @@ QWidget *MainWindowHost::widget(Control control) const
 
 Qt::CheckState MainWindowHost::checkState(CheckBox box)
 {
-    return fromMain([&] { return widget(box)->checkState(); });
+    if (!m_gate.onMainThread() && m_gate.isClosed())
+        throw WindowClosing();
+    return m_checkStates.at(static_cast<size_t>(box));
 }
 
 QString MainWindowHost::text(TextField field)

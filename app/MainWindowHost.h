@@ -8,6 +8,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <array>
+#include <atomic>
+
 namespace Ui {
 class MainWindow;
 }
@@ -44,6 +47,7 @@ public:
     void closeMainWindow() override;
 
 private:
+    void followCheckStates();
     void onMain(const std::function<void()> &work);
     template <typename Function>
     auto fromMain(Function &&function)
@@ -63,6 +67,9 @@ private:
     AlertPresenter &m_presenter;
     const Delays &m_delays;
     std::function<void(const QString &)> m_showLog;
+    // What the check boxes show, by CheckBox: a run reads them for every folder and is not to wait each time
+    // until the main thread has painted.
+    std::array<std::atomic<Qt::CheckState>, 4> m_checkStates = {};
 };
 
 } // namespace dravolin

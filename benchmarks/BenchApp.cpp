@@ -10,8 +10,6 @@
 #include <QFile>
 #include <QProcess>
 
-#include <atomic>
-
 namespace dravolin::bench {
 
 namespace {
@@ -96,12 +94,19 @@ void BenchApp::placeResources(Tool tool)
             "the resources could not be made");
 }
 
+// The smallest images that scanners make: 128 x 128 pixels of 16 bits.
 void BenchApp::makeImage()
 {
-    const QString file = path(QStringLiteral("image.dcm"));
-    require(QProcess::execute(QStringLiteral("dump2dcm"), {QString::fromUtf8(IMAGE_DUMP), file}) == 0,
-            "dump2dcm could not make an image");
-    m_image = readBytes(file).value();
+    const QString dump = path(QStringLiteral("image.dump"));
+    const std::optional<QString> attributes = readText(QString::fromUtf8(IMAGE_DUMP));
+    require(attributes && writeText(dump, *attributes + QStringLiteral("(7fe0,0010) OW =pixels.raw\n")) &&
+                writeText(path(QStringLiteral("pixels.raw")), QString(128 * 128 * 2, u'x')),
+            "the image could not be described");
+    QProcess tool;
+    tool.setWorkingDirectory(m_folder.path());
+    tool.start(QStringLiteral("dump2dcm"), {dump, QStringLiteral("image.dcm")});
+    require(tool.waitForFinished() && tool.exitCode() == 0, "dump2dcm could not make an image");
+    m_image = readBytes(path(QStringLiteral("image.dcm"))).value();
 }
 
 void BenchApp::start(JobRunner &jobs)

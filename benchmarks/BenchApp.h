@@ -34,7 +34,7 @@ public:
     BenchApp &operator=(const BenchApp &) = delete;
 
     [[nodiscard]] QString path(const QString &relative) const;
-    // A folder of `files` small DICOM files, made once and copied; with the stub tool the files are empty.
+    // A folder of `files` DICOM files of 33 KB, made once and copied; with the stub tool the files are empty.
     QString makeFolder(const QString &relative, int files);
     // A tree of `folders` folders of `files` files in groups of a hundred; gives its top.
     QString makeTree(const QString &name, int folders, int files);
@@ -45,6 +45,8 @@ public:
     int captureScripts(const QString &folder);
     // Runs the captured scripts one after another; gives the seconds.
     [[nodiscard]] double runNatively();
+
+    [[nodiscard]] MainController &controller() { return *m_controller; }
 
 private:
     class CapturingRunner;

@@ -91,7 +91,7 @@ public:
     // before a ":" is looked up, so that the number of names does not matter.
     [[nodiscard]] bool beginLowered(QStringView text) const
     {
-        const std::u16string_view all = units(text);
+        const std::u16string_view all = units(text.first(std::min(text.size(), lookedAt())));
         for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
             if (m_names.contains(all.substr(0, colon)))
                 return true;

@@ -170,7 +170,7 @@ void RunDriverTest::keepsAllFilesInTheFolderOfTheFirst()
     run.makeFolder(str("in/Second"));
     run.makeFolder(str("in/First"));
     const QStringList files = {run.path(str("in/Second/2.dcm")), run.path(str("in/First/1.dcm")),
-                               run.path(str("in/Second/3 3.dcm"))};
+                               run.path(str("in/Third/3 3.dcm"))};
     RunOptions options;
     QCOMPARE(processDroppedItems(run.context, {}, files, options), quint64(0));
     QCOMPARE(run.jobTexts(),
