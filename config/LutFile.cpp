@@ -5,6 +5,9 @@
 
 #include <QStringDecoder>
 
+#include <array>
+#include <charconv>
+
 namespace dravolin {
 
 namespace {
@@ -12,6 +15,7 @@ namespace {
 // so that a table of a million rows is never held as decoded text as a whole
 constexpr qsizetype blockSize = 65536;
 constexpr qsizetype shortValue = 8;
+constexpr qsizetype usualRowSize = 32;
 
 const QString columnSpaces = QStringLiteral("   ");
 const QString missingTemplate = QStringLiteral("<supply missing value replacement, eg: Unknown>");
@@ -114,6 +118,19 @@ void tidyMissingValue(LutTable &table)
     missing.value() = text == missingTemplate.toLower() ? QStringLiteral("Unknown") : text;
 }
 
+void appendRow(QString &text, QStringView value, qsizetype position)
+{
+    std::array<char, 20> digits = {};
+    const auto end = std::to_chars(digits.begin(), digits.end(), position).ptr;
+    text += value;
+    // intended: two tabs from eight characters on, whatever the width of a tab
+    text += value.size() < shortValue ? QLatin1String("\t\t\tSubject_") : QLatin1String("\t\tSubject_");
+    for (qsizetype digit = end - digits.begin(); digit < 3; ++digit)
+        text += u'0';
+    text += QLatin1String(digits.data(), end - digits.begin());
+    text += u'\n';
+}
+
 } // namespace
 
 std::optional<LutTable> parseLut(const QByteArray &bytes)
@@ -150,17 +167,17 @@ std::optional<LutTable> loadLut(const QString &path)
 QString lutText(const QString &tag, const QStringList &values)
 {
     QString text = header.arg(tag, missingValue, missingTemplate);
+    text.reserve(text.size() + values.size() * usualRowSize);
     for (qsizetype i = 0; i < values.size(); ++i)
-        text += lutRow(values.at(i), i + 1);
+        appendRow(text, values.at(i), i + 1);
     return text;
 }
 
 QString lutRow(const QString &value, qsizetype position)
 {
-    // intended: two tabs from eight characters on, whatever the width of a tab
-    const QString tabs = value.size() < shortValue ? QStringLiteral("\t\t\t") : QStringLiteral("\t\t");
-    return value + tabs + QStringLiteral("Subject_") + QString::number(position).rightJustified(3, u'0') +
-           u'\n';
+    QString row;
+    appendRow(row, value, position);
+    return row;
 }
 
 } // namespace dravolin

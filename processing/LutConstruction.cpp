@@ -77,8 +77,8 @@ QStringList sortedByKey(const QSet<QString> &values, MakeKey &&makeKey)
     });
     QStringList sorted;
     sorted.reserve(values.size());
-    for (const Entry &entry : entries)
-        sorted.append(entry.value);
+    for (Entry &entry : entries)
+        sorted.append(std::move(entry.value));
     return sorted;
 }
 
