@@ -19,12 +19,13 @@ struct Pairs
     int jobs = 0;
 };
 
-// Application and native loop in turn, each first every other time, after one round to warm up.
+// Application and native loop in turn, each first every other time, after one round to warm up if there are
+// more.
 Pairs measure(BenchApp &app, const QString &folder, int rounds)
 {
     Pairs pairs;
     pairs.jobs = app.captureScripts(folder);
-    for (int round = 0; round <= rounds; ++round) {
+    for (int round = rounds > 1 ? 0 : 1; round <= rounds; ++round) {
         double run = 0;
         if (round % 2 == 0)
             run = app.run(folder);
