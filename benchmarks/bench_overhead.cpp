@@ -15,7 +15,8 @@ struct Pairs
 {
     std::vector<double> application; // seconds
     std::vector<double> native;
-    std::vector<double> ratios; // of neighbours
+    std::vector<double> ratios;       // of neighbours
+    std::vector<double> ownProcessor; // seconds
     int jobs = 0;
 };
 
@@ -36,6 +37,7 @@ Pairs measure(BenchApp &app, const QString &folder, int rounds)
             continue;
         pairs.application.push_back(run);
         pairs.native.push_back(loop);
+        pairs.ownProcessor.push_back(app.ownProcessorSeconds());
         pairs.ratios.push_back(run / loop);
     }
     return pairs;
@@ -53,6 +55,8 @@ void report(Figures &figures, const char *name, const Pairs &pairs, double limit
     Figures::note("  native loop, median", median(pairs.native), "s");
     Figures::note("  the application's own time a job, median", own * 1000 / pairs.jobs, "ms");
     Figures::note("  the application's own time a job, fastest", ownFastest * 1000 / pairs.jobs, "ms");
+    Figures::note("  the application's own processor time a job",
+                  median(pairs.ownProcessor) * 1000 / pairs.jobs, "ms");
     Figures::note("  ratio of the fastest", fastest(pairs.application) / fastest(pairs.native), "");
     figures.add("  ratio, median of pairs", median(pairs.ratios), limit, "");
 }
