@@ -10,8 +10,8 @@ namespace dravolin {
 // that says why is then up.
 [[nodiscard]] bool bindTable(const RunContext &context, RunOptions &options);
 
-// Replaces selectedLUTdict by the table in the file at `path`; true when it then has at least one entry. A file
-// that cannot be read, is not UTF-8 or empty leaves the table that was there.
+// Replaces selectedLUTdict by the table in the file at `path`; true when it then has at least one entry. A
+// file that cannot be read, is not UTF-8 or empty leaves the table that was there.
 [[nodiscard]] bool loadTable(const RunContext &context, const QString &path);
 
 // Collects the values of the construction's attribute from everything dropped, writes the table file to the

@@ -255,11 +255,12 @@ void parseLog(const RunContext &context)
     QThread::msleep(static_cast<unsigned long>(context.delays.beforeSummary));
     context.host.setStatus(judgement.summary);
     restoreControls(context);
-    context.state.update([](RunState &state) {
+    QSet<QString> collected; // destroyed when the state is no longer locked; it may be large
+    context.state.update([&collected](RunState &state) {
         state.output.clear();
         state.errCount = state.totalFolders = state.folderCount = 0;
         state.AllFoldersNames.clear();
-        state.LUTtagSet.clear();
+        state.LUTtagSet.swap(collected);
     });
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks the direction of includes: check-includes.py [--qt QT_HEADERS] SOURCE_FOLDER
 
-An include may point at the same room or a lower one, and only app/ and tests/ may include Qt Gui or Widgets.
+An include may point at the same room or a lower one, and only app/, tests/ and benchmarks/ may include Qt Gui or Widgets.
 Each line that does otherwise is printed, and the exit status is then 1. QT_HEADERS is the folder that holds
 QtCore/, QtGui/ and QtWidgets/; without it only includes that name the module are recognised. --self-test
 checks the check.
@@ -13,7 +13,7 @@ import sys
 import tempfile
 
 ROOMS = ["identifiers", "config", "run/jobs", "processing", "run", "app"]  # lowest first
-FREE = {"app", "tests"}  # may include Qt Gui and Widgets
+FREE = {"app", "tests", "benchmarks"}  # may include Qt Gui and Widgets
 CHECKED = ["identifiers", "config", "run", "processing", "app", "tests", "benchmarks"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
@@ -84,6 +84,7 @@ def self_test():
         ("app/A.cpp", '#include "ui_MainWindow.h"'),
         ("app/A.cpp", "#include <QWidget>"),
         ("tests/app/A.cpp", "#include <QtWidgets/QWidget>"),
+        ("benchmarks/A.cpp", "#include <QtWidgets/QWidget>"),
         ("config/A.cpp", "#include <QString>"),
         ("config/A.cpp", "#include <QtCore/QString>"),
         ("config/A.cpp", '// #include "app/A.h"'),
@@ -104,7 +105,6 @@ def self_test():
         ("run/A.cpp", "#include <QWidget>", widgets),
         ("run/A.cpp", "#include <qimage.h>", widgets),
         ("run/A.cpp", "#include <QtGui/QImage>", widgets),
-        ("benchmarks/A.cpp", "#include <QtWidgets/QWidget>", widgets),
     ]
     headers = ["QtCore/QString", "QtGui/QImage", "QtGui/qimage.h", "QtGui/QString", "QtWidgets/QWidget"]
     failures = 0
