@@ -2,15 +2,26 @@
 
 #include "ui_LogWindow.h"
 
+#include <QElapsedTimer>
 #include <QScreen>
+#include <QTextCursor>
 
 namespace dravolin {
+
+namespace {
+
+constexpr qint64 turn = 10;              // milliseconds for which the event loop is held up
+constexpr qsizetype sliceLength = 16384; // so many characters cost far less than a turn
+
+} // namespace
 
 LogWindowController::LogWindowController() : m_window(std::make_unique<QWidget>())
 {
     Ui::LogWindow layout;
     layout.setupUi(m_window.get());
     m_logTextView = layout.logTextView;
+    m_nextTurn.setInterval(0);
+    QObject::connect(&m_nextTurn, &QTimer::timeout, m_window.get(), [this] { appendForOneTurn(); });
 }
 
 LogWindowController::~LogWindowController() = default;
@@ -19,7 +30,40 @@ void LogWindowController::showWithText(const QString &text)
 {
     centerOnScreen(*m_window);
     m_window->show();
-    m_logTextView->setPlainText(text);
+    m_logTextView->clear();
+    QTextCursor top = m_logTextView->textCursor();
+    top.setKeepPositionOnInsert(true);
+    m_logTextView->setTextCursor(top);
+    m_text = text;
+    m_shown = 0;
+    appendForOneTurn();
+}
+
+void LogWindowController::appendForOneTurn()
+{
+    QElapsedTimer timer;
+    timer.start();
+    QTextCursor end(m_logTextView->document());
+    while (m_shown < m_text.size() && timer.elapsed() < turn) {
+        end.movePosition(QTextCursor::End);
+        const QString slice = nextSlice();
+        end.insertText(slice);
+        m_shown += slice.size();
+    }
+    if (m_shown < m_text.size())
+        m_nextTurn.start();
+    else
+        m_nextTurn.stop();
+}
+
+QString LogWindowController::nextSlice() const
+{
+    if (m_text.size() - m_shown <= sliceLength)
+        return m_text.sliced(m_shown);
+    qsizetype lineEnd = m_text.lastIndexOf(u'\n', m_shown + sliceLength - 1);
+    if (lineEnd < m_shown) // one long line: it costs more in pieces
+        lineEnd = m_text.indexOf(u'\n', m_shown + sliceLength);
+    return m_text.sliced(m_shown, lineEnd < 0 ? m_text.size() - m_shown : lineEnd + 1 - m_shown);
 }
 
 void centerOnScreen(QWidget &window)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -20,7 +21,8 @@ public:
     LogWindowController(const LogWindowController &) = delete;
     LogWindowController &operator=(const LogWindowController &) = delete;
 
-    // Centres the window on its screen, shows it and replaces its whole text, which is shown as it is.
+    // Centres the window on its screen, shows it and replaces its whole text, which is shown as it is. A text of
+    // many pages comes in piece by piece while the event loop runs, so that the window never stops to react.
     void showWithText(const QString &text);
 
     [[nodiscard]] QPlainTextEdit *logTextView() const { return m_logTextView; }
@@ -28,8 +30,14 @@ public:
     [[nodiscard]] QWidget *window() const { return m_window.get(); }
 
 private:
+    void appendForOneTurn();
+    [[nodiscard]] QString nextSlice() const; // whole lines
+
     std::unique_ptr<QWidget> m_window;
     QPlainTextEdit *m_logTextView = nullptr;
+    QString m_text;
+    qsizetype m_shown = 0; // how much of m_text is in the view
+    QTimer m_nextTurn;
 };
 
 // Moves a window to the middle of its screen.

@@ -77,14 +77,14 @@ QStringList MainController::findDICOMDIRsAtPath(const QString &folder)
 }
 
 quint64 MainController::prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(const QStringList &files,
-                                                                                    const QString &folder,
-                                                                                    const RunOptions &)
+                                                                                     const QString &folder,
+                                                                                     const RunOptions &)
 {
     return collectLutValues(m_context, files, folder); // the options decide nothing here
 }
 
 quint64 MainController::recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
-                                                                                  const RunOptions &options)
+                                                                                   const RunOptions &options)
 {
     return propagateThroughTree(m_context, folder, options);
 }

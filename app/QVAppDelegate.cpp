@@ -9,6 +9,7 @@ namespace dravolin {
 
 void QVAppDelegate::applicationDidFinishLaunching()
 {
+    allowLongArgumentLists();
     const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
     if (m_texts.load(QLocale(), QStringLiteral("dravolin"), QStringLiteral("_"), paths.resourceFolder))
         QCoreApplication::installTranslator(&m_texts);

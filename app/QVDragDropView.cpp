@@ -22,8 +22,10 @@ constexpr qreal highlightWidth = 6.0;
 bool isLocalFile(const QUrl &url)
 {
     const QString host = url.host();
-    return url.isLocalFile() && (host.isEmpty() || host == QStringLiteral("localhost") ||
-                                 host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
+    const bool thisHost = host.isEmpty() || host == QStringLiteral("localhost") ||
+                          host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+    // no file has a NUL in its name
+    return url.isLocalFile() && thisHost && !url.path(QUrl::FullyEncoded).contains(QStringLiteral("%00"));
 }
 
 // QUrl::toLocalFile would replace bytes that are not UTF-8.

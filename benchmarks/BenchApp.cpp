@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <ctime>
+
 namespace dravolin::bench {
 
 namespace {
@@ -20,6 +22,14 @@ void require(bool condition, const char *what)
 {
     if (!condition)
         qFatal("%s", what);
+}
+
+// Of this process without its children.
+double processorSeconds()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
 // Emptied last when a run ends, the status field's tooltip tells that it has.
@@ -146,11 +156,13 @@ QString BenchApp::makeTree(const QString &name, int folders, int files)
 double BenchApp::dropAndWait(const QString &folder)
 {
     EndOfRun end(m_controller->controls().outputTextField);
+    const double processorStart = processorSeconds();
     QElapsedTimer timer;
     timer.start();
     m_controller->handleDroppedPaths({folder});
     end.wait();
     const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    m_ownProcessorSeconds = processorSeconds() - processorStart;
     while (m_controller->runIsUnderWay())
         QCoreApplication::processEvents();
     return seconds;

@@ -41,6 +41,8 @@ public:
 
     // Drops `folder` on the application and runs the event loop until the run has ended; gives the seconds.
     [[nodiscard]] double run(const QString &folder);
+    // The processor time of all threads in the last run, children apart.
+    [[nodiscard]] double ownProcessorSeconds() const { return m_ownProcessorSeconds; }
     // The same without starting anything; the scripts stay in their folders. Gives the number of jobs.
     int captureScripts(const QString &folder);
     // Runs the captured scripts one after another; gives the seconds.
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<MainController> m_controller;
     QByteArray m_image; // a DICOM file
     QStringList m_captured;
+    double m_ownProcessorSeconds = 0;
 };
 
 // Sets HOME and the platform, then makes the application object.

@@ -12,6 +12,9 @@ namespace dravolin {
 // table marker is found first, and the order of the tag list decides the order of a command's arguments.
 using NewValueDict = QMap<QString, QString>;
 
+// The length of a tag, gggg,eeee; nothing else of it is checked anywhere.
+inline constexpr qsizetype tagLength = 9;
+
 // The beginning of a value that names a look-up table.
 inline const QString tableMarkerPrefix = QStringLiteral("<LUT_");
 

@@ -17,6 +17,7 @@ namespace dravolin {
 namespace {
 
 constexpr char16_t escapeBase = 0xDC00;
+constexpr qsizetype largestFile = qsizetype(1) << 30;
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
 bool isEscapedByte(char16_t unit)
@@ -26,7 +27,7 @@ bool isEscapedByte(char16_t unit)
 
 std::filesystem::path nativePath(const QString &path)
 {
-    return toBytes(path).toStdString();
+    return systemPath(path).toStdString();
 }
 
 class FileDescriptor
@@ -50,9 +51,26 @@ private:
     int m_fd;
 };
 
+// Writes and closes.
+bool writeAll(FileDescriptor &file, const QByteArray &bytes)
+{
+    qsizetype written = 0;
+    while (written < bytes.size()) {
+        const ssize_t count =
+            ::write(file.get(), bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return file.close();
+}
+
 void forEachEntry(const QString &folder, const std::function<void(const dirent &)> &visit)
 {
-    const std::unique_ptr<DIR, int (*)(DIR *)> entries(::opendir(toBytes(folder).constData()), &::closedir);
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(::opendir(systemPath(folder).constData()),
+                                                       &::closedir);
     if (!entries)
         return;
     while (const dirent *entry = ::readdir(entries.get())) {
@@ -79,6 +97,12 @@ QByteArray toBytes(const QString &text)
         }
     }
     return bytes + QStringView(text).sliced(start).toUtf8();
+}
+
+QByteArray systemPath(const QString &path)
+{
+    // the system would take the path to end there, and that is somebody else's file
+    return path.contains(QChar::Null) ? QByteArray() : toBytes(path);
 }
 
 QString fromBytes(const QByteArray &bytes)
@@ -171,7 +195,7 @@ bool isFolder(const QString &path)
 std::optional<EntryKind> entryKind(const QString &path, SystemError *error)
 {
     struct stat attributes = {};
-    if (::lstat(toBytes(path).constData(), &attributes) != 0) {
+    if (::lstat(systemPath(path).constData(), &attributes) != 0) {
         if (error)
             *error = {errno, QString::fromStdString(std::generic_category().message(errno))};
         return std::nullopt;
@@ -184,19 +208,22 @@ std::optional<EntryKind> entryKind(const QString &path, SystemError *error)
 bool pathExists(const QString &path)
 {
     struct stat attributes = {};
-    return ::stat(toBytes(path).constData(), &attributes) == 0;
+    return ::stat(systemPath(path).constData(), &attributes) == 0;
 }
 
 std::optional<QByteArray> readBytes(const QString &path)
 {
     // O_NONBLOCK: a pipe of that name must not stop the program
-    FileDescriptor file(::open(toBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    FileDescriptor file(::open(systemPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat attributes = {};
-    if (!file.isOpen() || ::fstat(file.get(), &attributes) != 0 || S_ISDIR(attributes.st_mode))
+    if (!file.isOpen() || ::fstat(file.get(), &attributes) != 0 || !S_ISREG(attributes.st_mode) ||
+        attributes.st_size > largestFile)
         return std::nullopt;
     QByteArray bytes(static_cast<qsizetype>(attributes.st_size) + 1, Qt::Uninitialized);
     qsizetype used = 0;
     for (;;) {
+        if (used > largestFile)
+            return std::nullopt;
         if (used == bytes.size())
             bytes.resize(used + std::max<qsizetype>(4096, used / 2));
         const ssize_t got = ::read(file.get(), bytes.data() + used, static_cast<size_t>(bytes.size() - used));
@@ -218,29 +245,17 @@ std::optional<QString> readText(const QString &path)
     return bytes ? decodeUtf8(*bytes) : std::nullopt;
 }
 
-bool writeText(const QString &path, const QString &text)
+bool writeText(const QString &path, const QString &text, Links links)
 {
-    FileDescriptor file(
-        ::open(toBytes(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666));
-    if (!file.isOpen())
-        return false;
-    const QByteArray bytes = toBytes(text);
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count =
-            ::write(file.get(), bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        written += count;
-    }
-    return file.close();
+    const int linkFlag = links == Links::Refuse ? O_NOFOLLOW : 0;
+    FileDescriptor file(::open(systemPath(path).constData(),
+                               O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | linkFlag, 0666));
+    return file.isOpen() && writeAll(file, toBytes(text));
 }
 
 bool makeExecutable(const QString &path)
 {
-    return ::chmod(toBytes(path).constData(), 0777) == 0;
+    return ::chmod(systemPath(path).constData(), 0777) == 0;
 }
 
 bool createFolder(const QString &path, SystemError *error)
@@ -256,13 +271,21 @@ bool createFolder(const QString &path, SystemError *error)
 
 bool copyFile(const QString &from, const QString &to)
 {
-    std::error_code code;
-    return std::filesystem::copy_file(nativePath(from), nativePath(to), code);
+    const std::optional<QByteArray> bytes = readBytes(from);
+    if (!bytes)
+        return false;
+    FileDescriptor file(::open(systemPath(to).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!file.isOpen())
+        return false;
+    if (writeAll(file, *bytes))
+        return true;
+    removeFile(to); // half a configuration would be found and used
+    return false;
 }
 
 void removeFile(const QString &path)
 {
-    ::unlink(toBytes(path).constData());
+    ::unlink(systemPath(path).constData());
 }
 
 } // namespace dravolin

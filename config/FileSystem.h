@@ -23,6 +23,8 @@ enum class EntryKind { File, Folder, Other };
 
 // The bytes of a path or text; the inverse of fromBytes.
 [[nodiscard]] QByteArray toBytes(const QString &text);
+// The bytes of a path for a system call; none when it holds a NUL, so that every call then fails.
+[[nodiscard]] QByteArray systemPath(const QString &path);
 // A path or name from its bytes.
 [[nodiscard]] QString fromBytes(const QByteArray &bytes);
 // Strict UTF-8: nothing when a single byte is wrong. A byte-order mark is dropped.
@@ -50,19 +52,21 @@ enum class EntryKind { File, Folder, Other };
 // Follows links: a broken link does not exist.
 [[nodiscard]] bool pathExists(const QString &path);
 
-// The whole file; nothing when it cannot be opened or read (a folder, for instance).
+// The whole file; nothing when it cannot be opened or read, is no regular file (a folder, a pipe, a device) or
+// holds more than 1 GiB.
 [[nodiscard]] std::optional<QByteArray> readBytes(const QString &path);
 // readBytes, then decodeUtf8.
 [[nodiscard]] std::optional<QString> readText(const QString &path);
-// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written; a
-// partly written file may stay behind.
-[[nodiscard]] bool writeText(const QString &path, const QString &text);
+enum class Links { Follow, Refuse };
+// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written, or when
+// `path` is a link and links are refused; a partly written file may stay behind.
+[[nodiscard]] bool writeText(const QString &path, const QString &text, Links links = Links::Follow);
 // Sets the permissions to 0777.
 [[nodiscard]] bool makeExecutable(const QString &path);
 // Creates a folder with all missing parents; an existing folder counts as success. `error` (may be null) gets
 // the system's error on failure.
 [[nodiscard]] bool createFolder(const QString &path, SystemError *error = nullptr);
-// Copies a file; false, and nothing changed, when the target exists already.
+// Copies a file; false, and nothing changed, when the target exists already or cannot be written as a whole.
 [[nodiscard]] bool copyFile(const QString &from, const QString &to);
 // Failures, a missing file among them, are ignored.
 void removeFile(const QString &path);

@@ -1,4 +1,4 @@
-#include "BigInt.h"
+#include "identifiers/BigInt.h"
 
 #include "identifiers/BigIntWords.h"
 

@@ -1,4 +1,4 @@
-#include "RandomSource.h"
+#include "identifiers/RandomSource.h"
 
 #include <QRandomGenerator>
 

@@ -8,8 +8,6 @@ namespace dravolin {
 
 namespace {
 
-constexpr qsizetype tagLength = 9; // gggg,eeee; only the length is looked at
-
 QString preparedPrefix(const RunContext &context, const QStringList &tags, const RunOptions &options)
 {
     const AnonymizationChoices choices = {options.createBAKfiles,

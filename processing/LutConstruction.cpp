@@ -13,8 +13,6 @@ namespace dravolin {
 
 namespace {
 
-constexpr qsizetype tagLength = 9; // gggg,eeee; only the length is looked at
-
 QString constructionCommands(const RunContext &context, const QString &tag, const QStringList &files,
                              bool wholeFolder)
 {

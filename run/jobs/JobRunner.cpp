@@ -2,11 +2,13 @@
 
 #include "config/FileSystem.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -53,8 +55,8 @@ private:
 // The child's process id, or nothing when it could not be started. `output` is the pipe's write end or -1.
 std::optional<pid_t> start(const Job &job, int output)
 {
-    const QByteArray executable = toBytes(job.executable);
-    const QByteArray folder = toBytes(job.folder);
+    const QByteArray executable = systemPath(job.executable);
+    const QByteArray folder = systemPath(job.folder);
     const StringVector arguments(QStringList{job.executable} + job.arguments);
     const StringVector environment(job.environment.value_or(QStringList()));
 
@@ -116,6 +118,16 @@ JobResult PosixJobRunner::run(const Job &job)
         result.outcome = JobOutcome::Ran;
     }
     return result;
+}
+
+void allowLongArgumentLists()
+{
+    constexpr rlim_t wanted = 32 * 1024 * 1024;
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_STACK, &limit) != 0 || limit.rlim_cur >= wanted)
+        return;
+    limit.rlim_cur = std::min(limit.rlim_max, wanted);
+    ::setrlimit(RLIMIT_STACK, &limit);
 }
 
 std::mutex &processStartMutex()

@@ -50,6 +50,10 @@ public:
     [[nodiscard]] JobResult run(const Job &job) override;
 };
 
+// Lets the kernel pass longer argument lists to children: it gives them a quarter of the stack limit, up to
+// 6 MiB. A folder whose names do not fit into one command is not worked through. Call once, at start.
+void allowLongArgumentLists();
+
 // Held while a script is open for writing and while a child is created: a child that inherited the open
 // script, if only for a moment, would make the kernel refuse to execute it ("Text file busy").
 [[nodiscard]] std::mutex &processStartMutex();

@@ -10,7 +10,8 @@ namespace {
 bool placeScript(const QString &path, const QString &text)
 {
     const std::lock_guard lock(processStartMutex());
-    return writeText(path, text) && pathExists(path) && makeExecutable(path);
+    // a link of that name is somebody else's, and what it points to must not become a script
+    return writeText(path, text, Links::Refuse) && pathExists(path) && makeExecutable(path);
 }
 
 } // namespace

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void modalAlertGivesTheButton_data();
     void modalAlertGivesTheButton();
     void logShowsTheTextAsGiven();
+    void longLogComesInWhileTheWindowReacts();
 };
 
 AlertSheet threeButtons()
@@ -183,6 +184,24 @@ void AlertsTest::logShowsTheTextAsGiven()
     QCOMPARE(log.logTextView()->toPlainText(), text);
     QVERIFY(log.logTextView()->isReadOnly());
     QCOMPARE(log.logTextView()->accessibleName(), QStringLiteral("Log"));
+}
+
+void AlertsTest::longLogComesInWhileTheWindowReacts()
+{
+    LogWindowController log;
+    QString text;
+    for (int i = 0; i < 20000; ++i)
+        text += QStringLiteral("E: unable to load file IM%1: premature end of stream\n\n").arg(i);
+    text += QString(40000, u'x') + QStringLiteral("\nlast");
+    log.showWithText(text);
+    QVERIFY(log.logTextView()->document()->characterCount() < text.size()); // not all at once
+    QTRY_COMPARE(log.logTextView()->toPlainText(), text);
+    QCOMPARE(log.logTextView()->textCursor().position(), 0); // and the top stays in view
+
+    log.showWithText(text);
+    log.showWithText(QStringLiteral("short"));
+    QTest::qWait(0);
+    QCOMPARE(log.logTextView()->toPlainText(), QStringLiteral("short"));
 }
 
 } // namespace

@@ -166,6 +166,7 @@ void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused_data()
     QTest::addColumn<QByteArray>("list");
     QTest::newRow("web address") << QByteArray("https://dravolin.example/a.dcm\r\n");
     QTest::newRow("behind a file") << QByteArray("file:///data\r\nsmb://host/share\r\n");
+    QTest::newRow("a NUL in the path") << QByteArray("file:///data/x.dcm%00/y.dcm\r\n");
     QTest::newRow("a file of another host") << QByteArray("file://elsewhere.example/data\r\n");
 }
 
