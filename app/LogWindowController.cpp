@@ -20,6 +20,8 @@ LogWindowController::LogWindowController() : m_window(std::make_unique<QWidget>(
     Ui::LogWindow layout;
     layout.setupUi(m_window.get());
     m_logTextView = layout.logTextView;
+    // looking for words in a line without blanks takes the view more than ten times as long
+    m_logTextView->setWordWrapMode(QTextOption::WrapAnywhere);
     m_nextTurn.setInterval(0);
     QObject::connect(&m_nextTurn, &QTimer::timeout, m_window.get(), [this] { appendForOneTurn(); });
 }
