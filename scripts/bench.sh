@@ -20,5 +20,6 @@ export TMPDIR="$memory"
 run bench_overhead stub ${1:-}
 run bench_memory
 run bench_analysis
+run bench_lut
 run bench_bigint
 exit $result
