@@ -88,12 +88,10 @@ void addLine(LutTable &table, QStringView line)
 
 void addLines(LutTable &table, QStringView text)
 {
-    qsizetype start = 0;
-    for (qsizetype i = 0; i <= text.size(); ++i) {
-        if (i < text.size() && !NOXUtils::isNewline(text.at(i)))
-            continue;
-        addLine(table, text.sliced(start, i - start));
-        start = i + 1;
+    for (qsizetype start = 0; start <= text.size();) {
+        const qsizetype end = NOXUtils::indexOfNewline(text, start);
+        addLine(table, text.sliced(start, end - start));
+        start = end + 1;
     }
 }
 
