@@ -2,8 +2,8 @@
 #include "app/MainController.h"
 
 #include "config/DirectoryLocations.h"
-#include "identifiers/SystemLog.h"
-#include "identifiers/Texts.h"
+#include "base/SystemLog.h"
+#include "base/Texts.h"
 #include "run/LutSteps.h"
 #include "ui_MainWindow.h"
 

@@ -1,6 +1,6 @@
 #include "app/MainWindowHost.h"
 
-#include "identifiers/Texts.h"
+#include "base/Texts.h"
 #include "ui_MainWindow.h"
 
 #include <QPropertyAnimation>

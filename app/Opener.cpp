@@ -1,7 +1,7 @@
 #include "app/Opener.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/SystemLog.h"
+#include "base/PathText.h"
+#include "base/SystemLog.h"
 #include "run/jobs/JobRunner.h"
 
 #include <QDBusConnection>

@@ -2,7 +2,7 @@
 
 #include "app/AlertPresenter.h"
 #include "app/MainController.h"
-#include "identifiers/NOXUtils.h"
+#include "identifiers/Uuid.h"
 #include "run/jobs/JobRunner.h"
 
 #include <QTranslator>

@@ -1,7 +1,7 @@
 #include "app/QVDragDropView.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/Texts.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
 
 #include <QDragEnterEvent>
 #include <QPainter>

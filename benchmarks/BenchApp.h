@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/MainController.h"
-#include "identifiers/NOXUtils.h"
+#include "identifiers/Uuid.h"
 #include "run/jobs/JobRunner.h"
 
 #include <QApplication>

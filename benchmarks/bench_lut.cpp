@@ -4,7 +4,7 @@
 #include "Figures.h"
 
 #include "app/MainController.h"
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "config/LutFile.h"
 #include "processing/LutConstruction.h"
 #include "processing/LutPropagation.h"

@@ -1,6 +1,6 @@
 #include "config/AppPaths.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 
 #include <QDir>
 #include <QStandardPaths>

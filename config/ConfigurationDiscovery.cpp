@@ -1,7 +1,7 @@
 #include "config/ConfigurationDiscovery.h"
 
 #include "config/DirectoryLocations.h"
-#include "config/FileSystem.h"
+#include "base/Files.h"
 
 namespace dravolin {
 

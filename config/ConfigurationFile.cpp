@@ -1,7 +1,8 @@
 #include "config/ConfigurationFile.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/NOXUtils.h"
+#include "base/Files.h"
+#include "base/NOXUtils.h"
+#include "base/Lines.h"
 
 #include <algorithm>
 #include <optional>
@@ -55,7 +56,7 @@ void sortWithoutDuplicates(QStringList &tags)
 TagRules parseConfiguration(const QString &text)
 {
     TagRules rules;
-    for (const QStringView line : NOXUtils::lines(text)) {
+    for (const QStringView line : lines(text)) {
         const QStringView trimmed = NOXUtils::trimmed(line);
         if (trimmed.startsWith(u'#'))
             continue;

@@ -1,7 +1,7 @@
 #include "config/DirectoryLocations.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/SystemLog.h"
+#include "base/Files.h"
+#include "base/SystemLog.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,8 @@
 #include "config/LutFile.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/NOXUtils.h"
+#include "base/Files.h"
+#include "base/NOXUtils.h"
+#include "base/Lines.h"
 
 #include <QStringDecoder>
 
@@ -88,11 +89,7 @@ void addLine(LutTable &table, QStringView line)
 
 void addLines(LutTable &table, QStringView text)
 {
-    for (qsizetype start = 0; start <= text.size();) {
-        const qsizetype end = NOXUtils::indexOfNewline(text, start);
-        addLine(table, text.sliced(start, end - start));
-        start = end + 1;
-    }
+    forEachLine(text, [&table](QStringView line) { addLine(table, line); });
 }
 
 // The length of the next block of whole lines; at least one line, however long.

@@ -1,7 +1,8 @@
 #include "identifiers/UidRoot.h"
 
-#include "identifiers/NOXUtils.h"
-#include "identifiers/Texts.h"
+#include "base/NOXUtils.h"
+#include "identifiers/Uuid.h"
+#include "base/Texts.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "processing/FolderAnonymization.h"
 
-#include "identifiers/SystemLog.h"
+#include "base/SystemLog.h"
 #include "run/jobs/Script.h"
 #include "run/jobs/ScriptJob.h"
 
@@ -10,11 +10,12 @@ namespace {
 
 QString preparedPrefix(const RunContext &context, const QStringList &tags, const RunOptions &options)
 {
-    const AnonymizationChoices choices = {options.createBAKfiles,
-                                          context.host.checkState(CheckBox::GenerateSOP),
-                                          context.host.checkState(CheckBox::OnlyGenerateSOP)};
+    const AnonymizationChoices choices = {
+        .createBAKfiles = options.createBAKfiles,
+        .edits = {.generateSOP = context.host.checkState(CheckBox::GenerateSOP),
+                  .onlyGenerateSOP = context.host.checkState(CheckBox::OnlyGenerateSOP)}};
     const AnonymizationCommand command = anonymizationCommand(
-        context.paths.dcmodify(), tags, context.state.get(&RunState::newValueDict), choices);
+        context.paths.dcmodify(), {tags, context.state.get(&RunState::newValueDict)}, choices);
     for (const QString &tag : command.malformedTags)
         logMessage(QStringLiteral("Ignoring malformed tag: %1").arg(tag));
     context.state.add(&RunState::errCount, static_cast<quint64>(command.malformedTags.size()));
@@ -30,29 +31,12 @@ quint64 runAndCollect(const RunContext &context, const QString &folder, const QS
 
 } // namespace
 
-AnonymizationCommand anonymizationCommand(const QString &tool, const QStringList &tags,
-                                          const NewValueDict &newValues, const AnonymizationChoices &choices)
+AnonymizationCommand anonymizationCommand(const QString &tool, const TagRules &rules,
+                                          const AnonymizationChoices &choices)
 {
-    AnonymizationCommand command{quoted(tool) + QStringLiteral(" -ie -imt"), {}};
-    if (!choices.createBAKfiles)
-        command.prefix += QStringLiteral(" -nb");
-    if (choices.generateSOP == Qt::Checked)
-        command.prefix += QStringLiteral(" -gin");
-    if (choices.onlyGenerateSOP != Qt::Unchecked)
-        return command;
-
-    for (const QString &entry : tags) {
-        const QString tag = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(entry);
-        if (tag.size() == tagLength) {
-            // intended: the shell sees quotes, dollars and backquotes of a value as they are
-            const QString value = newValues.value(tag);
-            command.prefix += value.isEmpty() ? QStringLiteral(" -ea \"(%1)\"").arg(tag)
-                                              : QStringLiteral(" -i \"(%1)=%2\"").arg(tag, value);
-        } else if (!tag.isEmpty()) {
-            command.malformedTags.append(tag);
-        }
-    }
-    return command;
+    const Edits wanted = edits(rules, choices.edits);
+    const QString backups = choices.createBAKfiles ? QString() : QStringLiteral(" -nb");
+    return {quoted(tool) + QStringLiteral(" -ie -imt") + backups + shellText(wanted.list), wanted.malformedTags};
 }
 
 quint64 anonymizeFolder(const RunContext &context, const QStringList &tags, const QString &folder,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "processing/Edits.h"
 #include "run/jobs/RunContext.h"
 #include "run/jobs/RunOptions.h"
 
@@ -13,8 +14,7 @@ namespace dravolin {
 struct AnonymizationChoices
 {
     bool createBAKfiles = false;
-    Qt::CheckState generateSOP = Qt::Unchecked;     // new SOP Instance UIDs only when exactly on
-    Qt::CheckState onlyGenerateSOP = Qt::Unchecked; // tags only when exactly off
+    EditChoices edits;
 };
 
 struct AnonymizationCommand
@@ -23,10 +23,9 @@ struct AnonymizationCommand
     QStringList malformedTags; // neither empty nor of nine characters, in list order
 };
 
-// The command's part in front of its files. Tags of nine UTF-16 units with a value that is not empty are
-// inserted (-i), the others erased at every level (-ea). Pure; values and tags are not escaped.
-[[nodiscard]] AnonymizationCommand anonymizationCommand(const QString &tool, const QStringList &tags,
-                                                        const NewValueDict &newValues,
+// The command's part in front of its files: tool, options, and the edits of `rules`. Pure; values and tags are not
+// escaped.
+[[nodiscard]] AnonymizationCommand anonymizationCommand(const QString &tool, const TagRules &rules,
                                                         const AnonymizationChoices &choices);
 
 // Runs the tool over every visible entry of `folder` (a shell glob). 1 when the job could not be started,

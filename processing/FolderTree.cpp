@@ -1,7 +1,8 @@
 #include "processing/FolderTree.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/Texts.h"
+#include "base/Files.h"
+#include "base/Lines.h"
+#include "base/Texts.h"
 #include "processing/FolderAnonymization.h"
 #include "run/jobs/ScriptJob.h"
 
@@ -42,7 +43,7 @@ QStringList findDicomdirs(const RunContext &context, const QString &folder)
         true};
     const QString printed = decodeUtf8(context.jobs.run(find).output).value_or(QString());
     QStringList paths;
-    for (const QStringView line : NOXUtils::lines(printed)) {
+    for (const QStringView line : lines(printed)) {
         if (line.endsWith(QStringLiteral("DICOMDIR")))
             paths.append(line.toString());
     }

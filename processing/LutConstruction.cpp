@@ -1,7 +1,8 @@
 #include "processing/LutConstruction.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/SystemLog.h"
+#include "base/Files.h"
+#include "base/Lines.h"
+#include "base/SystemLog.h"
 #include "run/jobs/ScriptJob.h"
 
 #include <QCollator>
@@ -26,7 +27,7 @@ QString constructionCommands(const RunContext &context, const QString &tag, cons
 void addValues(SharedRunState &shared, const QString &output)
 {
     QSet<QString> found;
-    for (const QStringView line : NOXUtils::lines(output)) {
+    for (const QStringView line : lines(output)) {
         if (!line.isEmpty())
             found.insert(line.toString());
     }

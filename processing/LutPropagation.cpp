@@ -1,8 +1,9 @@
 #include "processing/LutPropagation.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/SystemLog.h"
-#include "identifiers/Texts.h"
+#include "base/Files.h"
+#include "base/SystemLog.h"
+#include "base/Texts.h"
+#include "processing/Edits.h"
 #include "run/jobs/Script.h"
 #include "run/jobs/ScriptJob.h"
 
@@ -142,8 +143,8 @@ QString propagatedValue(const LutTable &table, const QString &value)
 QString propagationCommand(const QString &tool, const QString &tag, const QString &newValue,
                            const QString &name)
 {
-    return quoted(tool) + QStringLiteral(" -ie -nb -m \"(") + tag + QStringLiteral(")=") + newValue +
-           QStringLiteral("\" ") + quoted(name) + QStringLiteral("  >.noxTemp.out 2>&1");
+    return quoted(tool) + QStringLiteral(" -ie -nb") + shellText({{Edit::Kind::Modify, tag, newValue}}) + u' ' +
+           quoted(name) + QStringLiteral("  >.noxTemp.out 2>&1");
 }
 
 QString propagatingText(const RunContext &context)

@@ -1,7 +1,7 @@
 #include "run/DropIntake.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/Texts.h"
+#include "base/Files.h"
+#include "base/Texts.h"
 #include "run/UidRootFields.h"
 
 namespace dravolin {

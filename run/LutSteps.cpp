@@ -1,8 +1,8 @@
 #include "run/LutSteps.h"
 
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 #include "config/LutDiscovery.h"
-#include "identifiers/Texts.h"
+#include "base/Texts.h"
 #include "processing/LutConstruction.h"
 #include "processing/LutPropagation.h"
 

@@ -1,7 +1,8 @@
 #include "run/OutputAnalysis.h"
 
-#include "identifiers/NOXUtils.h"
-#include "identifiers/Texts.h"
+#include "base/NOXUtils.h"
+#include "base/Lines.h"
+#include "base/Texts.h"
 
 #include <QThread>
 
@@ -172,15 +173,6 @@ private:
     QString m_logText;
 };
 
-void judgeLines(QStringView output, LineJudge &judge)
-{
-    for (qsizetype start = 0; start <= output.size();) {
-        const qsizetype end = NOXUtils::indexOfNewline(output, start);
-        judge.judge(NOXUtils::trimmed(output.sliced(start, end - start)));
-        start = end + 1;
-    }
-}
-
 QString logNotes(const RunReport &report)
 {
     QString notes;
@@ -234,7 +226,7 @@ qint64 closingLineCount(QStringView line)
 RunJudgement judgeOutput(const RunReport &report)
 {
     LineJudge lines(report.AllFoldersNames);
-    judgeLines(report.output, lines);
+    forEachLine(report.output, [&lines](QStringView line) { lines.judge(NOXUtils::trimmed(line)); });
 
     RunJudgement judgement{firstSummary(report), lines.logText(), false};
     if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())

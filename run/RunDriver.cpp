@@ -1,7 +1,7 @@
 #include "run/RunDriver.h"
 
-#include "config/FileSystem.h"
-#include "identifiers/Texts.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
 #include "processing/FolderAnonymization.h"
 #include "processing/FolderTree.h"
 #include "run/LutSteps.h"

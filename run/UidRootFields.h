@@ -1,7 +1,7 @@
 #pragma once
 
 #include "run/jobs/RunHost.h"
-#include "identifiers/NOXUtils.h"
+#include "identifiers/Uuid.h"
 
 #include <QString>
 

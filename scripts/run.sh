@@ -31,4 +31,4 @@ if [ $sample = no ]; then
     exec "$program"
 fi
 python=/usr/bin/python3
-exec $python tests/desktop/in_a_box.py $python scripts/sample.py "$program" "$PWD/build/sample"
+exec $python desktop/in_a_box.py $python scripts/sample.py "$program" "$PWD/build/sample"

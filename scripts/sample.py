@@ -5,14 +5,14 @@ and propagates that, and prints what became of them.
     sample.py EXECUTABLE RESULTS
 
 RESULTS gets pictures of the screen and the study before and after. The exit status tells whether everything is as it
-should be. Needs a desktop to run on, see tests/desktop/in_a_box.py.
+should be. Needs a desktop to run on, see desktop/in_a_box.py.
 """
 import pathlib
 import shutil
 import sys
 import tempfile
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "desktop"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "desktop"))
 from outside.elements import read_elements  # noqa: E402
 from outside.main_job import CASE, default_rules, describe_case, prepare, run_and_judge  # noqa: E402
 from outside.program import WINDOW, Home, Program, take_picture  # noqa: E402

@@ -1,6 +1,6 @@
 #include "run/jobs/JobRunner.h"
 
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/AppPaths.h"
-#include "identifiers/NOXUtils.h"
+#include "identifiers/Uuid.h"
 #include "run/jobs/JobRunner.h"
 #include "run/jobs/RunHost.h"
 #include "run/jobs/RunState.h"

@@ -1,6 +1,6 @@
 #include "run/jobs/Script.h"
 
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 
 #include <algorithm>
 

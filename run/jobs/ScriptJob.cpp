@@ -1,6 +1,6 @@
 #include "run/jobs/ScriptJob.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/jobs/Script.h"
 
 namespace dravolin {

@@ -1,6 +1,6 @@
 #include "app/QVDragDropView.h"
 #include "app/TestApp.h"
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 
 #include <QDragEnterEvent>
 #include <QSignalSpy>

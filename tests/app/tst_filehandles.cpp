@@ -1,6 +1,6 @@
 #include "app/AlertSheetRunner.h"
 #include "app/TestApp.h"
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>

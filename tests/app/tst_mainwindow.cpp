@@ -1,5 +1,5 @@
 #include "app/TestApp.h"
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "ui_MainWindow.h"
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "config/LutDiscovery.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/ScratchFolder.h"

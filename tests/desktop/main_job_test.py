@@ -12,12 +12,13 @@ import sys
 import tempfile
 import unittest
 
-from outside import table_job
-from outside.configuration import asked_for, read_rules
-from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge
-from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture
-from outside.verdict import expected_report, problems, wrong_report
-from outside.waiting import wait_until
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "desktop"))
+from outside import table_job  # noqa: E402
+from outside.configuration import asked_for, read_rules  # noqa: E402
+from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge  # noqa: E402
+from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture  # noqa: E402
+from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
+from outside.waiting import wait_until  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
 PICTURES = pathlib.Path()

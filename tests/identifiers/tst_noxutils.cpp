@@ -1,4 +1,6 @@
-#include "identifiers/NOXUtils.h"
+#include "base/NOXUtils.h"
+#include "base/Lines.h"
+#include "identifiers/Uuid.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -214,7 +216,7 @@ void TestNOXUtils::cutsLinesAtEveryNewline()
     QFETCH(const QString, text);
     QFETCH(const QStringList, expected);
     QStringList lines;
-    for (const QStringView line : NOXUtils::lines(text))
+    for (const QStringView line : dravolin::lines(text))
         lines.append(line.toString());
     QCOMPARE(lines, expected);
 }

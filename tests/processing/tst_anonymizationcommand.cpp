@@ -11,7 +11,7 @@ const QString tool = QStringLiteral("/opt/my tools/dcmodify");
 AnonymizationCommand command(const QStringList &tags, const NewValueDict &values = {},
                              const AnonymizationChoices &choices = {})
 {
-    return anonymizationCommand(tool, tags, values, choices);
+    return anonymizationCommand(tool, {tags, values}, choices);
 }
 
 } // namespace
@@ -67,13 +67,13 @@ void TestAnonymizationCommand::choicesDecideTheOptions()
     QFETCH(const int, generate);
     QFETCH(const int, onlyGenerate);
     QFETCH(const QString, options);
-    const AnonymizationChoices choices = {backups, static_cast<Qt::CheckState>(generate),
-                                          static_cast<Qt::CheckState>(onlyGenerate)};
+    const AnonymizationChoices choices = {
+        backups, {static_cast<Qt::CheckState>(generate), static_cast<Qt::CheckState>(onlyGenerate)}};
     const AnonymizationCommand made =
         command({QStringLiteral("0010,0010"), QStringLiteral("malformed tag"), QStringLiteral("0010,0030")},
                 {{QStringLiteral("0010,0010"), QStringLiteral("ANON")}}, choices);
     QCOMPARE(made.prefix, QStringLiteral("\"/opt/my tools/dcmodify\"") + options);
-    QCOMPARE(made.malformedTags, choices.onlyGenerateSOP == Qt::Unchecked
+    QCOMPARE(made.malformedTags, choices.edits.onlyGenerateSOP == Qt::Unchecked
                                      ? QStringList{QStringLiteral("malformed tag")}
                                      : QStringList());
 }

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 #include "processing/FolderTree.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/TestRun.h"

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "processing/FolderAnonymization.h"
 #include "support/TestRun.h"
 

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "processing/FolderTree.h"
 #include "support/TestRun.h"
 

@@ -1,6 +1,6 @@
 #include "PropagationRun.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "processing/LutConstruction.h"
 #include "run/jobs/ScriptJob.h"
 #include "support/TestRun.h"

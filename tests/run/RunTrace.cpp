@@ -1,6 +1,6 @@
 #include "RunTrace.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
 
 #include <QTest>

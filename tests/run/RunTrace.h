@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Files.h"
 #include "run/jobs/RunOptions.h"
 #include "support/TestRun.h"
 

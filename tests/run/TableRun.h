@@ -2,7 +2,7 @@
 
 #include "RunTrace.h"
 
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 
 #include <QHash>
 

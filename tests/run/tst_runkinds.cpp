@@ -1,6 +1,6 @@
 #include "RunTrace.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/OutputAnalysis.h"
 #include "run/RunDriver.h"
 

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/jobs/Script.h"
 #include "run/jobs/ScriptJob.h"
 #include "support/AsOrdinaryUser.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "support/TestRun.h"
 
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "identifiers/SystemLog.h"
+#include "base/SystemLog.h"
 
 #include <QDebug>
 

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/PathText.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "config/FileSystem.h"
+#include "base/Files.h"
 #include "support/ScratchFolder.h"
 
 #include <QTest>

@@ -4,7 +4,7 @@ import shutil
 
 from .elements import tool
 
-SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "data" / "sample"
+SAMPLE = pathlib.Path(__file__).resolve().parents[1] / "sample"
 STUDIES = SAMPLE / "studies"
 DISC = "disc"
 EMPTY_FOLDER = "archive/Knee MR (left)/to be filed"
