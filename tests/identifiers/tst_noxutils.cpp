@@ -1,6 +1,7 @@
 #include "base/NOXUtils.h"
 #include "base/Lines.h"
 #include "identifiers/Uuid.h"
+#include "support/TestEntry.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -239,5 +240,5 @@ void TestNOXUtils::givesThePluralSuffix()
     QCOMPARE(NOXUtils::pluralSuffix(number), expected);
 }
 
-QTEST_GUILESS_MAIN(TestNOXUtils)
+DRAVOLIN_TEST(TestNOXUtils)
 #include "tst_noxutils.moc"
