@@ -12,8 +12,8 @@ class TestEntry
 public:
     using Run = int (*)(int argc, char *argv[]);
 
-    // For variables of namespace scope: entered before main() runs. The name is the file's, without folder and
-    // extension. A name that is taken ends the process.
+    // For variables of namespace scope: entered before main() runs. The name is the file's, without folder
+    // and extension. A name that is taken ends the process.
     TestEntry(const char *file, Run run);
 
     [[nodiscard]] static QStringList names();
