@@ -16,7 +16,7 @@
       --no-directory  DICOMDIR that comes beside the N objects
 
 The folder is made when it is not there. planted.json in it describes every file (path, kind, sop_class,
-modality, transfer_syntax, character_set, undefined_lengths) and in `planted` each value that identifies a person:
+modality, transfer_syntax, character_set, undefined_lengths) and in `planted` each identifying value:
 
     value, bytes        the text; the bytes without padding as hexadecimal digits
     tag, keyword, vr    tags as (0040,0275)[1].(0032,1060), items counted from 0, digits in lower case;
