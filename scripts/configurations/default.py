@@ -1,4 +1,5 @@
 """The sections of the default configuration, in the order of the file."""
+from private import private_sections
 from sections import (Line, Section, dummy_section, emptied_section, in_group, of_kind, repeating_section,
                       table_sections, window_section)
 
@@ -101,37 +102,12 @@ Needed by: the rest of an overlay's attributes, which stay."""
 CURVES = """
 Curves: sixteen groups"""
 
-PRIVATE = """
-Private elements that are known to repeat a patient's or an operator's data
-The creator's block is taken to be the first (10) unless said otherwise; in another block these lines do nothing."""
-
-PRIVATE_BLOCKS = (
-    ("GEMS_RELA_01, GEMS_SERS_01, GEMS_PARM_01. Lost: user defined data of the scanner.",
-     (("0021,1015", "Unnamed"), ("0025,101a", "Primary Receiver Suite and Host"), ("0043,1028", "Unique Image Identifier"),
-      ("0043,102a", "User Defined Data"), ("0043,1061", "Scanner Study Entity UID"),
-      ("0043,1062", "Scanner Study ID"))),
-    ("SIEMENS MR SDS 01. Lost: the measurement protocol.", (("0021,1019", "Phoenix Meta Protocol"),)),
-    ("SIEMENS CSA HEADER and SIEMENS MEDCOM HEADER, in block 10, 11 or 12.\n"
-     "Lost: the scanner's own headers, and with them diffusion directions and b-values, slice timing, mosaic layout.",
-     (("0029,1010", "CSA Image Header Info"), ("0029,1020", "CSA Series Header Info"),
-      ("0029,1110", "The same in block 11"), ("0029,1120", "The same in block 11"),
-      ("0029,1210", "The same in block 12"), ("0029,1220", "The same in block 12"))),
-    ("MITRA LINKED ATTRIBUTES 1.0, MITRA OBJECT UTF8 ATTRIBUTES 1.0. Lost: an archive's copies of names and numbers.",
-     (("0031,1020", "Global Patient ID"), ("0033,1013", "Patient's Name"), ("0033,1019", "Requesting Physician's Name"))),
-    ("ELSCINT1. Lost: an identifier of the object.", (("00e1,1008", "SOP Instance UID"),)),
-)
-
 GROUPS = (
     (PATIENT, in_group("0010")), (TRIAL, in_group("0012")), (PHOTOS, in_group("0016")), (PERSONS, of_kind("PN")),
     (DATES, of_kind("DA", "TM", "DT")), (UIDS, of_kind("UI")), (SPECIMENS, in_group("0040,05", "0040,06")),
     (SEQUENCES, of_kind("SQ")), (RADIOTHERAPY, in_group("300")),
     (REQUEST, in_group("0032", "0038", "0040,0", "0040,1", "0040,2")), (REST, lambda row: True),
 )
-
-
-def private_sections():
-    blocks = [Section(comment, tuple(Line(tag, name) for tag, name in elements)) for comment, elements in PRIVATE_BLOCKS]
-    return [Section(PRIVATE, ()), *blocks]
 
 
 def default_sections(rows):

@@ -45,6 +45,7 @@ FROM_THE_WINDOW = "0010,0010 0010,0020 0020,000d 0008,0050 0032,4000".split()
 class Row:
     tag: str
     name: str
+    keyword: str
     vr: str
     action: str
     in_objects: bool
@@ -62,8 +63,8 @@ def read(path):
 
 def row_of(fields):
     return Row(tag=fields["tag"].strip("()").lower(), name=re.sub(r"\s+\(see .*", "", fields["name"], flags=re.DOTALL),
-               vr=fields["vr"], action=fields["basic_profile"], in_objects=fields["in_std_comp_iod"] == "Y",
-               taken=fields["dcmodify_erase_all"] == "ok",
+               keyword=fields["keyword"], vr=fields["vr"], action=fields["basic_profile"],
+               in_objects=fields["in_std_comp_iod"] == "Y", taken=fields["dcmodify_erase_all"] == "ok",
                options={key: value for key, value in fields.items() if key.startswith("Retain")})
 
 
