@@ -2,7 +2,7 @@
 """Writes the default configuration and the examples that come with the program, derived from the standard's table.
 
     derive.py TABLE PROJECT    writes resources/DefaultAnonymizationConfiguration.txt and resources/examples/, and
-                               tests/configurations/attributes.txt: what the default lists, with its VR
+                               tests/data/listed-attributes.txt: what the default lists, with its VR
     derive.py TABLE            prints the rows of the table that the default does without, and why
 """
 import pathlib
@@ -30,7 +30,7 @@ def attributes_of(sections, rows):
 def write(rows, project):
     sections, resources = default_sections(rows), project / "resources"
     (resources / "DefaultAnonymizationConfiguration.txt").write_text(text_of(sections), encoding="utf-8")
-    (project / "tests/configurations/attributes.txt").write_text(attributes_of(sections, rows), encoding="utf-8")
+    (project / "tests/data/listed-attributes.txt").write_text(attributes_of(sections, rows), encoding="utf-8")
     for name, change in EXAMPLES.items():
         file = resources / "examples" / f"AnonymizationConfiguration_{name}.txt"
         file.write_text(text_of(named(name, change(sections, rows))), encoding="utf-8")

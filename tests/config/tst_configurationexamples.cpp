@@ -112,5 +112,5 @@ void TestConfigurationExamples::examplesAmongTheResourcesAreNotOffered()
     QCOMPARE(findLuts(m_run->paths), TitleToPath());
 }
 
-QTEST_GUILESS_MAIN(TestConfigurationExamples)
+DRAVOLIN_TEST(TestConfigurationExamples)
 #include "tst_configurationexamples.moc"

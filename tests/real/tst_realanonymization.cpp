@@ -1,6 +1,7 @@
 #include "config/ConfigurationFile.h"
 #include "processing/FolderAnonymization.h"
 #include "real/RealRun.h"
+#include "support/TestEntry.h"
 
 #include <QSet>
 #include <QTest>
@@ -278,5 +279,5 @@ void TestRealAnonymization::defaultConfigurationRunsWithoutErrors()
     QCOMPARE(lines("0008,0090"), oneLine(u"(0008,0090) PN (no value available)"));
 }
 
-QTEST_GUILESS_MAIN(TestRealAnonymization)
+DRAVOLIN_TEST(TestRealAnonymization)
 #include "tst_realanonymization.moc"
