@@ -1,6 +1,7 @@
 #include "base/Files.h"
 #include "config/ConfigurationDiscovery.h"
 #include "config/LutDiscovery.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
