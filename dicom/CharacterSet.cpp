@@ -32,7 +32,8 @@ std::optional<QByteArray> converted(const QByteArray &bytes, const QByteArray &f
     DcmSpecificCharacterSet conversion;
     OFString result;
     if (conversion.selectCharacterSet(from.constData(), to.constData()).bad() ||
-        conversion.convertString(bytes.constData(), static_cast<size_t>(bytes.size()), result, delimiters).bad())
+        conversion.convertString(bytes.constData(), static_cast<size_t>(bytes.size()), result, delimiters)
+            .bad())
         return std::nullopt;
     return QByteArray(result.data(), static_cast<qsizetype>(result.size()));
 }

@@ -17,6 +17,7 @@ inline constexpr char utf8CharacterSet[] = "ISO_IR 192";
 
 // UTF-8 for the bytes of a value; `isName` says that components are divided as in a person name. Nothing when
 // they do not fit the character set, or when it is not known.
-[[nodiscard]] std::optional<QByteArray> utf8Text(const QByteArray &value, const QByteArray &characterSet, bool isName);
+[[nodiscard]] std::optional<QByteArray> utf8Text(const QByteArray &value, const QByteArray &characterSet,
+                                                 bool isName);
 
 } // namespace dravolin

@@ -44,8 +44,8 @@ bool inflateInto(z_stream &stream, SourceFile &file, quint64 begin, FileSink &si
             begin += static_cast<quint64>(bytes.size());
             give(stream, bytes);
         }
-        const QByteArrayView part =
-            filled(stream, *block, [](z_stream *all) { return ::inflate(all, Z_NO_FLUSH); }, result);
+        const QByteArrayView part = filled(
+            stream, *block, [](z_stream *all) { return ::inflate(all, Z_NO_FLUSH); }, result);
         if ((result != Z_OK && result != Z_STREAM_END) || !sink.write(part) || sink.size() > mostInflated)
             return false;
     }
@@ -69,7 +69,8 @@ std::unique_ptr<SourceFile> inflated(SourceFile &file, quint64 begin, const QStr
 DeflateSink::DeflateSink(ByteSink &next) : m_next(next)
 {
     constexpr int usualMemory = 8;
-    (void)::deflateInit2(&m_stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, rawDeflate, usualMemory, Z_DEFAULT_STRATEGY);
+    (void)::deflateInit2(&m_stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, rawDeflate, usualMemory,
+                         Z_DEFAULT_STRATEGY);
 }
 
 DeflateSink::~DeflateSink()
@@ -103,8 +104,8 @@ bool DeflateSink::deflateInput(int flush)
     const auto block = std::make_unique<Block>();
     int result = Z_OK;
     do {
-        const QByteArrayView part =
-            filled(m_stream, *block, [flush](z_stream *all) { return ::deflate(all, flush); }, result);
+        const QByteArrayView part = filled(
+            m_stream, *block, [flush](z_stream *all) { return ::deflate(all, flush); }, result);
         m_written += static_cast<quint64>(part.size());
         if (result == Z_STREAM_ERROR || !m_next.write(part))
             return false;

@@ -52,7 +52,9 @@ Vr dictionaryVr(TagNumber tag)
 
 std::optional<TagNumber> tagFromText(const QString &text)
 {
-    const auto isDigit = [](QChar c) { return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f'); };
+    const auto isDigit = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
+    };
     if (text.size() != 9 || text.at(4) != u',' || std::count_if(text.begin(), text.end(), isDigit) != 8)
         return std::nullopt;
     return text.left(4).toUInt(nullptr, 16) << 16 | text.right(4).toUInt(nullptr, 16);
@@ -60,7 +62,9 @@ std::optional<TagNumber> tagFromText(const QString &text)
 
 QString tagText(TagNumber tag)
 {
-    return QStringLiteral("(%1,%2)").arg(groupOf(tag), 4, 16, QLatin1Char('0')).arg(elementOf(tag), 4, 16, QLatin1Char('0'));
+    return QStringLiteral("(%1,%2)")
+        .arg(groupOf(tag), 4, 16, QLatin1Char('0'))
+        .arg(elementOf(tag), 4, 16, QLatin1Char('0'));
 }
 
 bool isText(Vr representation)
@@ -70,8 +74,8 @@ bool isText(Vr representation)
 
 bool hasLongHeader(Vr representation)
 {
-    return !isOneOf(representation, {"AE", "AS", "AT", "CS", "DA", "DS", "DT", "FL", "FD", "IS", "LO", "LT", "PN",
-                                     "SH", "SL", "SS", "ST", "TM", "UI", "UL", "US"});
+    return !isOneOf(representation, {"AE", "AS", "AT", "CS", "DA", "DS", "DT", "FL", "FD", "IS", "LO",
+                                     "LT", "PN", "SH", "SL", "SS", "ST", "TM", "UI", "UL", "US"});
 }
 
 } // namespace dravolin

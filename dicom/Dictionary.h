@@ -21,8 +21,8 @@ using Vr = quint16;
 // False when DCMTK found no dictionary: nothing about implicit VR is known then.
 [[nodiscard]] bool dictionaryIsLoaded();
 
-// The value representation of an attribute: LO for a private creator, UL for a group's length, OW for what may
-// be bytes or words, US for what may have a sign; 0 for an attribute that is not known.
+// The value representation of an attribute: LO for a private creator, UL for a group's length, OW for what
+// may be bytes or words, US for what may have a sign; 0 for an attribute that is not known.
 [[nodiscard]] Vr dictionaryVr(TagNumber tag);
 
 // gggg,eeee in hexadecimal digits of any case; nothing for every other text.

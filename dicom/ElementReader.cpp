@@ -40,8 +40,8 @@ ElementReader::ElementReader(SourceFile &file, quint64 begin, quint64 end, const
 
 ElementReader::Token ElementReader::next()
 {
-    m_depth = static_cast<size_t>(std::count_if(m_open.begin(), m_open.end(),
-                                                [](const Container &open) { return !open.isItem; }));
+    m_depth = static_cast<size_t>(
+        std::count_if(m_open.begin(), m_open.end(), [](const Container &open) { return !open.isItem; }));
     if (!m_open.empty() && m_position == m_open.back().end)
         return close();
     if (m_open.empty() && (m_position == m_end || onlyZerosFollow()))
@@ -185,7 +185,8 @@ ElementReader::Token ElementReader::stepOverValue()
     m_position = m_current.value;
     if (m_current.length == undefinedLength) {
         if (!stepOverFragments())
-            return damaged(Texts::tr("ends in the middle of the fragments of %1").arg(tagText(m_current.tag)));
+            return damaged(
+                Texts::tr("ends in the middle of the fragments of %1").arg(tagText(m_current.tag)));
         m_current.encapsulated = true;
         m_current.length = m_position - m_current.value;
         return Token::Element;

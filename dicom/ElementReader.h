@@ -17,22 +17,23 @@ inline constexpr quint64 undefinedLength = std::numeric_limits<quint64>::max();
 struct Element
 {
     TagNumber tag = 0;
-    Vr written = 0;       // as the file has it, 0 in implicit VR
-    Vr representation = 0; // the one to treat it by: what is written, for UN and in implicit VR the dictionary's
-    Notation notation;    // in which it is written
+    Vr written = 0; // as the file has it, 0 in implicit VR
+    Vr representation =
+        0;             // the one to treat it by: what is written, for UN and in implicit VR the dictionary's
+    Notation notation; // in which it is written
     quint64 start = 0;
     quint64 value = 0;
-    quint64 length = 0;   // undefinedLength for such sequences and items; pixel data up to its last delimiter
-    quint64 lengthField = 0; // where the length stands
+    quint64 length = 0; // undefinedLength for such sequences and items; pixel data up to its last delimiter
+    quint64 lengthField = 0;   // where the length stands
     bool encapsulated = false; // pixel data in fragments
 
     [[nodiscard]] quint64 end() const { return value + length; }
 };
 
 // Walks over the elements of a data set, one token a call. Needs no stack of calls and keeps nothing but the
-// open sequences and items, so that neither the size nor the nesting of an object decides about memory. Values
-// are stepped over unread; pixel data in fragments is one element. What is written as UN is looked into when the
-// dictionary calls it a sequence.
+// open sequences and items, so that neither the size nor the nesting of an object decides about memory.
+// Values are stepped over unread; pixel data in fragments is one element. What is written as UN is looked
+// into when the dictionary calls it a sequence.
 class ElementReader
 {
 public:

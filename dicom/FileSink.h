@@ -5,8 +5,8 @@
 
 namespace dravolin {
 
-// Bytes into a file that is open for writing, with the hash of all of them. Large parts of another file go from
-// file to file in the kernel where the file systems can do that. The descriptor stays the caller's.
+// Bytes into a file that is open for writing, with the hash of all of them. Large parts of another file go
+// from file to file in the kernel where the file systems can do that. The descriptor stays the caller's.
 class FileSink : public ByteSink
 {
 public:

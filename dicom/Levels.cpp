@@ -44,7 +44,8 @@ void Levels::leave()
         return;
     const Element &header = level.header;
     if (header.length != undefinedLength)
-        m_patches.push_back({header.lengthField, 4, header.notation.bytes32(grown(header.length, level.growth))});
+        m_patches.push_back(
+            {header.lengthField, 4, header.notation.bytes32(grown(header.length, level.growth))});
     m_levels.back().growth += level.growth;
     m_levels.back().groupGrowth += level.growth;
 }

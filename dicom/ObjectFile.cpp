@@ -116,7 +116,8 @@ QString couldNotWrite(int error)
     return Texts::tr("cannot be written: %1").arg(QString::fromLocal8Bit(std::strerror(error)));
 }
 
-void writeTarget(const OpenObject &object, const Patches &patches, const QString &target, TreatedFile &treated)
+void writeTarget(const OpenObject &object, const Patches &patches, const QString &target,
+                 TreatedFile &treated)
 {
     const Descriptor output(
         ::open(systemPath(target).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
@@ -151,8 +152,7 @@ ObjectFacts readFacts(const QString &path)
 TreatedFile treatFile(const QString &source, const QString &target, const Treatment &treatment)
 {
     TreatedFile treated;
-    const std::optional<OpenObject> object =
-        openObject(source, parentPath(target), &treated.facts.problem);
+    const std::optional<OpenObject> object = openObject(source, parentPath(target), &treated.facts.problem);
     if (!object)
         return treated;
     treated.facts = factsOf(*object);

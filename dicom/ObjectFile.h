@@ -42,10 +42,10 @@ struct TreatedFile
     QByteArray hashAfter;
 };
 
-// Treats the object in the file `source`, which is only read, and writes the result to `target`, which must not
-// exist. The data set keeps every byte that the treatment does not change, pixel data is neither read nor decoded;
-// what is in front of the data set is written anew. After a problem `target` does not exist. Any thread; memory
-// does not depend on the size of the file.
+// Treats the object in the file `source`, which is only read, and writes the result to `target`, which must
+// not exist. The data set keeps every byte that the treatment does not change, pixel data is neither read nor
+// decoded; what is in front of the data set is written anew. After a problem `target` does not exist. Any
+// thread; memory does not depend on the size of the file.
 [[nodiscard]] TreatedFile treatFile(const QString &source, const QString &target, const Treatment &treatment);
 
 } // namespace dravolin

@@ -34,6 +34,7 @@ public:
 };
 
 // Sends the bytes of `file` from `begin` to `end` with the patches applied.
-[[nodiscard]] bool sendPatched(SourceFile &file, quint64 begin, quint64 end, const Patches &patches, ByteSink &sink);
+[[nodiscard]] bool sendPatched(SourceFile &file, quint64 begin, quint64 end, const Patches &patches,
+                               ByteSink &sink);
 
 } // namespace dravolin

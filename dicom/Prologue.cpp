@@ -100,11 +100,10 @@ std::optional<Prologue> readPrologue(SourceFile &file, QString *problem)
 
 QByteArray prologueBytes(const Prologue &prologue)
 {
-    const QByteArray meta = element(0x0001, "OB", QByteArray("\x00\x01", 2)) +
-                            element(0x0002, "UI", prologue.sopClass) + element(0x0003, "UI", prologue.sopInstance) +
-                            element(0x0010, "UI", prologue.transferSyntax) +
-                            element(0x0012, "UI", implementationClass) +
-                            element(0x0013, "SH", implementationVersion);
+    const QByteArray meta =
+        element(0x0001, "OB", QByteArray("\x00\x01", 2)) + element(0x0002, "UI", prologue.sopClass) +
+        element(0x0003, "UI", prologue.sopInstance) + element(0x0010, "UI", prologue.transferSyntax) +
+        element(0x0012, "UI", implementationClass) + element(0x0013, "SH", implementationVersion);
     return QByteArray(preambleSize, '\0') + "DICM" +
            element(0x0000, "UL", metaNotation.bytes32(static_cast<quint32>(meta.size()))) + meta;
 }

@@ -24,8 +24,8 @@ class Rewriter
 {
 public:
     Rewriter(ElementReader &reader, const Notation &notation, const Treatment &treatment, bool toUtf8)
-        : m_reader(reader), m_notation(notation), m_levels(notation),
-          m_change(treatment, toUtf8), m_toInsert(m_change.insertions())
+        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(treatment, toUtf8),
+          m_toInsert(m_change.insertions())
     {
     }
 
@@ -122,7 +122,8 @@ bool Rewriter::changeElement(const Element &element)
 {
     const quint64 size = element.end() - element.start;
     if (m_levels.isTop() && m_inserted.contains(element.tag)) {
-        m_levels.replace(element.start, size, {}); // elements were out of order: it stands in its place already
+        m_levels.replace(element.start, size,
+                         {}); // elements were out of order: it stands in its place already
         return true;
     }
     const ValueChange::Result change = m_change.apply(m_reader, element, m_levels.surroundings());
@@ -143,7 +144,8 @@ bool Rewriter::insertBefore(TagNumber tag, quint64 offset)
     while (!m_toInsert.isEmpty() && m_toInsert.firstKey() < tag) {
         const TagNumber added = m_toInsert.firstKey();
         const AttributeRule rule = m_toInsert.take(added);
-        const ValueChange::Result change = m_change.inserted(added, rule, m_notation, m_levels.surroundings().characterSet);
+        const ValueChange::Result change =
+            m_change.inserted(added, rule, m_notation, m_levels.surroundings().characterSet);
         if (!change.problem.isEmpty())
             return fail(change.problem);
         m_levels.enterGroup(groupOf(added));

@@ -8,8 +8,8 @@
 
 namespace dravolin {
 
-// SHA-256 of bytes that come piece by piece, by OpenSSL, which uses the processor's own instructions. An object
-// belongs to one thread.
+// SHA-256 of bytes that come piece by piece, by OpenSSL, which uses the processor's own instructions. An
+// object belongs to one thread.
 class Sha256
 {
 public:

@@ -66,8 +66,8 @@ QByteArray SourceFile::readNow(quint64 offset, qsizetype length) const
     QByteArray bytes(length, Qt::Uninitialized);
     qsizetype done = 0;
     while (done < length) {
-        const ssize_t got = ::pread(m_descriptor.get(), bytes.data() + done, static_cast<size_t>(length - done),
-                                    static_cast<off_t>(offset) + done);
+        const ssize_t got = ::pread(m_descriptor.get(), bytes.data() + done,
+                                    static_cast<size_t>(length - done), static_cast<off_t>(offset) + done);
         if (got < 0 && errno == EINTR)
             continue;
         if (got <= 0)

@@ -35,7 +35,10 @@ public:
     // base/PathText.h. Null on failure; `problem` then gets a text for people.
     [[nodiscard]] static std::unique_ptr<SourceFile> open(const QString &path, QString *problem);
     // Bytes that were put into a file without a name.
-    explicit SourceFile(Descriptor descriptor, quint64 size) : m_descriptor(std::move(descriptor)), m_size(size) {}
+    explicit SourceFile(Descriptor descriptor, quint64 size)
+        : m_descriptor(std::move(descriptor)), m_size(size)
+    {
+    }
 
     [[nodiscard]] int descriptor() const { return m_descriptor.get(); }
     // The size when the file was opened.

@@ -3,15 +3,24 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-// How elements are written down in a transfer syntax (DICOM PS3.5, 7 and 10, annex A). Pure functions, callable
-// from any thread; none of them fails.
+// How elements are written down in a transfer syntax (DICOM PS3.5, 7 and 10, annex A). Pure functions,
+// callable from any thread; none of them fails.
 namespace dravolin {
 
 using TagNumber = quint32; // group and element, such as 0x00100010
 
-[[nodiscard]] constexpr quint16 groupOf(TagNumber tag) { return static_cast<quint16>(tag >> 16); }
-[[nodiscard]] constexpr quint16 elementOf(TagNumber tag) { return static_cast<quint16>(tag & 0xffff); }
-[[nodiscard]] constexpr bool isPrivate(TagNumber tag) { return (groupOf(tag) & 1) != 0; }
+[[nodiscard]] constexpr quint16 groupOf(TagNumber tag)
+{
+    return static_cast<quint16>(tag >> 16);
+}
+[[nodiscard]] constexpr quint16 elementOf(TagNumber tag)
+{
+    return static_cast<quint16>(tag & 0xffff);
+}
+[[nodiscard]] constexpr bool isPrivate(TagNumber tag)
+{
+    return (groupOf(tag) & 1) != 0;
+}
 
 struct Notation
 {

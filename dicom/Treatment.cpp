@@ -13,8 +13,8 @@ namespace {
 constexpr std::array<TagNumber, 17> classesAndSyntaxes = {
     0x00020002, 0x00020010, 0x00020012, // of the file
     0x00041510, 0x00041512, 0x0004151a, // of a directory's records
-    0x00080016, 0x0008001a, 0x0008001b, 0x00080062, 0x00081150, 0x0008115a, 0x00083002,
-    0x0008010c, 0x00080117, 0x00080118, // coding schemes, context groups, mapping resources
+    0x00080016, 0x0008001a, 0x0008001b, 0x00080062, 0x00081150, 0x0008115a,
+    0x00083002, 0x0008010c, 0x00080117, 0x00080118, // coding schemes, context groups, mapping resources
     0x04000010,
 };
 

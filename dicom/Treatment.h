@@ -33,7 +33,8 @@ using AttributeRules = QMap<TagNumber, AttributeRule>;
 struct Treatment
 {
     AttributeRules rules;
-    LutTable table; // for Kind::FromTable: <missing> is what an unknown value becomes, <skip> leaves one as it is
+    LutTable
+        table; // for Kind::FromTable: <missing> is what an unknown value becomes, <skip> leaves one as it is
     bool removePrivate = true;
     QSet<QString> keptPrivate; // as privateName() writes them
     // The new UID for an old one; none: UIDs stay. Asked for every value of VR UI that names an instance of

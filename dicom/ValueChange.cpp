@@ -99,7 +99,8 @@ bool ValueChange::erasesPrivate(TagNumber tag, const Surroundings &around) const
     if (elementOf(tag) > 0xff)
         return !kept.contains(privateName(groupOf(tag), creator, static_cast<quint8>(elementOf(tag) & 0xff)));
     const QString block = privateName(groupOf(tag), creator, 0).chopped(2);
-    return std::none_of(kept.begin(), kept.end(), [&](const QString &name) { return name.startsWith(block); });
+    return std::none_of(kept.begin(), kept.end(),
+                        [&](const QString &name) { return name.startsWith(block); });
 }
 
 ValueChange::Result ValueChange::newValue(const Element &element, const QString &text,
@@ -126,7 +127,8 @@ ValueChange::Result ValueChange::fromTable(ElementReader &reader, const Element 
     if (element.length > longestValue)
         return problem(Texts::tr("%1 is too long to be looked up").arg(tagText(element.tag)));
     const QByteArray bytes = withoutPadding(reader.value());
-    const std::optional<QByteArray> text = utf8Text(bytes, characterSet, element.representation == vr('P', 'N'));
+    const std::optional<QByteArray> text =
+        utf8Text(bytes, characterSet, element.representation == vr('P', 'N'));
     const QString old = text ? QString::fromUtf8(*text) : QString();
     const QString found = m_treatment.table.value(old);
     const QString chosen = found.isEmpty() ? m_treatment.table.value(missingValue) : found;
@@ -157,7 +159,8 @@ ValueChange::Result ValueChange::movedText(ElementReader &reader, const Element 
     if (element.length > longestValue)
         return problem(Texts::tr("%1 is too long to be moved to UTF-8").arg(tagText(element.tag)));
     const QByteArray bytes = reader.value();
-    const std::optional<QByteArray> text = utf8Text(bytes, characterSet, element.representation == vr('P', 'N'));
+    const std::optional<QByteArray> text =
+        utf8Text(bytes, characterSet, element.representation == vr('P', 'N'));
     if (!text)
         return problem(Texts::tr("%1 holds text that cannot be moved to UTF-8").arg(tagText(element.tag)));
     return *text == bytes ? Result() : value(element, *text);

@@ -16,7 +16,7 @@ class ValueChange
 public:
     struct Result
     {
-        QString problem;                 // why the object cannot be treated; "" when it can
+        QString problem; // why the object cannot be treated; "" when it can
         bool erase = false;
         std::optional<QByteArray> value; // the new value; none: the element stays as it is or goes
         Vr representation = 0;           // to write the new value in
@@ -39,8 +39,10 @@ public:
     [[nodiscard]] bool needsUtf8() const { return m_needsUtf8; }
 
 private:
-    [[nodiscard]] Result newValue(const Element &element, const QString &text, const QByteArray &characterSet);
-    [[nodiscard]] Result fromTable(ElementReader &reader, const Element &element, const QByteArray &characterSet);
+    [[nodiscard]] Result newValue(const Element &element, const QString &text,
+                                  const QByteArray &characterSet);
+    [[nodiscard]] Result fromTable(ElementReader &reader, const Element &element,
+                                   const QByteArray &characterSet);
     [[nodiscard]] Result mappedUids(ElementReader &reader, const Element &element) const;
     [[nodiscard]] Result movedText(ElementReader &reader, const Element &element,
                                    const QByteArray &characterSet) const;

@@ -48,13 +48,15 @@ QByteArray printedBy(const QString &program, const QStringList &arguments)
     process.waitForFinished(-1);
     const QByteArray printed = process.readAll();
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        QTest::qFail(qPrintable(program + QStringLiteral(": ") + QString::fromUtf8(printed)), __FILE__, __LINE__);
+        QTest::qFail(qPrintable(program + QStringLiteral(": ") + QString::fromUtf8(printed)), __FILE__,
+                     __LINE__);
     return printed;
 }
 
 QByteArray hashOfFile(const QString &path)
 {
-    return QCryptographicHash::hash(readBytes(path).value_or(QByteArray()), QCryptographicHash::Sha256).toHex();
+    return QCryptographicHash::hash(readBytes(path).value_or(QByteArray()), QCryptographicHash::Sha256)
+        .toHex();
 }
 
 AttributeRules rulesOf(const QString &configuration, bool withTable)
