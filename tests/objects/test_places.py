@@ -8,8 +8,8 @@ from support import SetTests, split
 
 PLACES = {"data set", "private bytes", "file meta", "preamble", "trailing bytes", "file name", "folder name"}
 CLASSES = {"person", "identifier", "date", "place", "contact", "device", "institution", "free text", "UID"}
-VRS = {"AE", "CS", "DA", "DS", "DT", "FD", "FL", "IS", "LO", "LT", "OB", "OD", "OF", "OL", "OW", "PN", "SH", "SL",
-       "SS", "ST", "SV", "TM", "UC", "UI", "UL", "UR", "US", "UT", "UV"}
+VRS = {"AE", "CS", "DA", "DS", "DT", "FD", "FL", "IS", "LO", "LT", "OB", "OD", "OF", "OL", "OW", "PN", "SH",
+       "SL", "SS", "ST", "SV", "TM", "UC", "UI", "UL", "UR", "US", "UT", "UV"}
 
 
 class PlacesTest(SetTests, unittest.TestCase):
@@ -24,8 +24,9 @@ class PlacesTest(SetTests, unittest.TestCase):
     def test_each_row_has_a_name_of_its_own_and_at_most_one_value(self):
         names = [file["row"] for file in self.results().values()]
         self.assertEqual(len(names), len(set(names)))
-        self.assertEqual([path for path, file in self.results().items()
-                          if len(file["planted"]) != (0 if file["row"].startswith("nothing planted") else 1)], [])
+        for path, file in self.results().items():
+            expected = 0 if file["row"].startswith("nothing planted") else 1
+            self.assertEqual(len(file["planted"]), expected, path)
 
     def test_every_place_vr_and_class_has_a_row(self):
         plants = self.plants().values()
