@@ -152,7 +152,7 @@ void MainController::toolbarTextClicked()
 
 void MainController::showConfigInFinder()
 {
-    m_opener.openUrl(applicationSupportPath(m_paths));
+    m_opener.openUrl(configurationFolderWithExamples(m_paths));
 }
 
 } // namespace dravolin

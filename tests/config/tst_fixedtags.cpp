@@ -1,4 +1,5 @@
 #include "config/ConfigurationFile.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -113,5 +114,5 @@ void TestFixedTags::findsTheFirstTableMarker()
     QCOMPARE(indexOfFirstTableMarker(parseConfiguration(text).newValueDict), index);
 }
 
-QTEST_GUILESS_MAIN(TestFixedTags)
+DRAVOLIN_TEST(TestFixedTags)
 #include "tst_fixedtags.moc"

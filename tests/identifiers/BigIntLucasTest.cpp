@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -178,5 +179,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntLucasTest)
+DRAVOLIN_TEST(BigIntLucasTest)
 #include "BigIntLucasTest.moc"

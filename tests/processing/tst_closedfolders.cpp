@@ -1,6 +1,7 @@
 #include "base/PathText.h"
 #include "processing/FolderTree.h"
 #include "support/AsOrdinaryUser.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -84,5 +85,5 @@ void TestClosedFolders::whatIsNoFolderIsWalkedAsAnEmptyOne()
     QCOMPARE(m_run->host.calls, QStringList{QStringLiteral("setStatus: \nWorking... 1/1 folders")});
 }
 
-QTEST_GUILESS_MAIN(TestClosedFolders)
+DRAVOLIN_TEST(TestClosedFolders)
 #include "tst_closedfolders.moc"

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "processing/FolderTree.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -248,5 +249,5 @@ void TestFolderTree::tellsTheProgress()
     QCOMPARE(workingText(m_run->context), QStringLiteral("\nWorking... 1234567/98765432 folders"));
 }
 
-QTEST_GUILESS_MAIN(TestFolderTree)
+DRAVOLIN_TEST(TestFolderTree)
 #include "tst_foldertree.moc"

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "run/DropIntake.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -149,5 +150,5 @@ void DropIntakeTest::startsNoRunInAWindowThatWasClosed()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::DropIntakeTest)
+DRAVOLIN_TEST(dravolin::test::DropIntakeTest)
 #include "tst_dropintake.moc"

@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "run/OutputAnalysis.h"
 
@@ -132,5 +133,5 @@ void ParseLogTest::theSummaryWaitsHalfASecond()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::ParseLogTest)
+DRAVOLIN_TEST(dravolin::test::ParseLogTest)
 #include "tst_parselog.moc"

@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/OutputAnalysis.h"
@@ -260,5 +261,5 @@ void RunKindsTest::looksUpItsTexts()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::RunKindsTest)
+DRAVOLIN_TEST(dravolin::test::RunKindsTest)
 #include "tst_runkinds.moc"

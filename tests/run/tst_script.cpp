@@ -1,5 +1,6 @@
 #include "run/jobs/RunState.h"
 #include "run/jobs/Script.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -213,5 +214,5 @@ void TestScript::longPrefixMakesLongLines()
     QCOMPARE(commandLines(prefix, files, appendingRedirections(), 100), expected);
 }
 
-QTEST_GUILESS_MAIN(TestScript)
+DRAVOLIN_TEST(TestScript)
 #include "tst_script.moc"
