@@ -167,7 +167,7 @@ void compareText(const char *toName, const char *fromName, qint32 bits, int radi
     constexpr double limit = 10;
     const Operand x(bits);
     std::array<char, 2300> buffer{};
-    mpz_get_str(buffer.data(), radix, x.gmp);
+    mpz_get_str(buffer.data(), -radix, x.gmp); // capitals, as BigInt writes them
     const QString text = QString::fromLatin1(buffer.data());
     const std::array<char, 2300> digits = buffer;
     Scratch result;

@@ -7,6 +7,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace dravolin {
@@ -84,11 +85,14 @@ void multiplyAndAdd(BigInt &value, quint32 factor, quint32 summand)
 }
 
 // radix^digits, which fits.
-[[nodiscard]] BigInt placeValue(qint32 radix, qsizetype digits)
+[[nodiscard]] BigInt placeValue(qint32 radix, quint32 digits)
 {
     BigInt value = BigInt::createFromInt(1);
-    for (qsizetype i = 0; i < digits; ++i)
-        multiplyAndAdd(value, static_cast<quint32>(radix), 0);
+    for (auto bit = std::bit_width(digits); bit > 0; --bit) {
+        value = value.multiply(value);
+        if ((digits >> (bit - 1) & 1U) != 0)
+            multiplyAndAdd(value, static_cast<quint32>(radix), 0);
+    }
     return value;
 }
 
@@ -122,7 +126,8 @@ BigInt BigIntConversion::initWithStringAndRadix(const QString &text, qint32 radi
     if (isNegative)
         result = result.negate();
     if (fitting < digits.size())
-        addDigitsInFront(result, digits.chopped(fitting), placeValue(radix, fitting), radix, isNegative);
+        addDigitsInFront(result, digits.chopped(fitting), placeValue(radix, static_cast<quint32>(fitting)),
+                         radix, isNegative);
     if (isNegative && !result.isNegative())
         words::raiseArithmetic("Negative underflow in constructor.");
     // add() has raised before this can happen.
