@@ -93,11 +93,11 @@ void addFixedTags(TagRules &rules, const CaseTexts &texts, const QString &studyI
     sortWithoutDuplicates(rules.allTagsToAnonymize);
 }
 
-qsizetype indexOfFirstTableMarker(const NewValueDict &values)
+std::optional<QString> firstTagWithTableMarker(const NewValueDict &values)
 {
     const auto found = std::find_if(values.cbegin(), values.cend(),
                                     [](const QString &value) { return value.startsWith(tableMarkerPrefix); });
-    return found == values.cend() ? -1 : std::distance(values.cbegin(), found);
+    return found == values.cend() ? std::nullopt : std::optional(found.key());
 }
 
 } // namespace dravolin

@@ -4,8 +4,6 @@
 #include "base/Lines.h"
 #include "base/Texts.h"
 
-#include <QThread>
-
 #include <algorithm>
 #include <limits>
 #include <string_view>
@@ -189,28 +187,6 @@ QString logNotes(const RunReport &report)
            report.DICOMDIRpaths.join(u'\n') + QStringLiteral("\n\n");
 }
 
-RunReport reportOf(const RunContext &context)
-{
-    const bool constructing = context.host.checkState(CheckBox::Prepopulate) == Qt::Checked;
-    return context.state.update([constructing](const RunState &state) {
-        return RunReport{state.output,          state.errCount,           constructing,
-                         state.usingLUT,        state.numLUTadaptedFiles, state.numLUTskippedFiles,
-                         state.AllFoldersNames, state.DICOMDIRpaths};
-    });
-}
-
-void restoreControls(const RunContext &context)
-{
-    RunHost &host = context.host;
-    host.setEnabled(Control::OverwriteSource, true);
-    host.setEnabled(Control::SelectLUT, !context.state.get(&RunState::allLUTsPaths).isEmpty());
-    for (const Control control :
-         {Control::Prepopulate, Control::SelectConfig, Control::GenerateSOP, Control::OnlyGenerateSOP})
-        host.setEnabled(control, true);
-    host.setSpinning(false);
-    host.setStatusToolTip(QString());
-}
-
 } // namespace
 
 qint64 closingLineCount(QStringView line)
@@ -228,7 +204,10 @@ RunJudgement judgeOutput(const RunReport &report)
     LineJudge lines(report.AllFoldersNames);
     forEachLine(report.output, [&lines](QStringView line) { lines.judge(NOXUtils::trimmed(line)); });
 
-    RunJudgement judgement{firstSummary(report), lines.logText(), false};
+    RunJudgement judgement;
+    judgement.summary = firstSummary(report);
+    judgement.logText = lines.logText();
+    judgement.refused = report.errCount != 0;
     if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())
         return judgement;
     judgement.wantsLogWindow = true;
@@ -237,23 +216,6 @@ RunJudgement judgeOutput(const RunReport &report)
                             : counted(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
     judgement.logText += logNotes(report);
     return judgement;
-}
-
-void parseLog(const RunContext &context)
-{
-    const RunJudgement judgement = judgeOutput(reportOf(context));
-    if (judgement.wantsLogWindow)
-        context.host.scheduleLogWindow(judgement.logText);
-    QThread::msleep(static_cast<unsigned long>(context.delays.beforeSummary));
-    context.host.setStatus(judgement.summary);
-    restoreControls(context);
-    QSet<QString> collected; // destroyed when the state is no longer locked; it may be large
-    context.state.update([&collected](RunState &state) {
-        state.output.clear();
-        state.errCount = state.totalFolders = state.folderCount = 0;
-        state.AllFoldersNames.clear();
-        state.LUTtagSet.swap(collected);
-    });
 }
 
 } // namespace dravolin

@@ -212,9 +212,9 @@ void MainWindowTest::fitsTheRunningHeight()
 void MainWindowTest::configurationsAreScannedAfterTheWindowIsUp()
 {
     m_app->controller.reset();
-    m_app->run.delays.beforeConfigurationScan = 1;
+    m_app->delays.beforeConfigurationScan = 1;
     m_app->controller = std::make_unique<MainController>(
-        AppPorts{m_app->run.paths, m_app->run.jobs, m_app->run.uuids, m_app->presenter, m_app->run.delays});
+        AppPorts{m_app->run.paths, m_app->run.jobs, m_app->run.uuids, m_app->presenter, m_app->delays});
     m_app->controller->initAndShow();
     QComboBox *const popup = m_app->controller->controls().selectConfigPopupButton;
     QCOMPARE(popup->count(), 0);
