@@ -13,5 +13,8 @@ elseif(DRAVOLIN_SANITIZE STREQUAL "thread")
 elseif(DRAVOLIN_SANITIZE)
     message(FATAL_ERROR "DRAVOLIN_SANITIZE is address, thread or empty, not '${DRAVOLIN_SANITIZE}'")
 endif()
+if(DRAVOLIN_SANITIZE)
+    list(APPEND sanitizers -g1) # lines are all that their reports show
+endif()
 target_compile_options(dravolin_warnings INTERFACE ${sanitizers})
 target_link_options(dravolin_warnings INTERFACE ${sanitizers})

@@ -1,6 +1,7 @@
 #include "app/AlertPresenter.h"
 #include "app/AlertSheetRunner.h"
 #include "app/LogWindowController.h"
+#include "support/TestEntry.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -133,7 +134,7 @@ void endForeignAlert()
 void AlertsTest::aForeignAlertIsAnAssertion()
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--end-foreign-alert")});
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("end_foreign_alert")});
     QVERIFY(child.waitForFinished());
     QCOMPARE(child.exitCode(), 3);
     QCOMPARE(child.readAllStandardError().split('\n').last(), // the platform may warn at start
@@ -204,17 +205,13 @@ void AlertsTest::longLogComesInWhileTheWindowReacts()
     QCOMPARE(log.logTextView()->toPlainText(), QStringLiteral("short"));
 }
 
+// The process that the test starts.
+const test::TestEntry foreignAlert("end_foreign_alert", [](int, char *[]) {
+    endForeignAlert();
+    return 0;
+});
+
 } // namespace
 
-int main(int argc, char *argv[])
-{
-    QApplication application(argc, argv);
-    if (application.arguments().contains(QStringLiteral("--end-foreign-alert"))) {
-        endForeignAlert();
-        return 0;
-    }
-    AlertsTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+DRAVOLIN_TEST(AlertsTest)
 #include "tst_alerts.moc"

@@ -1,6 +1,7 @@
 #include "app/QVDragDropView.h"
 #include "app/TestApp.h"
 #include "base/PathText.h"
+#include "support/TestEntry.h"
 
 #include <QDragEnterEvent>
 #include <QSignalSpy>
@@ -234,5 +235,5 @@ void DragDropViewTest::imageFollowsTheState()
 
 } // namespace
 
-QTEST_MAIN(DragDropViewTest)
+DRAVOLIN_TEST(DragDropViewTest)
 #include "tst_dragdropview.moc"

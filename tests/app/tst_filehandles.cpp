@@ -1,6 +1,7 @@
 #include "app/AlertSheetRunner.h"
 #include "app/TestApp.h"
 #include "base/Files.h"
+#include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -158,5 +159,5 @@ void TestFileHandles::tellsTheUserAndClosesTheWindow()
     QCOMPARE(controller.state().get(&RunState::numLUTadaptedFiles), 1U);
 }
 
-QTEST_MAIN(TestFileHandles)
+DRAVOLIN_TEST(TestFileHandles)
 #include "tst_filehandles.moc"

@@ -1,6 +1,7 @@
 #include "app/TestApp.h"
 #include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
+#include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
 #include <QTest>
@@ -245,5 +246,5 @@ void TestLutWindow::operationsForwardToTheCore()
     QCOMPARE(m_app->run.jobs.jobs.size(), 4);
 }
 
-QTEST_MAIN(TestLutWindow)
+DRAVOLIN_TEST(TestLutWindow)
 #include "tst_lutwindow.moc"

@@ -1,5 +1,6 @@
 #include "app/TestApp.h"
 #include "base/Files.h"
+#include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
 #include <QSemaphore>
@@ -366,5 +367,5 @@ void MainControllerTest::operationsForwardToTheCore()
 
 } // namespace
 
-QTEST_MAIN(MainControllerTest)
+DRAVOLIN_TEST(MainControllerTest)
 #include "tst_maincontroller.moc"

@@ -1,4 +1,5 @@
 #include "app/MainThreadGate.h"
+#include "support/TestEntry.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -107,5 +108,5 @@ void MainThreadGateTest::manyThreadsInterleave()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(MainThreadGateTest)
+DRAVOLIN_TEST(MainThreadGateTest)
 #include "tst_mainthreadgate.moc"

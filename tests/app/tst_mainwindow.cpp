@@ -1,5 +1,6 @@
 #include "app/TestApp.h"
 #include "base/Files.h"
+#include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
 #include <QLabel>
@@ -559,5 +560,5 @@ void MainWindowTest::configurationFolderIsOpened()
 
 } // namespace
 
-QTEST_MAIN(MainWindowTest)
+DRAVOLIN_TEST(MainWindowTest)
 #include "tst_mainwindow.moc"

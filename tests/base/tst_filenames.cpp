@@ -1,4 +1,5 @@
 #include "base/PathText.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -211,5 +212,5 @@ void TestFileNames::takesPathsApart()
     QCOMPARE(dravolin::withoutExtension(lastPathComponent(path)), withoutExtension);
 }
 
-QTEST_GUILESS_MAIN(TestFileNames)
+DRAVOLIN_TEST(TestFileNames)
 #include "tst_filenames.moc"

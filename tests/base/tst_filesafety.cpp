@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -102,5 +103,5 @@ void FileSafetyTest::aDeviceIsNotRead()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(FileSafetyTest)
+DRAVOLIN_TEST(FileSafetyTest)
 #include "tst_filesafety.moc"

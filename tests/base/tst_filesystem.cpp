@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -225,5 +226,5 @@ void TestFileSystem::readsTextOnlyWhenAllOfItIsUtf8()
     QCOMPARE(read("good line\n\xE2\x82"), std::optional<QString>());
 }
 
-QTEST_GUILESS_MAIN(TestFileSystem)
+DRAVOLIN_TEST(TestFileSystem)
 #include "tst_filesystem.moc"

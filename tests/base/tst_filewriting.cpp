@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -157,5 +158,5 @@ void TestFileWriting::removesFilesAndIgnoresFailures()
     QVERIFY(isFolder(path(QStringLiteral("folder"))));
 }
 
-QTEST_GUILESS_MAIN(TestFileWriting)
+DRAVOLIN_TEST(TestFileWriting)
 #include "tst_filewriting.moc"

@@ -1,5 +1,6 @@
 #include "config/AppPaths.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -82,5 +83,5 @@ void TestAppPaths::executableIsCalledDravolin()
     QCOMPARE(executableName(), QStringLiteral("Dravolin"));
 }
 
-QTEST_GUILESS_MAIN(TestAppPaths)
+DRAVOLIN_TEST(TestAppPaths)
 #include "tst_apppaths.moc"

@@ -1,5 +1,6 @@
 #include "config/ConfigurationDiscovery.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -275,5 +276,5 @@ void TestConfigurationDiscovery::copyThatFailsChangesNothing()
     QCOMPARE(listNames(desktop), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestConfigurationDiscovery)
+DRAVOLIN_TEST(TestConfigurationDiscovery)
 #include "tst_configurationdiscovery.moc"

@@ -1,5 +1,6 @@
 #include "config/ConfigurationFile.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -241,5 +242,5 @@ void TestConfigurationFile::loadsAnEmptyFileAsOneEmptyLine()
              QStringList{QString()});
 }
 
-QTEST_GUILESS_MAIN(TestConfigurationFile)
+DRAVOLIN_TEST(TestConfigurationFile)
 #include "tst_configurationfile.moc"

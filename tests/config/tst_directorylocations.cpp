@@ -1,5 +1,6 @@
 #include "config/DirectoryLocations.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -171,5 +172,5 @@ void TestDirectoryLocations::pathOfTheSupportFolderCreatesNothing()
     QCOMPARE(applicationSupportPath(AppPaths()), QString());
 }
 
-QTEST_GUILESS_MAIN(TestDirectoryLocations)
+DRAVOLIN_TEST(TestDirectoryLocations)
 #include "tst_directorylocations.moc"

@@ -1,4 +1,5 @@
 #include "config/ConfigurationFile.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -114,5 +115,5 @@ void TestFixedTags::findsTheFirstTableMarker()
     QVERIFY(firstTagWithTableMarker(parseConfiguration(text).newValueDict) == expected);
 }
 
-QTEST_GUILESS_MAIN(TestFixedTags)
+DRAVOLIN_TEST(TestFixedTags)
 #include "tst_fixedtags.moc"

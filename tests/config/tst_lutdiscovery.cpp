@@ -2,6 +2,7 @@
 #include "config/LutDiscovery.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -168,5 +169,5 @@ void TestLutDiscovery::supportFolderIsMade()
     QVERIFY(isFolder(run.path(QStringLiteral("home/share/Dravolin"))));
 }
 
-QTEST_GUILESS_MAIN(TestLutDiscovery)
+DRAVOLIN_TEST(TestLutDiscovery)
 #include "tst_lutdiscovery.moc"

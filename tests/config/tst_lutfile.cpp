@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "config/LutFile.h"
+#include "support/TestEntry.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -233,5 +234,5 @@ void TestLutFile::marksInsideStayCharacters()
         QVERIFY(key == QStringLiteral("0") || key.startsWith(mark));
 }
 
-QTEST_GUILESS_MAIN(TestLutFile)
+DRAVOLIN_TEST(TestLutFile)
 #include "tst_lutfile.moc"

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "config/LutFile.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -119,5 +120,5 @@ void TestLutWriting::theShippedExampleIsATable()
                        "PAT-00417=Subject_004|PHANTOM=<skip>"));
 }
 
-QTEST_GUILESS_MAIN(TestLutWriting)
+DRAVOLIN_TEST(TestLutWriting)
 #include "tst_lutwriting.moc"

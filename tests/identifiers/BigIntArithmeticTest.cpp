@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -211,5 +212,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntArithmeticTest)
+DRAVOLIN_TEST(BigIntArithmeticTest)
 #include "BigIntArithmeticTest.moc"

@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -147,5 +148,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntConstructionTest)
+DRAVOLIN_TEST(BigIntConstructionTest)
 #include "BigIntConstructionTest.moc"

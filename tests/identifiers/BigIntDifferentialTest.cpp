@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -228,5 +229,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntDifferentialTest)
+DRAVOLIN_TEST(BigIntDifferentialTest)
 #include "BigIntDifferentialTest.moc"

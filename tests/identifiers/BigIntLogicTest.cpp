@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -203,5 +204,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntLogicTest)
+DRAVOLIN_TEST(BigIntLogicTest)
 #include "BigIntLogicTest.moc"

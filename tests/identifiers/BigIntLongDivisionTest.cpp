@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -192,5 +193,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntLongDivisionTest)
+DRAVOLIN_TEST(BigIntLongDivisionTest)
 #include "BigIntLongDivisionTest.moc"

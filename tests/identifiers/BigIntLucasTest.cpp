@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -176,5 +177,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntLucasTest)
+DRAVOLIN_TEST(BigIntLucasTest)
 #include "BigIntLucasTest.moc"

@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -225,5 +226,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntModularTest)
+DRAVOLIN_TEST(BigIntModularTest)
 #include "BigIntModularTest.moc"

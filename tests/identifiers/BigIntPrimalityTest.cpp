@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include "identifiers/SmallPrimes.h"
 
@@ -224,5 +225,5 @@ private:
     };
 };
 
-QTEST_APPLESS_MAIN(BigIntPrimalityTest)
+DRAVOLIN_TEST(BigIntPrimalityTest)
 #include "BigIntPrimalityTest.moc"

@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -93,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BigIntRandomTest)
+DRAVOLIN_TEST(BigIntRandomTest)
 #include "BigIntRandomTest.moc"

@@ -1,4 +1,5 @@
 #include "BigIntSupport.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -176,5 +177,5 @@ private Q_SLOTS:
     void writesTheLongestText() { QCOMPARE(mostPositive().toStringWithRadix(2), QString(2239, u'1')); }
 };
 
-QTEST_APPLESS_MAIN(BigIntTextTest)
+DRAVOLIN_TEST(BigIntTextTest)
 #include "BigIntTextTest.moc"

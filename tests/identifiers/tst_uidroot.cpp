@@ -1,4 +1,5 @@
 #include "identifiers/UidRoot.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -209,5 +210,5 @@ void TestUidRoot::composesStudyInstanceUids()
     QCOMPARE(studyInstanceUid(QStringLiteral("1.2.3"), caseId), expected);
 }
 
-QTEST_GUILESS_MAIN(TestUidRoot)
+DRAVOLIN_TEST(TestUidRoot)
 #include "tst_uidroot.moc"

@@ -1,4 +1,5 @@
 #include "processing/FolderAnonymization.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -182,5 +183,5 @@ void TestAnonymizationCommand::orderIsThatOfTheList()
     QCOMPARE(made.malformedTags, QStringList({QStringLiteral("z"), QStringLiteral("a")}));
 }
 
-QTEST_GUILESS_MAIN(TestAnonymizationCommand)
+DRAVOLIN_TEST(TestAnonymizationCommand)
 #include "tst_anonymizationcommand.moc"

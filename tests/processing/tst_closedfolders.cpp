@@ -1,6 +1,7 @@
 #include "base/PathText.h"
 #include "processing/FolderTree.h"
 #include "support/AsOrdinaryUser.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -83,5 +84,5 @@ void TestClosedFolders::whatIsNoFolderIsWalkedAsAnEmptyOne()
     QCOMPARE(m_run->host.calls, QStringList{QStringLiteral("anonymized 1/1 folders")});
 }
 
-QTEST_GUILESS_MAIN(TestClosedFolders)
+DRAVOLIN_TEST(TestClosedFolders)
 #include "tst_closedfolders.moc"

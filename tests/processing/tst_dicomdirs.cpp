@@ -1,5 +1,6 @@
 #include "base/PathText.h"
 #include "processing/FolderTree.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -124,5 +125,5 @@ void TestDicomdirs::findsThemInFoldersWithOddNames()
     QCOMPARE(reallyFind(m_run->path(fromBytes(name))), QStringList{QStringLiteral("./DICOMDIR")});
 }
 
-QTEST_GUILESS_MAIN(TestDicomdirs)
+DRAVOLIN_TEST(TestDicomdirs)
 #include "tst_dicomdirs.moc"

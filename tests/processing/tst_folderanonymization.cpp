@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "processing/FolderAnonymization.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -268,5 +269,5 @@ void TestFolderAnonymization::jobThatCannotStartIsOneError()
     QCOMPARE(m_run->host.calls, QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestFolderAnonymization)
+DRAVOLIN_TEST(TestFolderAnonymization)
 #include "tst_folderanonymization.moc"

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "processing/FolderTree.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -251,5 +252,5 @@ void TestFolderTree::tellsTheProgress()
                                              QStringLiteral("propagated 1234567/98765432 folders")}));
 }
 
-QTEST_GUILESS_MAIN(TestFolderTree)
+DRAVOLIN_TEST(TestFolderTree)
 #include "tst_foldertree.moc"

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "processing/LutConstruction.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -211,5 +212,5 @@ void TestLutConstruction::anyNineCharactersAreATag()
                                           "'{print $2}' >.noxTemp.out"));
 }
 
-QTEST_GUILESS_MAIN(TestLutConstruction)
+DRAVOLIN_TEST(TestLutConstruction)
 #include "tst_lutconstruction.moc"

@@ -1,4 +1,5 @@
 #include "PropagationRun.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
@@ -187,5 +188,5 @@ void TestLutPropagation::keepsAskingWithoutATag()
                           QStringLiteral("-s"), QStringLiteral("--search"), QString(), QStringLiteral("a")}));
 }
 
-QTEST_GUILESS_MAIN(TestLutPropagation)
+DRAVOLIN_TEST(TestLutPropagation)
 #include "tst_lutpropagation.moc"

@@ -3,6 +3,7 @@
 #include "processing/LutConstruction.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -262,5 +263,5 @@ void TestLutTable::fullDiskIsOnlyLogged()
                          QStringLiteral("/AnonymizationLUT_ID.txt")});
 }
 
-QTEST_GUILESS_MAIN(TestLutTable)
+DRAVOLIN_TEST(TestLutTable)
 #include "tst_luttable.moc"

@@ -1,6 +1,7 @@
 #include "base/Files.h"
 #include "processing/LutConstruction.h"
 #include "run/jobs/ScriptJob.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -155,5 +156,5 @@ void TestLutValues::printed(const QByteArray &text)
     };
 }
 
-QTEST_GUILESS_MAIN(TestLutValues)
+DRAVOLIN_TEST(TestLutValues)
 #include "tst_lutvalues.moc"

@@ -1,4 +1,5 @@
 #include "processing/LutPropagation.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -108,5 +109,5 @@ void TestPropagationCommand::composesTheCommand()
              command);
 }
 
-QTEST_GUILESS_MAIN(TestPropagationCommand)
+DRAVOLIN_TEST(TestPropagationCommand)
 #include "tst_propagationcommand.moc"

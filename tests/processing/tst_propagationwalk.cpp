@@ -1,4 +1,5 @@
 #include "PropagationRun.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/jobs/ScriptJob.h"
@@ -246,5 +247,5 @@ void TestPropagationWalk::namesThatAreNotUtf8AreProcessed()
     QCOMPARE(m_run->adapted(), 1U);
 }
 
-QTEST_GUILESS_MAIN(TestPropagationWalk)
+DRAVOLIN_TEST(TestPropagationWalk)
 #include "tst_propagationwalk.moc"

@@ -1,6 +1,7 @@
 #include "config/ConfigurationFile.h"
 #include "processing/FolderAnonymization.h"
 #include "real/RealRun.h"
+#include "support/TestEntry.h"
 
 #include <QSet>
 #include <QTest>
@@ -259,5 +260,5 @@ void TestRealAnonymization::defaultConfigurationRunsWithoutErrors()
         QCOMPARE(lines(erased), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestRealAnonymization)
+DRAVOLIN_TEST(TestRealAnonymization)
 #include "tst_realanonymization.moc"

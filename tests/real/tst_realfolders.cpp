@@ -1,6 +1,7 @@
 #include "processing/FolderAnonymization.h"
 #include "processing/FolderTree.h"
 #include "real/RealRun.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -283,5 +284,5 @@ void TestRealFolders::findsTheDictionaryInAFolderWithBlanks()
     QCOMPARE(m_run->lines(m_image, "0010,2160"), QStringList{QStringLiteral("(0010,2160) SH [x]")});
 }
 
-QTEST_GUILESS_MAIN(TestRealFolders)
+DRAVOLIN_TEST(TestRealFolders)
 #include "tst_realfolders.moc"

@@ -1,4 +1,5 @@
 #include "real/RealLutTest.h"
+#include "support/TestEntry.h"
 
 #include "processing/LutConstruction.h"
 
@@ -85,5 +86,5 @@ void TestRealLutConstruction::constructionWithoutSuchValuesWritesTheExplanation(
     QCOMPARE(table(), lutText(tag, {}));
 }
 
-QTEST_GUILESS_MAIN(TestRealLutConstruction)
+DRAVOLIN_TEST(TestRealLutConstruction)
 #include "tst_reallutconstruction.moc"

@@ -1,4 +1,5 @@
 #include "real/RealLutTest.h"
+#include "support/TestEntry.h"
 
 #include "run/RunDriver.h"
 
@@ -182,5 +183,5 @@ void TestRealLutPropagation::missingToolsChangeNothing()
     QCOMPARE(readBytes(file), before);
 }
 
-QTEST_GUILESS_MAIN(TestRealLutPropagation)
+DRAVOLIN_TEST(TestRealLutPropagation)
 #include "tst_reallutpropagation.moc"

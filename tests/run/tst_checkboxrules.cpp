@@ -1,4 +1,5 @@
 #include "run/CheckBoxRules.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -62,5 +63,5 @@ void CheckBoxRulesTest::eachActionChangesJustTheControlsOfItsRule()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::CheckBoxRulesTest)
+DRAVOLIN_TEST(dravolin::test::CheckBoxRulesTest)
 #include "tst_checkboxrules.moc"

@@ -1,4 +1,5 @@
 #include "TableRun.h"
+#include "support/TestEntry.h"
 
 #include "run/RunDriver.h"
 
@@ -102,5 +103,5 @@ void ConstructionRunsTest::constructionIsNamedAfter()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::ConstructionRunsTest)
+DRAVOLIN_TEST(dravolin::test::ConstructionRunsTest)
 #include "tst_constructionruns.moc"

@@ -1,6 +1,7 @@
 #include "base/Files.h"
 #include "run/DropIntake.h"
 #include "run/RunDriver.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -120,5 +121,5 @@ void DropIntakeTest::tellsWhichKindOfRunBegins()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::DropIntakeTest)
+DRAVOLIN_TEST(dravolin::test::DropIntakeTest)
 #include "tst_dropintake.moc"

@@ -1,4 +1,5 @@
 #include "run/DropIntake.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -242,5 +243,5 @@ void DropQuestionsTest::anEmptyDropIsARunWithItsQuestions()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::DropQuestionsTest)
+DRAVOLIN_TEST(dravolin::test::DropQuestionsTest)
 #include "tst_dropquestions.moc"

@@ -1,5 +1,6 @@
 #include "run/jobs/JobRunner.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -238,5 +239,5 @@ void TestJobRunner::leavesNoProcessAndNoDescriptorBehind()
     QCOMPARE(errno, ECHILD);
 }
 
-QTEST_GUILESS_MAIN(TestJobRunner)
+DRAVOLIN_TEST(TestJobRunner)
 #include "tst_jobrunner.moc"

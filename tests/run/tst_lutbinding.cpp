@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "base/PathText.h"
 #include "run/LutSteps.h"
@@ -254,5 +255,5 @@ void LutBindingTest::otherFilesReplaceTheTable()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::LutBindingTest)
+DRAVOLIN_TEST(dravolin::test::LutBindingTest)
 #include "tst_lutbinding.moc"

@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/LutSteps.h"
@@ -262,5 +263,5 @@ void LutStepsTest::propagationOfNothing()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::LutStepsTest)
+DRAVOLIN_TEST(dravolin::test::LutStepsTest)
 #include "tst_lutsteps.moc"

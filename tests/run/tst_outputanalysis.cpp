@@ -1,4 +1,5 @@
 #include "run/OutputAnalysis.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -293,5 +294,5 @@ void OutputAnalysisTest::sumsClosingLines()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::OutputAnalysisTest)
+DRAVOLIN_TEST(dravolin::test::OutputAnalysisTest)
 #include "tst_outputanalysis.moc"

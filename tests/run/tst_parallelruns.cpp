@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "run/RunDriver.h"
 
@@ -108,5 +109,5 @@ void ParallelRunsTest::freelyInterleavedRunsDoAllTheirJobs()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::ParallelRunsTest)
+DRAVOLIN_TEST(dravolin::test::ParallelRunsTest)
 #include "tst_parallelruns.moc"

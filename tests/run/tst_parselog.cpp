@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "run/RunDriver.h"
 
@@ -133,5 +134,5 @@ Done, with 1 error."));
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::ParseLogTest)
+DRAVOLIN_TEST(dravolin::test::ParseLogTest)
 #include "tst_parselog.moc"

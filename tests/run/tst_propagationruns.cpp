@@ -1,4 +1,5 @@
 #include "TableRun.h"
+#include "support/TestEntry.h"
 
 #include "run/RunDriver.h"
 
@@ -225,5 +226,5 @@ void PropagationRunsTest::theLogHoldsTheCounts()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::PropagationRunsTest)
+DRAVOLIN_TEST(dravolin::test::PropagationRunsTest)
 #include "tst_propagationruns.moc"

@@ -1,4 +1,5 @@
 #include "run/OutputAnalysis.h"
+#include "support/TestEntry.h"
 
 #include <QFile>
 #include <QTest>
@@ -168,5 +169,5 @@ void RecordedOutputTest::notesStandBehindTheErrors()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::RecordedOutputTest)
+DRAVOLIN_TEST(dravolin::test::RecordedOutputTest)
 #include "tst_recordedoutput.moc"

@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "run/Configuration.h"
 #include "run/RunDriver.h"
@@ -209,5 +210,5 @@ void RunDriverTest::anEmptyDropRunsToItsEnd()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::RunDriverTest)
+DRAVOLIN_TEST(dravolin::test::RunDriverTest)
 #include "tst_rundriver.moc"

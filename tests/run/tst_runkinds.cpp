@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/RunDriver.h"
@@ -221,5 +222,5 @@ void RunKindsTest::looksUpItsTexts()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::RunKindsTest)
+DRAVOLIN_TEST(dravolin::test::RunKindsTest)
 #include "tst_runkinds.moc"

@@ -1,4 +1,5 @@
 #include "RunTrace.h"
+#include "support/TestEntry.h"
 
 #include "base/Files.h"
 #include "run/RunDriver.h"
@@ -111,5 +112,5 @@ void RunSessionTest::keepsTheSkippedFilesOfEarlierRuns()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::RunSessionTest)
+DRAVOLIN_TEST(dravolin::test::RunSessionTest)
 #include "tst_runsession.moc"

@@ -1,4 +1,5 @@
 #include "run/jobs/RunState.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -83,5 +84,5 @@ void TestRunState::twoThreadsLoseNothing()
     QCOMPARE(state.get(&RunState::output).size(), 2 * times);
 }
 
-QTEST_GUILESS_MAIN(TestRunState)
+DRAVOLIN_TEST(TestRunState)
 #include "tst_runstate.moc"

@@ -1,4 +1,5 @@
 #include "processing/FolderAnonymization.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -213,5 +214,5 @@ void TestScript::longPrefixMakesLongLines()
     QCOMPARE(commandLines(prefix, files, anonymizationRedirections(), 100), expected);
 }
 
-QTEST_GUILESS_MAIN(TestScript)
+DRAVOLIN_TEST(TestScript)
 #include "tst_script.moc"

@@ -1,6 +1,7 @@
 #include "run/jobs/Script.h"
 #include "run/jobs/ScriptJob.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -262,5 +263,5 @@ void TestScriptJob::keepsFolderNamesThatTheShellInterpretsFromRunning()
     QCOMPARE(listNames(folder), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestScriptJob)
+DRAVOLIN_TEST(TestScriptJob)
 #include "tst_scriptjob.moc"

@@ -3,6 +3,7 @@
 #include "run/jobs/ScriptJob.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -140,5 +141,5 @@ void TestScriptJobFailures::leavesTheFileBesideTheFolderWhenNothingRan()
     QVERIFY(pathExists(beside));
 }
 
-QTEST_GUILESS_MAIN(TestScriptJobFailures)
+DRAVOLIN_TEST(TestScriptJobFailures)
 #include "tst_scriptjobfailures.moc"

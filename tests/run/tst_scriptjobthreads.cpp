@@ -1,5 +1,6 @@
 #include "run/jobs/ScriptJob.h"
 #include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -96,5 +97,5 @@ void TestScriptJobThreads::scriptIsNeverBusyWhileOtherChildrenStart()
     QCOMPARE(good, times);
 }
 
-QTEST_GUILESS_MAIN(TestScriptJobThreads)
+DRAVOLIN_TEST(TestScriptJobThreads)
 #include "tst_scriptjobthreads.moc"

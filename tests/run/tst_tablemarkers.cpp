@@ -1,4 +1,5 @@
 #include "run/Configuration.h"
+#include "support/TestEntry.h"
 
 #include <QTest>
 
@@ -193,5 +194,5 @@ void TableMarkersTest::keepsTheNameForTheSession()
 
 } // namespace dravolin::test
 
-QTEST_GUILESS_MAIN(dravolin::test::TableMarkersTest)
+DRAVOLIN_TEST(dravolin::test::TableMarkersTest)
 #include "tst_tablemarkers.moc"

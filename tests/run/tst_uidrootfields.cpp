@@ -1,4 +1,5 @@
 #include "run/UidRootFields.h"
+#include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
@@ -211,5 +212,5 @@ void TestUidRootFields::everyCompositionWithoutAValidRootIsFresh()
     QCOMPARE(composeStudyInstanceUid(m_host, m_host.fields, m_uuids), QStringLiteral("2.25."));
 }
 
-QTEST_GUILESS_MAIN(TestUidRootFields)
+DRAVOLIN_TEST(TestUidRootFields)
 #include "tst_uidrootfields.moc"

@@ -1,9 +1,6 @@
 #include "base/NOXUtils.h"
-#include "base/Lines.h"
-#include "identifiers/Uuid.h"
+#include "support/TestEntry.h"
 
-#include <QRegularExpression>
-#include <QSet>
 #include <QTest>
 
 using namespace dravolin;
@@ -21,14 +18,8 @@ private Q_SLOTS:
     void reverses();
     void keepsTheHalvesOfASurrogatePairSwapped();
     void leavesItsArgumentsAsTheyAre();
-    void makesRandomUuidsOf36UpperCaseCharacters();
-    void makesANewUuidAtEachCall();
-    void writesUuidsInDecimal_data();
-    void writesUuidsInDecimal();
     void dropsLeadingZeros_data();
     void dropsLeadingZeros();
-    void cutsLinesAtEveryNewline_data();
-    void cutsLinesAtEveryNewline();
     void givesThePluralSuffix_data();
     void givesThePluralSuffix();
 };
@@ -123,50 +114,6 @@ void TestNOXUtils::leavesItsArgumentsAsTheyAre()
     QCOMPARE(text.constData(), before);
 }
 
-void TestNOXUtils::makesRandomUuidsOf36UpperCaseCharacters()
-{
-    NOXUtils::RandomUuidSource source;
-    static const QRegularExpression form(
-        QStringLiteral("\\A[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}\\z"));
-    for (int i = 0; i < 100; ++i) {
-        const QString uuid = source.uniqueString();
-        QVERIFY2(form.match(uuid).hasMatch(), qPrintable(uuid));
-    }
-}
-
-void TestNOXUtils::makesANewUuidAtEachCall()
-{
-    NOXUtils::RandomUuidSource source;
-    QSet<QString> seen;
-    for (int i = 0; i < 1000; ++i)
-        seen.insert(source.uniqueString());
-    QCOMPARE(seen.size(), 1000);
-}
-
-void TestNOXUtils::writesUuidsInDecimal_data()
-{
-    QTest::addColumn<QString>("uuid");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *uuid, const char *expected) {
-        QTest::newRow(uuid) << QString::fromLatin1(uuid) << QString::fromLatin1(expected);
-    };
-    row("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF", "340282366920938463463374607431768211455");
-    row("ffffffff-ffff-ffff-ffff-ffffffffffff", "340282366920938463463374607431768211455");
-    row("00000000-0000-0000-0000-000000000001", "1");
-    row("00000000-0000-0000-0000-000000000000", "0");
-    row("00000000-0000-0000-0001-000000000000", "281474976710656");
-    row("80000000-0000-0000-0000-000000000000", "170141183460469231731687303715884105728");
-    row("F81D4FAE-7DEC-11D0-A765-00A0C91E6BF6", "329800735698586629295641978511506172918");
-    row("01234567-89AB-4DEF-8123-456789ABCDEF", "1512366075203566475363147076673981935");
-}
-
-void TestNOXUtils::writesUuidsInDecimal()
-{
-    QFETCH(const QString, uuid);
-    QFETCH(const QString, expected);
-    QCOMPARE(NOXUtils::decimalRepresentationOfUUID(uuid), expected);
-}
-
 void TestNOXUtils::dropsLeadingZeros_data()
 {
     QTest::addColumn<QString>("text");
@@ -184,41 +131,6 @@ void TestNOXUtils::dropsLeadingZeros()
     QFETCH(const QString, text);
     QFETCH(const QString, expected);
     QCOMPARE(NOXUtils::withoutLeadingZeros(text), expected);
-}
-
-void TestNOXUtils::cutsLinesAtEveryNewline_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("expected");
-    const auto row = [](const char *name, const char16_t *text, const char *lines) {
-        QTest::newRow(name) << QString::fromUtf16(text) << QString::fromLatin1(lines).split(u'|');
-    };
-    row("empty", u"", "");
-    row("no newline", u"a", "a");
-    row("LF", u"a\nb", "a|b");
-    row("CR", u"a\rb", "a|b");
-    row("CR LF makes an empty line", u"a\r\nb", "a||b");
-    row("VT", u"a\vb", "a|b");
-    row("FF", u"a\fb", "a|b");
-    row("next line", u"a\u0085b", "a|b");
-    row("line separator", u"a\u2028b", "a|b");
-    row("paragraph separator", u"a\u2029b", "a|b");
-    row("newline at the end", u"a\n", "a|");
-    row("newline in front", u"\na", "|a");
-    row("tab and blank are none", u"a\tb c", "a\tb c");
-    row("unit separator is none", u"a\u001Fb",
-        "a\x1F"
-        "b");
-}
-
-void TestNOXUtils::cutsLinesAtEveryNewline()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QStringList, expected);
-    QStringList lines;
-    for (const QStringView line : dravolin::lines(text))
-        lines.append(line.toString());
-    QCOMPARE(lines, expected);
 }
 
 void TestNOXUtils::givesThePluralSuffix_data()
@@ -239,5 +151,5 @@ void TestNOXUtils::givesThePluralSuffix()
     QCOMPARE(NOXUtils::pluralSuffix(number), expected);
 }
 
-QTEST_GUILESS_MAIN(TestNOXUtils)
+DRAVOLIN_TEST(TestNOXUtils)
 #include "tst_noxutils.moc"
