@@ -37,8 +37,9 @@ struct AppPorts
 };
 
 // Owns the main window and all run state, and names every operation of the application. It lives as long as
-// the application, on the main thread. The operations that run control and processing share with the core forward
-// to functions of the same subject, where their contracts stand; those may be called from a run's thread.
+// the application, on the main thread. The operations that run control and processing share with the core
+// forward to functions of the same subject, where their contracts stand; those may be called from a run's
+// thread.
 class MainController : public QObject, public QVDragDropViewDelegate
 {
     Q_OBJECT
@@ -57,6 +58,7 @@ public:
     [[nodiscard]] QWidget &window();
     [[nodiscard]] Ui::MainWindow &controls() { return *m_controls; }
     [[nodiscard]] SharedRunState &state() { return m_state; }
+    [[nodiscard]] RunHost &host() { return m_host; }
     [[nodiscard]] LogWindowController *logWinController() { return m_logWinController.get(); }
 
     // Run control.
@@ -88,9 +90,8 @@ public:
     [[nodiscard]] quint64 recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
         const QStringList &tags, const QString &folder, const RunOptions &options);
     [[nodiscard]] QStringList findDICOMDIRsAtPath(const QString &folder);
-    [[nodiscard]] quint64
-    prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(const QStringList &files, const QString &folder,
-                                                                 const RunOptions &options);
+    [[nodiscard]] quint64 prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(
+        const QStringList &files, const QString &folder, const RunOptions &options);
     quint64 recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
                                                                        const RunOptions &options);
     [[nodiscard]] quint64 propagateLUTtoDICOMFilesInFolderWithOptions(const QStringList &entries,

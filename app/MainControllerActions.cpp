@@ -140,19 +140,18 @@ void MainController::saveDefaultConfigurationAndQuit()
 
 void MainController::toolbarTextClicked()
 {
-    const ModalAlert question = {.title =
-                                     Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
+    const ModalAlert question = {.title = Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
                                  .text = QString(),
                                  .defaultButton = Texts::tr("Yes, sure"),
                                  .alternateButton = Texts::tr("No, don't"),
                                  .escape = AlertButton::Alternate};
     if (m_presenter.runModal(question, m_window.get()) == AlertButton::Default)
-        m_opener.openUrl(webSite);
+        m_opener.open(webSite);
 }
 
 void MainController::showConfigInFinder()
 {
-    m_opener.openUrl(applicationSupportPath(m_paths));
+    m_opener.open(applicationSupportPath(m_paths));
 }
 
 } // namespace dravolin

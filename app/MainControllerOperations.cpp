@@ -1,5 +1,5 @@
-// The operations of MainController that only name a function of the core. The program's own runs do not pass through
-// them: a run calls the core.
+// The operations of MainController that only name a function of the core. The program's own runs do not pass
+// through them: a run calls the core.
 #include "app/MainController.h"
 
 #include "config/LutDiscovery.h"

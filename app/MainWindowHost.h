@@ -25,8 +25,8 @@ struct Delays
     int beforeLogWindow = 510; // just behind the summary
 };
 
-// The main window as runs see it. Any thread may call it, the widgets are touched on the main thread only, and a
-// run's thread waits for that.
+// The main window as runs see it. Any thread may call it, the widgets are touched on the main thread only,
+// and a run's thread waits for that.
 class MainWindowHost : public RunHost
 {
 public:
@@ -66,8 +66,8 @@ private:
 
     Parts m_parts;
     bool m_tablesExist = false; // main thread only
-    // What is switched and selected: a run reads it for every folder and is not to wait each time until the main
-    // thread has painted.
+    // What is switched and selected: a run reads it for every folder and is not to wait each time until the
+    // main thread has painted.
     std::mutex m_mutex;
     Choices m_choices;
 };

@@ -5,7 +5,6 @@
 #include "identifiers/Uuid.h"
 #include "run/jobs/JobRunner.h"
 
-
 #include <memory>
 
 namespace dravolin {

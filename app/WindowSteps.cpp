@@ -56,7 +56,8 @@ WindowSteps progressSteps(const Progress &progress)
                  .text = folders(Texts::tr("\nPropagating LUT tag... %1/%2 folders"), progress)}};
     case Progress::Event::FilesPropagated: return {{.kind = Kind::Progress, .percent = percentOf(progress)}};
     case Progress::Event::PropagationBegins:
-        return {{.kind = Kind::Spinner}, {.kind = Kind::Progress}, {.kind = Kind::ProgressVisible, .on = true}};
+        return {
+            {.kind = Kind::Spinner}, {.kind = Kind::Progress}, {.kind = Kind::ProgressVisible, .on = true}};
     case Progress::Event::PropagationEnds: return {{.kind = Kind::ProgressVisible}};
     }
     return {};

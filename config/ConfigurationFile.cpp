@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/NOXUtils.h"
+#include "config/Columns.h"
 #include "base/Lines.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace dravolin {
 
 namespace {
-
-const QString columnSpaces = QStringLiteral("   ");
 
 struct TagRule
 {
@@ -27,6 +26,7 @@ QString cleanedValue(QStringView column)
     return onlyDots ? QString() : value.toString();
 }
 
+// LutFile.cpp has the same column rule, made for speed.
 TagRule parseLine(QStringView line)
 {
     const QList<QStringView> byTabs = line.split(u'\t');

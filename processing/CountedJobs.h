@@ -3,7 +3,8 @@
 #include "run/jobs/RunContext.h"
 #include "run/jobs/ScriptJob.h"
 
-// A run's child processes, counted into its tally. On the run's thread; each blocks until the child has ended.
+// A run's child processes, counted into its tally. On the run's thread; each blocks until the child has
+// ended.
 namespace dravolin {
 
 [[nodiscard]] JobResult runCounted(const RunContext &context, const Job &job);

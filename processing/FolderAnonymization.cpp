@@ -34,7 +34,8 @@ AnonymizationCommand anonymizationCommand(const QString &tool, const TagRules &r
 {
     const Edits wanted = edits(rules, choices.edits);
     const QString backups = choices.createBAKfiles ? QString() : QStringLiteral(" -nb");
-    return {quoted(tool) + QStringLiteral(" -ie -imt") + backups + shellText(wanted.list), wanted.malformedTags};
+    return {quoted(tool) + QStringLiteral(" -ie -imt") + backups + shellText(wanted.list),
+            wanted.malformedTags};
 }
 
 const Redirections &anonymizationRedirections()

@@ -11,8 +11,8 @@
 // hidden ones count, links to folders do not. Not for the main thread.
 namespace dravolin {
 
-// Calls `visit` with the path of each folder of the tree, every subfolder before its parent, siblings in the file
-// system's order. A folder's subfolders are listed before the first of them is visited.
+// Calls `visit` with the path of each folder of the tree, every subfolder before its parent, siblings in the
+// file system's order. A folder's subfolders are listed before the first of them is visited.
 template <typename Visit>
 void forEachFolder(const QString &folder, Visit &&visit)
 {
@@ -25,8 +25,8 @@ void forEachFolder(const QString &folder, Visit &&visit)
 // AllFoldersNames, and deletes scripts and output files that earlier runs left. Gives totalFolders.
 quint64 countFolderTree(const RunContext &context, const QString &folder);
 
-// Anonymizes the tree by the rules in the state, which are read for each folder. Adds failed jobs to errCount,
-// advances folderCount and tells the progress after each folder.
+// Anonymizes the tree by the rules in the state, which are read for each folder. Adds failed jobs to
+// errCount, advances folderCount and tells the progress after each folder.
 void anonymizeFolderTree(const RunContext &context, const QString &folder, const RunOptions &options);
 
 // The DICOMDIR files (DICOM PS3.10 8.6) at and below `folder`, as find(1) prints them: "./DICOMDIR",

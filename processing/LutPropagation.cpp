@@ -35,13 +35,13 @@ bool isToBeProcessed(const QString &folder, const QString &name)
 JobResult search(const FolderPass &pass, const QString &name)
 {
     const AppPaths &paths = pass.context.paths;
-    return runCounted(pass.context, {.executable = paths.dcmdump(),
-                                     .arguments = {QStringLiteral("-M"), QStringLiteral("-Un"),
-                                                   QStringLiteral("+E"), QStringLiteral("-s"),
-                                                   QStringLiteral("--search"), pass.tag, name},
-                                     .folder = pass.folder,
-                                     .environment = toolEnvironment(paths),
-                                     .pipeOutput = true});
+    return runCounted(pass.context,
+                      {.executable = paths.dcmdump(),
+                       .arguments = {QStringLiteral("-M"), QStringLiteral("-Un"), QStringLiteral("+E"),
+                                     QStringLiteral("-s"), QStringLiteral("--search"), pass.tag, name},
+                       .folder = pass.folder,
+                       .environment = toolEnvironment(paths),
+                       .pipeOutput = true});
 }
 
 void tellAboutFileHandles(RunHost &host)
@@ -53,9 +53,8 @@ void tellAboutFileHandles(RunHost &host)
 void modify(const FolderPass &pass, const QString &name, const QString &newValue)
 {
     const RunContext &context = pass.context;
-    const ScriptJobResult result =
-        runScriptCounted(context, pass.folder,
-                         propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
+    const ScriptJobResult result = runScriptCounted(
+        context, pass.folder, propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
     if (!result.ran)
         return;
     context.state.update([&](RunState &state) {
@@ -139,8 +138,8 @@ QString propagatedValue(const LutTable &table, const QString &value)
 QString propagationCommand(const QString &tool, const QString &tag, const QString &newValue,
                            const QString &name)
 {
-    return quoted(tool) + QStringLiteral(" -ie -nb") + shellText({{Edit::Kind::Modify, tag, newValue}}) + u' ' +
-           quoted(name) + QStringLiteral("  >%1 2>&1").arg(outputFileName);
+    return quoted(tool) + QStringLiteral(" -ie -nb") + shellText({{Edit::Kind::Modify, tag, newValue}}) +
+           u' ' + quoted(name) + QStringLiteral("  >%1 2>&1").arg(outputFileName);
 }
 
 } // namespace dravolin

@@ -17,8 +17,8 @@ namespace dravolin {
 void propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options);
 
 // The regular files among `entries` (names or paths, of which the names count) in `folder`; hidden ones and
-// backups ("bak") are passed over. Counts into numLUTadaptedFiles and numLUTskippedFiles, and tells the progress
-// before each. 1 when no pipe could be created, which the user has then been told; else 0.
+// backups ("bak") are passed over. Counts into numLUTadaptedFiles and numLUTskippedFiles, and tells the
+// progress before each. 1 when no pipe could be created, which the user has then been told; else 0.
 [[nodiscard]] quint64 propagateThroughFiles(const RunContext &context, const QStringList &entries,
                                             const QString &folder, const RunOptions &options);
 

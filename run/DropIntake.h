@@ -17,8 +17,8 @@ namespace dravolin {
 // Whether so many individual files call for the question about dropping their folder.
 [[nodiscard]] bool isLargeDrop(const Drop &drop);
 
-// Reads the choices, checks the UID root (replacing a bad one once), refuses an impossible Study Instance UID and
-// asks, in this order, about a large drop and overwriting. Nothing when the run is not to start.
+// Reads the choices, checks the UID root (replacing a bad one once), refuses an impossible Study Instance UID
+// and asks, in this order, about a large drop and overwriting. Nothing when the run is not to start.
 [[nodiscard]] std::optional<Drop> takeDrop(const RunContext &context, const QStringList &paths);
 
 } // namespace dravolin

@@ -6,8 +6,8 @@
 // The steps of a run that deal with look-up tables. On the run's own thread.
 namespace dravolin {
 
-// Makes the attribute of the first table marker in the selected configuration, which is loaded, the one that a table
-// is constructed from, and gives its tag; nothing when there is no marker. On the main thread.
+// Makes the attribute of the first table marker in the selected configuration, which is loaded, the one that
+// a table is constructed from, and gives its tag; nothing when there is no marker. On the main thread.
 [[nodiscard]] std::optional<QString> prepareConstruction(const RunContext &context);
 
 // Matches the selected table against the configuration and loads it. False when the run is refused.

@@ -14,7 +14,7 @@ namespace dravolin {
 namespace {
 
 // "%1" and "%2" become the number and its plural suffix.
-QString counted(const QString &text, quint64 number)
+QString withCount(const QString &text, quint64 number)
 {
     return text.arg(QString::number(number), NOXUtils::pluralSuffix(number));
 }
@@ -30,12 +30,12 @@ QString firstSummary(const RunReport &report)
 {
     if (report.errCount != 0)
         return report.constructing
-                   ? counted(
+                   ? withCount(
                          Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
                                    "See messages logged to console."),
                          report.errCount)
-                   : counted(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
-                             report.errCount);
+                   : withCount(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
+                               report.errCount);
     if (report.constructing)
         return Texts::tr("\nDone constructing LUT. File placed on Desktop.");
     if (report.usingLUT)
@@ -90,7 +90,7 @@ public:
     // before a ":" is looked up, so that the number of names does not matter.
     [[nodiscard]] bool beginLowered(QStringView text) const
     {
-        const std::u16string_view all = units(text.first(std::min(text.size(), lookedAt())));
+        const std::u16string_view all = units(text.first(std::min(text.size(), neededCharacters())));
         for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
             if (m_names.contains(all.substr(0, colon)))
                 return true;
@@ -99,7 +99,7 @@ public:
     }
 
     // How many characters of a text beginLowered needs to see.
-    [[nodiscard]] qsizetype lookedAt() const { return m_longest + 1; }
+    [[nodiscard]] qsizetype neededCharacters() const { return m_longest + 1; }
 
 private:
     static std::u16string_view units(QStringView text)
@@ -145,7 +145,7 @@ private:
     // As much of `text` as is looked at for names, in lower case, in memory that is kept from line to line.
     [[nodiscard]] QStringView lowered(QStringView text)
     {
-        const QStringView head = text.first(std::min(text.size(), m_folderNames.lookedAt()));
+        const QStringView head = text.first(std::min(text.size(), m_folderNames.neededCharacters()));
         m_lowered.resize(head.size());
         bool ascii = true;
         std::transform(head.begin(), head.end(), m_lowered.begin(), [&ascii](QChar c) {
@@ -212,8 +212,8 @@ RunJudgement judgeOutput(const RunReport &report)
         return judgement;
     judgement.wantsLogWindow = true;
     judgement.summary = lines.filesWithErrors() == 0
-                            ? counted(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
-                            : counted(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
+                            ? withCount(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
+                            : withCount(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
     judgement.logText += logNotes(report);
     return judgement;
 }

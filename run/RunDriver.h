@@ -14,7 +14,8 @@ namespace dravolin {
 // Main thread: tells the host that a run begins; `start` is called when everything is ready for it.
 void beginRun(const RunContext &context, std::function<void()> start);
 
-// A run and its judgement: what the run's thread does. The drop's options get the attribute that a table is bound to.
+// A run and its judgement: what the run's thread does. The drop's options get the attribute that a table is
+// bound to.
 RunJudgement performRun(const RunContext &context, Drop &drop);
 
 // The steps of a run over `folders` and `files`. 1 when it was refused before any file was touched, else 0.

@@ -30,7 +30,8 @@ struct JobResult
 {
     JobOutcome outcome = JobOutcome::CouldNotStart;
     QByteArray output = {}; // what was piped
-    int exitStatus = 0; // of one that ran: what it exited with, or 128 and the number of the signal that ended it
+    int exitStatus =
+        0; // of one that ran: what it exited with, or 128 and the number of the signal that ended it
 };
 
 // The seam to child processes. No meaning is given to anything here: exit statuses are reported, not judged.

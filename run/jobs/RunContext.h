@@ -8,8 +8,9 @@
 
 namespace dravolin {
 
-// All that a run works with: its state, its ports and its settings. Everything referred to outlives every run.
-// Runs beside each other in one window share one state; whoever wants cases apart gives each a state of its own.
+// All that a run works with: its state, its ports and its settings. Everything referred to outlives every
+// run. Runs beside each other in one window share one state; whoever wants cases apart gives each a state of
+// its own.
 struct RunContext
 {
     SharedRunState &state;

@@ -12,7 +12,8 @@
 #include <functional>
 #include <optional>
 
-// The port between a run and the user: events, questions and choices. How they look is the front end's affair.
+// The port between a run and the user: events, questions and choices. How they look is the front end's
+// affair.
 namespace dravolin {
 
 // What the user has switched and selected, at the moment of asking.
@@ -82,8 +83,8 @@ public:
     [[nodiscard]] const char *what() const noexcept override { return "the run was cancelled"; }
 };
 
-// Every operation may be called from any thread and has happened when it returns, unless it says otherwise; off the
-// main thread each may throw RunCancelled.
+// Every operation may be called from any thread and has happened when it returns, unless it says otherwise;
+// off the main thread each may throw RunCancelled.
 class RunHost
 {
 public:

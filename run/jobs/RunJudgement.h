@@ -9,8 +9,8 @@ namespace dravolin {
 struct JobTally
 {
     quint64 ran = 0;
-    quint64 couldNotStart = 0;         // no process, no pipe, or no script for one
-    QMap<int, quint64> exitStatuses;   // how many of those that ran ended with each status
+    quint64 couldNotStart = 0;       // no process, no pipe, or no script for one
+    QMap<int, quint64> exitStatuses; // how many of those that ran ended with each status
 
     bool operator==(const JobTally &) const = default;
 };

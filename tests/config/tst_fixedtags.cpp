@@ -101,7 +101,8 @@ void TestFixedTags::findsTheFirstTableMarker_data()
     QTest::addColumn<QString>("tag"); // null: none
     QTest::newRow("no values") << QString() << QString();
     QTest::newRow("none") << QStringLiteral("a\t\tx\nb\t\ty") << QString();
-    QTest::newRow("first by tag, not by line") << QStringLiteral("c\t\t<LUT_1>\nb\t\t<LUT_2>\na\t\tx") << QStringLiteral("b");
+    QTest::newRow("first by tag, not by line")
+        << QStringLiteral("c\t\t<LUT_1>\nb\t\t<LUT_2>\na\t\tx") << QStringLiteral("b");
     QTest::newRow("other case") << QStringLiteral("a\t\t<lut_1>\nb\t\t<LUT_2>") << QStringLiteral("b");
     QTest::newRow("not in front") << QStringLiteral("a\t\tx<LUT_1>") << QString();
     QTest::newRow("nothing behind it") << QStringLiteral("a\t\t<LUT_") << QStringLiteral("a");

@@ -155,8 +155,8 @@ void TestFolderAnonymization::fewFilesBehindALongPrefixLandOnTheLastLine()
     const QString value(393216, u'x'); // three times half the limit
     m_run->state.set(&RunState::newValueDict, NewValueDict{{tags.first(), value}});
     const QString start = prefix() + QStringLiteral(" -i \"(0010,0010)=") + value + u'"';
-    QCOMPARE(anonymizeFiles(m_run->context, rules({tags.first()}), {QStringLiteral("/d/a"), QStringLiteral("/d/b")},
-                            m_folder, m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, rules({tags.first()}),
+                            {QStringLiteral("/d/a"), QStringLiteral("/d/b")}, m_folder, m_noBackups),
              0U);
     const QString empty = start + QStringLiteral(" >>.noxTemp.out 2>>&1\n");
     QVERIFY(script() == header + empty + empty + start + QStringLiteral(" \"a\" \"b\" >>.noxTemp.out 2>>&1"));
@@ -178,7 +178,8 @@ void TestFolderAnonymization::noFilesOrNoFolderIsNoJob()
     m_run->host.recordReads = true;
     const LogCatcher log;
     const QStringList malformed = {QStringLiteral("malformed")};
-    QCOMPARE(anonymizeFiles(m_run->context, rules(malformed), files, withFolder ? m_folder : QString(), m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, rules(malformed), files, withFolder ? m_folder : QString(),
+                            m_noBackups),
              0U);
     QVERIFY(m_run->jobs.jobs.isEmpty());
     QCOMPARE(listNames(m_folder), QStringList());
@@ -228,7 +229,9 @@ void TestFolderAnonymization::logsAndCountsMalformedTagsInEveryCall()
     QCOMPARE(log.messages(), once);
     QCOMPARE(m_run->state.get(&RunState::errCount), 2U);
     QCOMPARE(anonymizeFolder(m_run->context, rules(malformed), m_folder, m_noBackups), 0U);
-    QCOMPARE(anonymizeFiles(m_run->context, rules(malformed), {QStringLiteral("/d/a")}, m_folder, m_noBackups), 0U);
+    QCOMPARE(
+        anonymizeFiles(m_run->context, rules(malformed), {QStringLiteral("/d/a")}, m_folder, m_noBackups),
+        0U);
     QCOMPARE(log.messages(), once + once + once);
     QCOMPARE(m_run->state.get(&RunState::errCount), 6U);
     QCOMPARE(m_run->host.calls, QStringList()); // nothing in the window
@@ -244,7 +247,8 @@ void TestFolderAnonymization::appendsTheToolsTextUnchanged()
     };
     QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->state.get(&RunState::output), QStringLiteral("before E: x\r\n \n"));
-    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), {QStringLiteral("/d/a")}, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), {QStringLiteral("/d/a")}, m_folder, m_noBackups),
+             0U);
     QCOMPARE(m_run->state.get(&RunState::output), QStringLiteral("before E: x\r\n \n E: x\r\n \n"));
     QVERIFY(pathExists(joinPath(m_folder, QStringLiteral(".noxTemp.out"))));
 }

@@ -177,10 +177,10 @@ void TestFolderTree::anonymizesSubfoldersBeforeTheirParents()
         QCOMPARE(recorded.script.section(u'\n', 2),
                  u'"' + m_run->paths.dcmodify() +
                      QStringLiteral("\" -ie -imt -ea \"(0010,0030)\" * >.noxTemp.out 2>&1"));
-    QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("anonymized 1/4 folders"),
-                                             QStringLiteral("anonymized 2/4 folders"),
-                                             QStringLiteral("anonymized 3/4 folders"),
-                                             QStringLiteral("anonymized 4/4 folders")}));
+    QCOMPARE(
+        m_run->host.calls,
+        QStringList({QStringLiteral("anonymized 1/4 folders"), QStringLiteral("anonymized 2/4 folders"),
+                     QStringLiteral("anonymized 3/4 folders"), QStringLiteral("anonymized 4/4 folders")}));
     QCOMPARE(m_run->state.get(&RunState::folderCount), 4U);
     QCOMPARE(m_run->state.get(&RunState::AllFoldersNames), QStringList());
 }

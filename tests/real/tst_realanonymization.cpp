@@ -51,7 +51,9 @@ private:
     void anonymize(const QStringList &tags, const NewValueDict &values = {})
     {
         m_run->state.set(&RunState::newValueDict, values);
-        QCOMPARE(anonymizeFolder(m_run->context, m_run->rules(tags), m_run->path(QStringLiteral("study")), {}), 0U);
+        QCOMPARE(
+            anonymizeFolder(m_run->context, m_run->rules(tags), m_run->path(QStringLiteral("study")), {}),
+            0U);
     }
     [[nodiscard]] QStringList lines(const char *tag = nullptr) const { return m_run->lines(m_image, tag); }
     std::unique_ptr<RealRun> m_run;

@@ -232,9 +232,9 @@ void TestRealFolders::walksATreeAndLeavesLinkedFoldersAlone()
                                     QStringLiteral("E: There was 1 error"),
                                     QStringLiteral("E: unable to load file link"), // of the job in study
                                     QStringLiteral("E: There was 1 error")}));
-    QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("anonymized 1/3 folders"),
-                                             QStringLiteral("anonymized 2/3 folders"),
-                                             QStringLiteral("anonymized 3/3 folders")}));
+    QCOMPARE(m_run->host.calls,
+             QStringList({QStringLiteral("anonymized 1/3 folders"), QStringLiteral("anonymized 2/3 folders"),
+                          QStringLiteral("anonymized 3/3 folders")}));
 }
 
 void TestRealFolders::keepsFoldersThatTheShellInterpretsUntouched_data()
@@ -279,7 +279,8 @@ void TestRealFolders::findsTheDictionaryInAFolderWithBlanks()
     m_run->paths.resourceFolder = resources;
     m_run->state.set(&RunState::newValueDict,
                      NewValueDict{{QStringLiteral("0010,2160"), QStringLiteral("x")}});
-    QCOMPARE(anonymizeFolder(m_run->context, m_run->rules({QStringLiteral("0010,2160")}), path(u"study"), {}), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, m_run->rules({QStringLiteral("0010,2160")}), path(u"study"), {}),
+             0U);
     m_run->paths = here;
     QCOMPARE(m_run->lines(m_image, "0010,2160"), QStringList{QStringLiteral("(0010,2160) SH [x]")});
 }

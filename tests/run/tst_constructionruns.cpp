@@ -73,9 +73,8 @@ void ConstructionRunsTest::refusedConstructionStillNamesTheDesktop()
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
     removeFile(drop.options.selectedLUTpath);
     performRun(run.context, drop);
-    QCOMPARE(run.summary(),
-             str("Done constructing LUT. File placed on Desktop.\nEncountered 1 error."
-                 "\nSee messages logged to console."));
+    QCOMPARE(run.summary(), str("Done constructing LUT. File placed on Desktop.\nEncountered 1 error."
+                                "\nSee messages logged to console."));
     QCOMPARE(listNames(run.paths.desktopFolder), QStringList());
 }
 

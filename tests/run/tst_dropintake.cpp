@@ -79,7 +79,7 @@ void DropIntakeTest::takesTheTableOfTheSelectedItem()
     QFETCH(QString, title);
     TestRun run;
     run.host.fields.uidRoot = validRoot;
-    run.host.chosen.table = title.isNull() ? std::nullopt : std::optional(title);
+    run.host.chosen.table = index > 0 ? std::optional(title) : std::nullopt;
     run.state.set(&RunState::allLUTsPaths, TitleToPath{{QStringLiteral("Site"), QStringLiteral("/t/site")},
                                                        {QStringLiteral("ID"), QStringLiteral("/t/id")},
                                                        {QString(), QStringLiteral("/t/nameless")}});

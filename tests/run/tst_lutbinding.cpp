@@ -163,8 +163,7 @@ void LutBindingTest::filesWithoutATableAreRefused()
     m_run->state.set(&RunState::usingLUT, true);
     select(str("Site"), content);
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls,
-             QStringList(refusal(static_cast<Refusal>(reason), str("Site"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(static_cast<Refusal>(reason), str("Site"))));
     QCOMPARE(m_run->state.get(&RunState::usingLUT), false);
     QCOMPARE(m_options.theLUTtag, std::nullopt);
 }
@@ -202,8 +201,7 @@ void LutBindingTest::namesAreNoPlaceholders()
     m_run->state.set(&RunState::newValueDict, m_values);
     select(str("%2 %1"), "A\tB\n");
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls,
-             QStringList(refusal(Refusal::TableWithoutMissing, str("%2 %1"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(Refusal::TableWithoutMissing, str("%2 %1"))));
 }
 
 void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead_data()

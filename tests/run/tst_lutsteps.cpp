@@ -49,8 +49,8 @@ private:
     {
         return joinPath(m_run->paths.desktopFolder, name);
     }
-    template <typename Field>
-    [[nodiscard]] Field state(Field RunState::*field) const
+    template <typename Part, typename Field>
+    [[nodiscard]] Field state(Field Part::*field) const
     {
         return m_run->state.get(field);
     }
@@ -203,11 +203,10 @@ void LutStepsTest::propagationShowsItsProgress()
     m_run->writeFile(str("data/two/b"));
     m_run->state.set(&RunState::totalFolders, quint64(3));
     propagateTable(m_run->context, {one, two}, {}, m_options);
-    QCOMPARE(
-        m_run->host.calls,
-        (QStringList{str("propagation begins"), propagating(0, 3),
-                     str("file 1/1"), propagating(1, 3), str("file 1/1"), propagating(2, 3),
-                     propagating(2, 3), str("file 1/1"), propagating(3, 3), str("propagation ends")}));
+    QCOMPARE(m_run->host.calls,
+             (QStringList{str("propagation begins"), propagating(0, 3), str("file 1/1"), propagating(1, 3),
+                          str("file 1/1"), propagating(2, 3), propagating(2, 3), str("file 1/1"),
+                          propagating(3, 3), str("propagation ends")}));
     QCOMPARE(m_run->jobs.folders(), (QStringList{joinPath(one, str("sub")), two}));
     QCOMPARE(state(&RunState::numLUTskippedFiles), 2U);
 }
@@ -220,9 +219,8 @@ void LutStepsTest::propagationTakesFilesInTheFirstOnesFolder()
     m_run->state.set(&RunState::totalFolders, quint64(2));
     propagateTable(m_run->context, {one}, {m_run->path(str("data/two/a")), str("/elsewhere/b")}, m_options);
     QCOMPARE(m_run->jobs.folders(), QStringList(2, m_run->path(str("data/two"))));
-    QCOMPARE(m_run->host.calls,
-             (QStringList{str("propagation begins"), propagating(0, 2), propagating(1, 2),
-                          str("file 1/2"), str("file 2/2"), str("propagation ends")}));
+    QCOMPARE(m_run->host.calls, (QStringList{str("propagation begins"), propagating(0, 2), propagating(1, 2),
+                                             str("file 1/2"), str("file 2/2"), str("propagation ends")}));
     QCOMPARE(state(&RunState::folderCount), 1U); // the files have no part in it
 }
 

@@ -68,11 +68,10 @@ void ParallelRunsTest::keepsNoGuardBetweenRuns()
     secondIsDone.release();
     thread.join();
 
-    QCOMPARE(second.host.calls,
-             loadCalls +
-                 QStringList({status(0, 4), str("job ~/in/Other"), status(1, 4), str("job ~/in"),
-                              status(2, 4), str("find ~/in")}) +
-                 endCalls(str("\nDone, with 1 error."), str("E: of the second\n\n")));
+    QCOMPARE(second.host.calls, loadCalls +
+                                    QStringList({status(0, 4), str("job ~/in/Other"), status(1, 4),
+                                                 str("job ~/in"), status(2, 4), str("find ~/in")}) +
+                                    endCalls(str("\nDone, with 1 error."), str("E: of the second\n\n")));
     QCOMPARE(first.host.calls, loadCalls +
                                    QStringList({status(0, 2), str("job ~/in/Sub"), status(1, 0),
                                                 str("job ~/in"), status(2, 0), str("find ~/in")}) +

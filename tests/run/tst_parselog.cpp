@@ -114,17 +114,13 @@ void ParseLogTest::givesBackWhatItTold()
     TestRun run;
     const JobTally jobs = {.ran = 3, .couldNotStart = 1, .exitStatuses = {{0, 2}, {139, 1}}};
     run.state.update([&jobs](RunState &state) {
-        state.output = str("E: bad
-");
+        state.output = str("E: bad\n");
         state.errCount = 1;
         state.jobs = jobs;
     });
     const RunJudgement judgement = parseLog(run.context);
-    QCOMPARE(judgement.summary, str("
-Done, with 1 error."));
-    QCOMPARE(judgement.logText, str("E: bad
-
-"));
+    QCOMPARE(judgement.summary, str("\nDone, with 1 error."));
+    QCOMPARE(judgement.logText, str("E: bad\n\n"));
     QCOMPARE(judgement.wantsLogWindow, true);
     QCOMPARE(judgement.refused, true);
     QVERIFY(judgement.jobs == jobs);

@@ -200,7 +200,8 @@ void TestScript::lengthsAreCodeUnits()
     const QString below = prefixOf(99 - suffixLength - 3 - 10 * units);
     QCOMPARE(commandLines(below, files, anonymizationRedirections(), 100), below + files.first() + only);
     const QString at = below + u'p';
-    QCOMPARE(commandLines(at, files, anonymizationRedirections(), 100), at + more + at + files.first() + last);
+    QCOMPARE(commandLines(at, files, anonymizationRedirections(), 100),
+             at + more + at + files.first() + last);
 }
 
 void TestScript::longPrefixMakesLongLines()

@@ -47,7 +47,8 @@ QString nameOf(Refusal refusal)
 
 QString rootCall(const QString &root, bool valid)
 {
-    return QStringLiteral("root %1: %2").arg(valid ? QStringLiteral("valid") : QStringLiteral("invalid"), root);
+    return QStringLiteral("root %1: %2")
+        .arg(valid ? QStringLiteral("valid") : QStringLiteral("invalid"), root);
 }
 
 QString progressCall(Progress::Event event, quint64 done, quint64 all)
