@@ -151,7 +151,7 @@ void MainController::toolbarTextClicked()
 
 void MainController::showConfigInFinder()
 {
-    m_opener.open(applicationSupportPath(m_paths));
+    m_opener.open(configurationFolderWithExamples(m_paths));
 }
 
 } // namespace dravolin

@@ -27,6 +27,8 @@ struct AppPaths
     {
         return resource(QStringLiteral("DefaultAnonymizationConfiguration.txt"));
     }
+    // Configurations to start from; nothing looks for configurations or tables in it.
+    [[nodiscard]] QString examplesFolder() const { return resource(QStringLiteral("examples")); }
 };
 
 // The name that the application's own folders carry.

@@ -56,4 +56,21 @@ QString copyDefaultConfiguration(const AppPaths &paths, const QString &folder, c
     return copy;
 }
 
+QString configurationFolderWithExamples(const AppPaths &paths)
+{
+    const ConfigurationFolder folder = configurationFolder(paths);
+    if (!folder.usable || !listNames(folder.path).isEmpty())
+        return folder.path;
+    // without the default beside them, one of the examples would be what the next start begins with
+    const QString copy = joinPath(folder.path, QStringLiteral("AnonymizationConfiguration_Default.txt"));
+    if (!copyFile(paths.defaultConfiguration(), copy))
+        return folder.path;
+    const TitleToPath examples = configsAtPath(paths.examplesFolder());
+    for (const QString &example : examples) {
+        if (!copyFile(example, joinPath(folder.path, lastPathComponent(example))))
+            break;
+    }
+    return folder.path;
+}
+
 } // namespace dravolin

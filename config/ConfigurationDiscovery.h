@@ -42,4 +42,10 @@ struct ConfigurationFolder
 // A failure, an existing file among them, changes nothing and is not reported.
 QString copyDefaultConfiguration(const AppPaths &paths, const QString &folder, const QString &name);
 
+// The path of the configuration folder for a person who is to edit there. An empty one, created when missing,
+// gets copies of the default configuration and then of the examples among the resources; the first copy that
+// fails ends it, unreported. The default's comes first by name, so that it stays the one that a list of them
+// begins with.
+QString configurationFolderWithExamples(const AppPaths &paths);
+
 } // namespace dravolin

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks the direction of includes: check-includes.py [--qt QT_HEADERS] SOURCE_FOLDER
 
-An include may point at the same room or a lower one, and only app/, tests/ and benchmarks/ may include Qt Gui or Widgets.
+An include may point at the same room or a lower one that is no stranger to it, and only app/, tests/ and benchmarks/ may include Qt Gui or Widgets.
 Each line that does otherwise is printed, and the exit status is then 1. QT_HEADERS is the folder that holds
 QtCore/, QtGui/ and QtWidgets/; without it only includes that name the module are recognised. --self-test
 checks the check.
@@ -12,9 +12,12 @@ import re
 import sys
 import tempfile
 
-ROOMS = ["base", "identifiers", "config", "run/jobs", "processing", "run", "app"]  # lowest first
+ROOMS = ["base", "identifiers", "config", "run/jobs", "processing", "run",
+         "check", "dicom", "batch", "cli", "app"]  # lowest first
+STRANGERS = {"dicom": {"check"}, "app": {"check", "dicom", "batch", "cli"}}  # lower rooms that a room does not see
 FREE = {"app", "tests", "benchmarks"}  # may include Qt Gui and Widgets
-CHECKED = ["base", "identifiers", "config", "run", "processing", "app", "tests", "benchmarks"]
+CHECKED = ["base", "identifiers", "config", "run", "processing", "check", "dicom", "batch", "cli", "app",
+           "tests", "benchmarks"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
 
@@ -41,12 +44,14 @@ def complaint(source, file, line, widgets):
     project, system = match.groups()
     own = room_of(file)
     beside = project and "/" not in project and (source / file).with_name(project).is_file()
-    if project and not beside and own and own != "app":
+    if project and not beside and own and (own != "app" or room_of(project)):
         target = room_of(project)
         if target is None:
             return "is no header of this room or a lower one"
         if ROOMS.index(target) > ROOMS.index(own):
             return f"points upwards, from {own} to {target}"
+        if target in STRANGERS.get(own, ()):
+            return f"points from {own} to {target}, which do not know each other"
     named = project or system
     if file.split("/")[0] not in FREE:
         if named.startswith(("QtGui/", "QtWidgets/")) or named in widgets:
@@ -83,6 +88,10 @@ def self_test():
         ("run/A.cpp", '#include "run/jobs/A.h"'),
         ("app/A.cpp", '#include "run/A.h"'),
         ("app/A.cpp", '#include "ui_MainWindow.h"'),
+        ("dicom/A.cpp", '#include "processing/A.h"'),
+        ("batch/A.cpp", '#include "dicom/A.h"'),
+        ("batch/A.cpp", '#include "check/A.h"'),
+        ("cli/A.cpp", '#include "batch/A.h"'),
         ("app/A.cpp", "#include <QWidget>"),
         ("tests/app/A.cpp", "#include <QtWidgets/QWidget>"),
         ("benchmarks/A.cpp", "#include <QtWidgets/QWidget>"),
@@ -92,6 +101,7 @@ def self_test():
     ]
     upwards = "points upwards, from {} to {}".format
     unknown = "is no header of this room or a lower one"
+    strangers = "points from {} to {}, which do not know each other".format
     widgets = "is Qt Gui or Widgets outside app/"
     refused = [
         ("base/A.cpp", '#include "identifiers/A.h"', upwards("base", "identifiers")),
@@ -101,6 +111,13 @@ def self_test():
         ("run/jobs/A.cpp", '#include "run/A.h"', upwards("run/jobs", "run")),
         ("processing/A.cpp", '#include "run/A.h"', upwards("processing", "run")),
         ("run/A.cpp", '#include "app/A.h"', upwards("run", "app")),
+        ("check/A.cpp", '#include "dicom/A.h"', upwards("check", "dicom")),
+        ("dicom/A.cpp", '#include "batch/A.h"', upwards("dicom", "batch")),
+        ("batch/A.cpp", '#include "cli/A.h"', upwards("batch", "cli")),
+        ("cli/A.cpp", '#include "app/A.h"', upwards("cli", "app")),
+        ("dicom/A.cpp", '#include "check/A.h"', strangers("dicom", "check")),
+        ("app/A.cpp", '#include "dicom/A.h"', strangers("app", "dicom")),
+        ("app/A.cpp", '#include "cli/A.h"', strangers("app", "cli")),
         ("run/A.cpp", '#include "support/A.h"', unknown),
         ("run/A.cpp", '#include "A.h"', unknown),
         ("run/A.cpp", '#include "../app/A.h"', unknown),

@@ -6,12 +6,16 @@ CASE_FIELDS = {"0010,0010": "Diagnosis", "0010,0020": "Case ID", "0008,0050": "C
 
 
 def read_rules(file):
-    """Each attribute that the file lists with its new value, "" for one that is erased."""
+    """Each attribute that the file lists with its new value, "" for one that is erased.
+
+    +010,0010 is 0010,0010 in a spelling that the tool hears of earlier: it takes nothing from what 0010,0010 asks for.
+    """
     rules = {}
     for line in pathlib.Path(file).read_text(encoding="utf-8").splitlines():
         tag, value = split_line(line.strip(" \t"))
         if len(tag) == 9 and not tag.startswith("#"):
-            rules[tag.lower()] = value if value is not None else rules.get(tag.lower(), "")
+            tag = tag.lower().replace("+", "0")
+            rules[tag] = value if value is not None else rules.get(tag, "")
     return rules
 
 

@@ -20,7 +20,7 @@ Propagation = namedtuple("Propagation", "summary log new_values wrong")
 def save_configuration(home, executable):
     """The default configuration, with the Study ID left to a table."""
     default = pathlib.Path(executable).resolve().parent / "resources" / DEFAULT
-    lines = [line for line in default.read_text(encoding="utf-8").splitlines() if not line.startswith(TAG)]
+    lines = [line for line in default.read_text(encoding="utf-8").splitlines() if not line.startswith((TAG, "+" + TAG[1:]))]
     home.configurations.mkdir(parents=True)
     file = home.configurations / f"AnonymizationConfiguration_{CONFIGURATION}.txt"
     file.write_text("\n".join(lines) + f"\n{TAG}\tStudy ID\t<LUT_{TABLE}>\n", encoding="utf-8")

@@ -16,17 +16,22 @@ def covered(element, asked):
     return any(tag in asked for tag in element.tags)
 
 
+def is_written(value, element):
+    """Whether the element holds what the shell makes of a configuration's value: quotes in it join what they part."""
+    return (element.value or "") == value.replace('"', "")
+
+
 def wrong_elements(before, after, asked, new_instances):
     """What is wrong with one file; both are lists of elements."""
     old = {element.path: element for element in before}
     new = {element.path: element for element in after}
     for tag, value in asked.items():
         now = new.get(((tag, 0),))
-        if value and (now is None or now.value != value):
+        if value and (now is None or not is_written(value, now)):
             yield f"({tag}) is not '{value}' but {now and now.value!r}"
     for path, element in new.items():
         top_value = asked.get(path[0][0]) if len(path) == 1 else None
-        if covered(element, asked) and not (top_value and element.value == top_value):
+        if covered(element, asked) and not (top_value and is_written(top_value, element)):
             yield f"{element.label} {element.name} is still there: {element.value!r}"
     for path, element in old.items():
         tag = path[0][0]

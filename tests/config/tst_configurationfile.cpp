@@ -79,6 +79,8 @@ void TestConfigurationFile::readsOneLine_data()
     row("a remark behind one space belongs to the tag", "0010,0010 # x", "0010,0010 # x");
     row("# in a column is no comment", "0010,0010\t#\t# x", "0010,0010", "# x");
     row("shell characters stay", "0010,0010\tName\ta\"b$c`d\\e", "0010,0010", "a\"b$c`d\\e");
+    row("keeps two quotes as a value", "0008,0020\tStudy Date\t\"\"", "0008,0020", "\"\"");
+    row("keeps a plus sign in a tag", "+010,0010\tPatient's Name", "+010,0010");
     row("no-break spaces are trimmed",
         "\xA0"
         "0010,0030\tName\t\xA0"

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void leavesInstanceUidsAlone();
     void onlyGeneratesInstanceUids();
     void changesNothingWhenNothingIsAsked();
+    void keepsAnAttributeEmptyThatIsSetToTwoQuotes();
+    void keepsNoCopyOfAnAttributeWhoseTagBeginsWithAPlus();
     void studyUidSurvivesBesideItsUpperCaseSpelling();
     void studyUidWouldBeLostInTheOtherOrder();
     void keepsValuesThatTheShellInterprets_data();
@@ -186,6 +188,22 @@ void TestRealAnonymization::changesNothingWhenNothingIsAsked()
     QCOMPARE(m_run->resultingOutput(), QString());
 }
 
+void TestRealAnonymization::keepsAnAttributeEmptyThatIsSetToTwoQuotes()
+{
+    const TagRules rules = parseConfiguration(QStringLiteral("0008,0090\tReferring Physician's Name\t\"\""));
+    anonymize(rules.allTagsToAnonymize, rules.newValueDict);
+    QCOMPARE(lines("0008,0090"), oneLine(u"(0008,0090) PN (no value available)"));
+}
+
+void TestRealAnonymization::keepsNoCopyOfAnAttributeWhoseTagBeginsWithAPlus()
+{
+    TagRules rules = parseConfiguration(QStringLiteral("0010,0020\n+010,0020"));
+    rules.newValueDict.insert(QStringLiteral("0010,0020"), QStringLiteral("007"));
+    anonymize(rules.allTagsToAnonymize, rules.newValueDict);
+    QCOMPARE(lines("0010,0020"), oneLine(u"(0010,0020) LO [007]"));
+    QCOMPARE(m_run->resultingOutput(), QString());
+}
+
 void TestRealAnonymization::studyUidSurvivesBesideItsUpperCaseSpelling()
 {
     TagRules rules =
@@ -258,8 +276,8 @@ void TestRealAnonymization::defaultConfigurationRunsWithoutErrors()
     QCOMPARE(lines("0020,000d"), oneLine(u"(0020,000d) UI [2.25.42]"));
     QCOMPARE(lines("0008,0050"), oneLine(u"(0008,0050) SH [credits]"));
     QCOMPARE(lines("0032,4000"), oneLine(u"(0032,4000) LT [keywords]"));
-    for (const char *erased : {"0010,0030", "0008,0090"})
-        QCOMPARE(lines(erased), QStringList());
+    QCOMPARE(lines("0010,0030"), oneLine(u"(0010,0030) DA (no value available)"));
+    QCOMPARE(lines("0008,0090"), oneLine(u"(0008,0090) PN (no value available)"));
 }
 
 DRAVOLIN_TEST(TestRealAnonymization)

@@ -1,0 +1,81 @@
+#include "dicom/Dictionary.h"
+
+#include <dcmtk/config/osconfig.h>
+#include <dcmtk/dcmdata/dcdict.h>
+#include <dcmtk/dcmdata/dctag.h>
+
+#include <algorithm>
+#include <array>
+
+namespace dravolin {
+
+namespace {
+
+bool isOneOf(Vr representation, std::initializer_list<const char *> names)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [=](const char *name) { return vr(name[0], name[1]) == representation; });
+}
+
+} // namespace
+
+QByteArray letters(Vr representation)
+{
+    QByteArray bytes(1, static_cast<char>(representation >> 8));
+    return bytes.append(static_cast<char>(representation & 0xff));
+}
+
+bool dictionaryIsLoaded()
+{
+    return dcmDataDict.isDictionaryLoaded();
+}
+
+Vr dictionaryVr(TagNumber tag)
+{
+    if (isPrivate(tag))
+        return elementOf(tag) >= 0x10 && elementOf(tag) <= 0xff ? vr('L', 'O') : Vr(0);
+    const DcmTag known(groupOf(tag), elementOf(tag));
+    switch (known.getEVR()) {
+    case EVR_UNKNOWN:
+    case EVR_UNKNOWN2B:
+    case EVR_UN: return 0;
+    case EVR_ox:
+    case EVR_px:
+    case EVR_lt: return vr('O', 'W');
+    case EVR_xs: return vr('U', 'S');
+    case EVR_up: return vr('U', 'L');
+    default: break;
+    }
+    const char *name = known.getVRName();
+    return vr(name[0], name[1]);
+}
+
+std::optional<TagNumber> tagFromText(const QString &text)
+{
+    const auto isDigit = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
+    };
+    if (text.size() != 9 || text.at(4) != u',' || std::count_if(text.begin(), text.end(), isDigit) != 8)
+        return std::nullopt;
+    return text.left(4).toUInt(nullptr, 16) << 16 | text.right(4).toUInt(nullptr, 16);
+}
+
+QString tagText(TagNumber tag)
+{
+    return QStringLiteral("(%1,%2)")
+        .arg(groupOf(tag), 4, 16, QLatin1Char('0'))
+        .arg(elementOf(tag), 4, 16, QLatin1Char('0'));
+}
+
+bool isText(Vr representation)
+{
+    return isOneOf(representation, {"SH", "LO", "ST", "LT", "UC", "UT", "PN"});
+}
+
+bool hasLongHeader(Vr representation)
+{
+    return !isOneOf(representation, {"AE", "AS", "AT", "CS", "DA", "DS", "DT", "FL", "FD", "IS", "LO",
+                                     "LT", "PN", "SH", "SL", "SS", "ST", "TM", "UI", "UL", "US"});
+}
+
+} // namespace dravolin

@@ -1,0 +1,177 @@
+#include "dicom/ObjectFile.h"
+
+#include "base/Files.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
+#include "dicom/Deflation.h"
+#include "dicom/FileSink.h"
+#include "dicom/Prologue.h"
+#include "dicom/Rewrite.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace dravolin {
+
+namespace {
+
+constexpr char mediaDirectory[] = "1.2.840.10008.1.3.10";
+constexpr quint64 longestName = 1024;
+constexpr TagNumber lastName = 0x0020000e;
+
+// A source that was opened, with its data set where it can be walked over.
+struct OpenObject
+{
+    std::unique_ptr<SourceFile> file;
+    std::unique_ptr<SourceFile> inflatedFile;
+    Prologue prologue;
+
+    [[nodiscard]] SourceFile &dataSet() const { return inflatedFile ? *inflatedFile : *file; }
+    [[nodiscard]] quint64 begin() const { return inflatedFile ? 0 : prologue.dataSet; }
+};
+
+// Deflated data sets are inflated into `folder`.
+std::optional<OpenObject> openObject(const QString &path, const QString &folder, QString *problem)
+{
+    OpenObject object;
+    object.file = SourceFile::open(path, problem);
+    if (!object.file)
+        return std::nullopt;
+    const std::optional<Prologue> prologue = readPrologue(*object.file, problem);
+    if (!prologue)
+        return std::nullopt;
+    object.prologue = *prologue;
+    if (!prologue->syntax.deflated)
+        return object;
+    object.inflatedFile = inflated(*object.file, prologue->dataSet, folder);
+    if (!object.inflatedFile)
+        *problem = Texts::tr("cannot be inflated");
+    return object.inflatedFile ? std::optional(std::move(object)) : std::nullopt;
+}
+
+QByteArray *fieldOf(ObjectNames &names, TagNumber tag)
+{
+    switch (tag) {
+    case 0x00080016: return &names.sopClass;
+    case 0x00080018: return &names.sopInstance;
+    case 0x00100020: return &names.patientId;
+    case 0x0020000d: return &names.study;
+    case 0x0020000e: return &names.series;
+    default: return nullptr;
+    }
+}
+
+// The names in the data set; a problem when it is damaged before the last of them.
+QString readNames(const OpenObject &object, ObjectNames &names)
+{
+    using Token = ElementReader::Token;
+    SourceFile &file = object.dataSet();
+    ElementReader reader(file, object.begin(), file.size(), object.prologue.syntax.notation);
+    while (true) {
+        const Token token = reader.next();
+        if (token == Token::End || (token == Token::Element && reader.current().tag > lastName))
+            return {};
+        if (token == Token::Damaged || (token == Token::Sequence && !reader.leaveSequence()))
+            return reader.problem();
+        QByteArray *field = token == Token::Element ? fieldOf(names, reader.current().tag) : nullptr;
+        if (field && reader.current().length <= longestName)
+            *field = withoutPadding(reader.value());
+    }
+}
+
+ObjectFacts factsOf(const OpenObject &object)
+{
+    ObjectFacts facts;
+    facts.names.sopClass = object.prologue.sopClass;
+    facts.isDirectory = facts.names.sopClass == mediaDirectory;
+    if (!facts.isDirectory)
+        facts.problem = readNames(object, facts.names);
+    return facts;
+}
+
+QByteArray hashOf(SourceFile &file)
+{
+    constexpr qsizetype blockSize = 256 * 1024;
+    Sha256 hash;
+    for (quint64 at = 0; at < file.size(); at += blockSize)
+        hash.add(file.read(at, blockSize));
+    return hash.digits();
+}
+
+bool sendObject(const OpenObject &object, const Prologue &prologue, const Patches &patches, FileSink &sink)
+{
+    SourceFile &file = object.dataSet();
+    if (!sink.write(prologueBytes(prologue)))
+        return false;
+    if (!object.inflatedFile)
+        return sendPatched(file, object.begin(), file.size(), patches, sink) && sink.finish();
+    DeflateSink deflating(sink);
+    return sendPatched(file, object.begin(), file.size(), patches, deflating) && deflating.finish();
+}
+
+QString couldNotWrite(int error)
+{
+    return Texts::tr("cannot be written: %1").arg(QString::fromLocal8Bit(std::strerror(error)));
+}
+
+void writeTarget(const OpenObject &object, const Patches &patches, const QString &target,
+                 TreatedFile &treated)
+{
+    const Descriptor output(
+        ::open(systemPath(target).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+    if (!output.isOpen()) {
+        treated.facts.problem = couldNotWrite(errno);
+        return;
+    }
+    Prologue prologue = object.prologue;
+    prologue.sopClass = treated.facts.names.sopClass;
+    prologue.sopInstance = treated.facts.names.sopInstance;
+    FileSink sink(output.get());
+    errno = 0;
+    if (!sendObject(object, prologue, patches, sink)) {
+        treated.facts.problem = errno != 0 ? couldNotWrite(errno) : Texts::tr("changed while it was read");
+        removeFile(target);
+        return;
+    }
+    treated.sizeAfter = sink.size();
+    treated.hashAfter = sink.digits();
+}
+
+} // namespace
+
+ObjectFacts readFacts(const QString &path)
+{
+    ObjectFacts facts;
+    const std::optional<OpenObject> object =
+        openObject(path, QString::fromLocal8Bit(P_tmpdir), &facts.problem);
+    return object ? factsOf(*object) : facts;
+}
+
+TreatedFile treatFile(const QString &source, const QString &target, const Treatment &treatment)
+{
+    TreatedFile treated;
+    const std::optional<OpenObject> object = openObject(source, parentPath(target), &treated.facts.problem);
+    if (!object)
+        return treated;
+    treated.facts = factsOf(*object);
+    if (treated.facts.isDirectory || !treated.facts.problem.isEmpty())
+        return treated;
+    SourceFile &dataSet = object->dataSet();
+    const Rewriting changes =
+        rewriting(dataSet, object->begin(), dataSet.size(), object->prologue.syntax.notation, treatment);
+    treated.facts.problem = changes.problem;
+    treated.movedToUtf8 = changes.movedToUtf8;
+    treated.facts.names.sopInstance = changes.sopInstance;
+    treated.facts.names.series = changes.series;
+    treated.facts.names.study = changes.study;
+    if (!changes.problem.isEmpty())
+        return treated;
+    treated.sizeBefore = object->file->size();
+    treated.hashBefore = hashOf(*object->file);
+    writeTarget(*object, changes.patches, target, treated);
+    return treated;
+}
+
+} // namespace dravolin

@@ -1,0 +1,195 @@
+#include "dicom/Rewrite.h"
+
+#include "base/Texts.h"
+#include "dicom/CharacterSet.h"
+#include "dicom/Levels.h"
+#include "dicom/ValueChange.h"
+#include "dicom/Values.h"
+
+namespace dravolin {
+
+namespace {
+
+using Token = ElementReader::Token;
+
+constexpr TagNumber characterSetTag = 0x00080005;
+constexpr TagNumber sopInstanceTag = 0x00080018;
+constexpr TagNumber studyTag = 0x0020000d;
+constexpr TagNumber seriesTag = 0x0020000e;
+// of a character set, a creator or a UID; a longer one is none
+constexpr quint64 longestNoted = 4096;
+
+// One walk over a data set.
+class Rewriter
+{
+public:
+    Rewriter(ElementReader &reader, const Notation &notation, const Treatment &treatment, bool toUtf8)
+        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(treatment, toUtf8),
+          m_toInsert(m_change.insertions())
+    {
+    }
+
+    [[nodiscard]] Rewriting run();
+    // True after a run that failed only because a value does not go into the object's character set.
+    [[nodiscard]] bool needsUtf8() const { return m_change.needsUtf8(); }
+
+private:
+    [[nodiscard]] bool step(Token token);
+    [[nodiscard]] bool stepElement();
+    [[nodiscard]] bool stepSequence();
+    [[nodiscard]] bool changeElement(const Element &element);
+    [[nodiscard]] bool insertBefore(TagNumber tag, quint64 offset);
+    void noteSurroundings(const Element &element);
+    void noteValue(TagNumber tag, const QByteArray &value);
+    [[nodiscard]] bool fail(const QString &problem);
+
+    ElementReader &m_reader;
+    Notation m_notation;
+    Levels m_levels;
+    ValueChange m_change;
+    AttributeRules m_toInsert; // what the top level still lacks
+    QSet<TagNumber> m_inserted;
+    Rewriting m_result;
+};
+
+Rewriting Rewriter::run()
+{
+    Token token = Token::Element;
+    while (token != Token::End && m_result.problem.isEmpty()) {
+        token = m_reader.next();
+        if (!step(token) && m_result.problem.isEmpty())
+            m_result.problem = Texts::tr("cannot be rewritten");
+    }
+    m_result.patches = m_levels.patches();
+    return std::move(m_result);
+}
+
+bool Rewriter::step(Token token)
+{
+    switch (token) {
+    case Token::Element: return stepElement();
+    case Token::Sequence: return stepSequence();
+    case Token::Item: m_levels.enter(m_reader.current()); return true;
+    case Token::ItemEnd:
+    case Token::SequenceEnd: m_levels.leave(); return true;
+    case Token::End: return insertBefore(0xffffffff, m_reader.position());
+    case Token::Damaged: return fail(m_reader.problem());
+    }
+    return false;
+}
+
+bool Rewriter::stepElement()
+{
+    const Element element = m_reader.current();
+    if (m_levels.isTop() && !insertBefore(element.tag, element.start))
+        return false;
+    m_levels.enterGroup(groupOf(element.tag));
+    noteSurroundings(element);
+    return changeElement(element);
+}
+
+void Rewriter::noteSurroundings(const Element &element)
+{
+    if (element.length > longestNoted)
+        return;
+    const bool stays = !m_change.erasesPrivate(element.tag, m_levels.surroundings());
+    if (elementOf(element.tag) == 0 && element.length == 4 && stays)
+        m_levels.setGroupLength(element, element.notation.number32(m_reader.value().constData()));
+    else if (element.tag == characterSetTag)
+        m_levels.surroundings().characterSet = withoutPadding(m_reader.value());
+    else if (isPrivate(element.tag) && elementOf(element.tag) <= 0xff)
+        m_levels.surroundings().creators.insert(
+            privateBlock(element.tag), QString::fromLatin1(withoutPadding(m_reader.value()).trimmed()));
+}
+
+bool Rewriter::stepSequence()
+{
+    const Element element = m_reader.current();
+    if (m_levels.isTop() && !insertBefore(element.tag, element.start))
+        return false;
+    m_levels.enterGroup(groupOf(element.tag));
+    if (!m_change.erasesSequence(element, m_levels.surroundings())) {
+        m_levels.enter(element);
+        return true;
+    }
+    if (!m_reader.leaveSequence())
+        return fail(m_reader.problem());
+    m_levels.replace(element.start, m_reader.position() - element.start, {});
+    return true;
+}
+
+bool Rewriter::changeElement(const Element &element)
+{
+    const quint64 size = element.end() - element.start;
+    if (m_levels.isTop() && m_inserted.contains(element.tag)) {
+        m_levels.replace(element.start, size,
+                         {}); // elements were out of order: it stands in its place already
+        return true;
+    }
+    const ValueChange::Result change = m_change.apply(m_reader, element, m_levels.surroundings());
+    if (!change.problem.isEmpty())
+        return fail(change.problem);
+    if (change.value)
+        m_levels.replace(element.start, size,
+                         elementBytes(element.tag, change.representation, element.notation, *change.value));
+    else if (change.erase)
+        m_levels.replace(element.start, size, {});
+    if (m_levels.isTop() && !change.erase)
+        noteValue(element.tag, change.value.value_or(QByteArray()));
+    return true;
+}
+
+bool Rewriter::insertBefore(TagNumber tag, quint64 offset)
+{
+    while (!m_toInsert.isEmpty() && m_toInsert.firstKey() < tag) {
+        const TagNumber added = m_toInsert.firstKey();
+        const AttributeRule rule = m_toInsert.take(added);
+        const ValueChange::Result change =
+            m_change.inserted(added, rule, m_notation, m_levels.surroundings().characterSet);
+        if (!change.problem.isEmpty())
+            return fail(change.problem);
+        m_levels.enterGroup(groupOf(added));
+        m_levels.replace(offset, 0, elementBytes(added, change.representation, m_notation, *change.value));
+        m_inserted.insert(added);
+        noteValue(added, *change.value);
+    }
+    m_toInsert.remove(tag);
+    return true;
+}
+
+// An empty value stands for the one in the file.
+void Rewriter::noteValue(TagNumber tag, const QByteArray &value)
+{
+    if (value.isEmpty() && m_reader.current().length > longestNoted)
+        return;
+    QByteArray *noted = tag == sopInstanceTag ? &m_result.sopInstance
+                        : tag == seriesTag    ? &m_result.series
+                        : tag == studyTag     ? &m_result.study
+                                              : nullptr;
+    if (noted)
+        *noted = withoutPadding(value.isEmpty() ? m_reader.value() : value);
+}
+
+bool Rewriter::fail(const QString &problem)
+{
+    m_result.problem = problem;
+    return false;
+}
+
+} // namespace
+
+Rewriting rewriting(SourceFile &file, quint64 begin, quint64 end, const Notation &notation,
+                    const Treatment &treatment)
+{
+    ElementReader reader(file, begin, end, notation);
+    Rewriter rewriter(reader, notation, treatment, false);
+    Rewriting result = rewriter.run();
+    if (!rewriter.needsUtf8())
+        return result;
+    ElementReader again(file, begin, end, notation);
+    result = Rewriter(again, notation, treatment, true).run();
+    result.movedToUtf8 = true;
+    return result;
+}
+
+} // namespace dravolin
