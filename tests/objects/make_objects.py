@@ -14,13 +14,13 @@
       --pixels BYTES  (each with its character set), studies, and series of 5 in folders of their own. BYTES
       --flat          is the size of one frame. --flat puts all into one folder, --no-directory leaves out the
       --no-directory  DICOMDIR that comes beside the N objects
-    places            pairs ORIGINALS/N/image.dcm and RESULT/N/image.dcm: the original has a value of every class,
-                      the result still has one of them, at one place, in one spelling and encoding, or none; for
-                      a file or folder name the result's path differs. `row` names the pair in planted.json,
-                      `source` the original's attribute and value
-    hostile           damaged, truncated, endless, deeply nested files, such as lie about themselves, such as are
-      --special       no objects; planted.json has the `fault` of each. unusual/ is well-formed. --special adds
-                      special/, unlisted: names that are not UTF-8, links, a pipe
+    places            pairs ORIGINALS/N/image.dcm and RESULT/N/image.dcm: the original has values of every
+                      class, the result still has one of them, at one place, in one spelling and encoding, or
+                      none; for a file or folder name the result's path differs. In planted.json `row` names
+                      the pair, `source` the original's attribute and value
+    hostile           damaged, truncated, endless and deeply nested files, false headers, no objects;
+      --special       planted.json has the `fault` of each. unusual/ is well-formed. --special adds special/,
+                      which is not listed: names that are not UTF-8, links, a pipe
 
 The folder is made when it is not there. planted.json in it describes every file (path, kind, sop_class,
 modality, transfer_syntax, character_set, undefined_lengths) and in `planted` each identifying value:

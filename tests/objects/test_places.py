@@ -2,14 +2,16 @@
 """Pairs of an original and a result that still has one of its values."""
 import pathlib
 import re
+import subprocess
 import unittest
 
+from dump import dump
 from support import SetTests, split
 
 PLACES = {"data set", "private bytes", "file meta", "preamble", "trailing bytes", "file name", "folder name"}
 CLASSES = {"person", "identifier", "date", "place", "contact", "device", "institution", "free text", "UID"}
-VRS = {"AE", "CS", "DA", "DS", "DT", "FD", "FL", "IS", "LO", "LT", "OB", "OD", "OF", "OL", "OW", "PN", "SH", "SL",
-       "SS", "ST", "SV", "TM", "UC", "UI", "UL", "UR", "US", "UT", "UV"}
+VRS = {"AE", "CS", "DA", "DS", "DT", "FD", "FL", "IS", "LO", "LT", "OB", "OD", "OF", "OL", "OW", "PN", "SH",
+       "SL", "SS", "ST", "SV", "TM", "UC", "UI", "UL", "UR", "US", "UT", "UV"}
 
 
 class PlacesTest(SetTests, unittest.TestCase):
@@ -24,8 +26,9 @@ class PlacesTest(SetTests, unittest.TestCase):
     def test_each_row_has_a_name_of_its_own_and_at_most_one_value(self):
         names = [file["row"] for file in self.results().values()]
         self.assertEqual(len(names), len(set(names)))
-        self.assertEqual([path for path, file in self.results().items()
-                          if len(file["planted"]) != (0 if file["row"].startswith("nothing planted") else 1)], [])
+        for path, file in self.results().items():
+            expected = 0 if file["row"].startswith("nothing planted") else 1
+            self.assertEqual(len(file["planted"]), expected, path)
 
     def test_every_place_vr_and_class_has_a_row(self):
         plants = self.plants().values()
@@ -41,6 +44,20 @@ class PlacesTest(SetTests, unittest.TestCase):
                 where = {"preamble": preamble, "file meta": header, "trailing bytes": rest[-100:],
                          "file name": name.name.encode(), "folder name": name.parent.name.encode()}
                 self.assertIn(bytes.fromhex(plant["bytes"]), where.get(plant["place"], rest))
+
+    def test_names_are_in_the_declared_character_sets(self):
+        plants = {path: file for path, file in self.results().items() if " to " in file["row"]}
+        for path, file in plants.items():
+            plant = file["planted"][0]
+            if "ISO 2022 IR 87" in file["character_set"]:  # nothing that DCMTK converts
+                run = subprocess.run(["iconv", "-f", "ISO-2022-JP", "-t", "UTF-8"], check=True, timeout=60,
+                                     input=bytes.fromhex(plant["bytes"]), stdout=subprocess.PIPE)
+                self.assertEqual(run.stdout.decode(), plant["value"])
+            else:
+                dumps, remarks = dump(self.folder, [path], "+U8")
+                self.assertEqual(remarks, [])
+                self.assertEqual(dumps[path].values[plant["tag"]], ("PN", f"[{plant['value']}]".encode()))
+        self.assertEqual(len(plants), 18)
 
     def test_nothing_else_of_the_original_is_in_a_result(self):
         for path, file in self.results().items():

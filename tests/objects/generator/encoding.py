@@ -9,8 +9,7 @@ from .dataset import UN, UN_SEQUENCE, Pixels
 LONG_FORM = {"OB", "OD", "OF", "OL", "OV", "OW", "SQ", "SV", "UC", "UN", "UR", "UT", "UV"}
 IN_CHARACTER_SET = {"LO", "LT", "PN", "SH", "ST", "UC", "UT"}
 NUMBERS = {"FD": "d", "FL": "f", "OD": "d", "OF": "f", "OL": "I", "SL": "i", "SS": "h", "SV": "q", "UL": "I",
-           "US": "H",
-           "UV": "Q"}
+           "US": "H", "UV": "Q"}
 PIXEL_DATA = 0x7FE00010
 CHARACTER_SET = 0x00080005
 ITEM, ITEM_END, SEQUENCE_END = 0xFFFEE000, 0xFFFEE00D, 0xFFFEE0DD
@@ -50,9 +49,9 @@ class Lengths:
 
 
 def value_bytes(vr, value, encode, big_endian=False):
-    """A value's bytes before padding. Bytes are taken as they are, words of OW are given in little endian."""
+    """A value's bytes before padding; bytes are taken as they are."""
     if isinstance(value, bytes):
-        return _swapped(value) if big_endian and vr == "OW" else value
+        return value
     values = value if isinstance(value, list) else [value]
     order = ">" if big_endian else "<"
     if vr == "AT":

@@ -1,7 +1,7 @@
 """Files that a reader has to survive: damaged, truncated, endless, absurdly nested, or no objects at all.
 
-Those in unusual/ are well-formed, of a kind that libraries do not know or treat wrongly. With `--special` there are
-links, a pipe and names beside them that are not UTF-8.
+Those in unusual/ are well-formed, of a kind that libraries do not know or treat wrongly. `--special` adds
+what only a file system can hold against a reader: links, a pipe, names that are not UTF-8.
 """
 import os
 import pathlib
@@ -11,8 +11,7 @@ import zlib
 
 from ..dataset import UN, UN_SEQUENCE
 from ..encoding import (CHARACTER_SET, DEFLATED, DEFLATED_FRAMES, EXPLICIT, HTJ2K, IMPLICIT, ITEM, ITEM_END,
-                        JPEG_2000, JPEG_XL,
-                        PIXEL_DATA, SEQUENCE_END, UNDEFINED, Encoder, Lengths, Syntax)
+                        JPEG_2000, JPEG_XL, PIXEL_DATA, SEQUENCE_END, UNDEFINED, Encoder, Lengths, Syntax)
 from ..files import ObjectFile
 from ..kinds import KINDS
 from ..kinds.directory import directory
@@ -42,9 +41,8 @@ def _object(uids, kind="CT", syntax=EXPLICIT, lengths=Lengths()):
     """An ordinary object with a sequence and a private block."""
     study = Study(uids.new(), Patient("Damaged^Deirdre", "ID4711", "19700131", "O"))
     image = Reference(study.uid, uids.new(), KINDS["CT"].sop_class, uids.new())
-    data_set = KINDS[kind].make(Instance(Series(uids.new(), study, uids.new()), uids.new(),
-                                         references=[image]))
-    file = ObjectFile(data_set, syntax, lengths)
+    series = Series(uids.new(), study, uids.new())
+    file = ObjectFile(KINDS[kind].make(Instance(series, uids.new(), references=[image])), syntax, lengths)
     spots.nested(3)(file, "three levels down", None)
     spots.private_sequence()(file, "private", None)
     return file
@@ -60,23 +58,25 @@ def _with(uids, elements, syntax=EXPLICIT):
 
 def _nested(uids):
     for depth in DEPTHS:
-        for name, syntax in (("explicit", EXPLICIT), ("implicit", IMPLICIT)):
-            writer = Encoder(syntax)
-            begin = writer.header(SEQUENCE, "SQ", UNDEFINED) + writer.header(ITEM, "", UNDEFINED)
-            end = writer.header(ITEM_END, "", 0) + writer.header(SEQUENCE_END, "", 0)
-            yield (f"nested/{depth}-{name}.dcm", _with(uids, begin * depth + end * depth, syntax),
+        for name, writer in (("explicit", EXPLICIT_ENCODER), ("implicit", IMPLICIT_ENCODER)):
+            begin, end = _level(writer)
+            yield (f"nested/{depth}-{name}.dcm", _with(uids, begin * depth + end * depth, writer.syntax),
                    f"sequences {depth} deep, of undefined length")
-            yield f"nested/{depth}-{name}-open.dcm", _with(uids, begin * depth,
-                                                           syntax), f"sequences {depth} deep that do not end"
+            yield (f"nested/{depth}-{name}-open.dcm", _with(uids, begin * depth, writer.syntax),
+                   f"sequences {depth} deep that do not end")
         yield (f"nested/{depth}-defined.dcm", _with(uids, _defined(depth)),
                f"sequences {depth} deep, of defined length")
-        begin = EXPLICIT_ENCODER.header(0x00291010, UN, UNDEFINED) + IMPLICIT_ENCODER.header(ITEM, "",
-                                                                                             UNDEFINED)
-        inner = IMPLICIT_ENCODER.header(SEQUENCE, "", UNDEFINED) + IMPLICIT_ENCODER.header(ITEM, "",
-                                                                                           UNDEFINED)
-        end = IMPLICIT_ENCODER.header(ITEM_END, "", 0) + IMPLICIT_ENCODER.header(SEQUENCE_END, "", 0)
-        yield (f"nested/{depth}-un.dcm", _with(uids, begin + inner * (depth - 1) + end * depth),
+        unknown = EXPLICIT_ENCODER.header(0x00291010, UN, UNDEFINED)
+        unknown += IMPLICIT_ENCODER.header(ITEM, "", UNDEFINED)
+        begin, end = _level(IMPLICIT_ENCODER)
+        yield (f"nested/{depth}-un.dcm", _with(uids, unknown + begin * (depth - 1) + end * depth),
                f"sequences {depth} deep in an element of VR UN")
+
+
+def _level(writer):
+    """What begins a sequence with one item, and what ends it."""
+    return (writer.header(SEQUENCE, "SQ", UNDEFINED) + writer.header(ITEM, "", UNDEFINED),
+            writer.header(ITEM_END, "", 0) + writer.header(SEQUENCE_END, "", 0))
 
 
 def _defined(depth):
@@ -99,94 +99,108 @@ def _truncated(uids):
         points = {1, 127, 128, 131, 132, 140, len(content) - 1, len(content) - 2}
         points |= {len(content) * step // CUTS for step in range(1, CUTS)}
         for point in sorted(points):
-            yield f"truncated/{name}-{point:05}.dcm", content[:point], f"ends after {point} of {len(content)} bytes"
+            yield (f"truncated/{name}-{point:05}.dcm", content[:point],
+                   f"ends after {point} of {len(content)} bytes")
+
+
+ELEMENT = EXPLICIT_ENCODER.header
+TEXT = ELEMENT(0x00321060, "LO", 4) + b"text"
+ITEM_OF_8 = ELEMENT(ITEM, "", 8)
+EMPTY_ID = ELEMENT(0x00100020, "LO", 0)
+OPEN_SEQUENCE = ELEMENT(SEQUENCE, "SQ", UNDEFINED)
+OPEN_PIXELS = ELEMENT(PIXEL_DATA, "OB", UNDEFINED) + ELEMENT(ITEM, "", 0)
 
 
 def _lengths(uids):
-    element, item = EXPLICIT_ENCODER.header, EXPLICIT_ENCODER.header(ITEM, "", 8)
-    inner = EXPLICIT_ENCODER.header(0x00100020, "LO", 0)
-    end = element(ITEM_END, "", 0) + element(SEQUENCE_END, "", 0)
-    cases = [
-        ("odd", element(0x00321060, "LO", 3) + b"odd", "a value of odd length"),
-        ("odd-item",
-         element(SEQUENCE, "SQ", 19) + element(ITEM, "", 11) + element(0x00100020, "LO", 3) + b"odd",
-         "an item of odd length"),
-        ("beyond", element(0x00321060, "LO", 200) + b"short", "a value that ends behind the file"),
-        ("beyond-sequence", element(SEQUENCE, "SQ", 4000) + item + inner,
-         "a sequence that ends behind the file"),
-        ("beyond-item", element(SEQUENCE, "SQ", 16) + element(ITEM, "", 4000) + inner,
-         "an item that ends behind the file"),
-        ("item-longer", element(SEQUENCE, "SQ", 16) + element(ITEM, "", 24) + inner * 3,
-         "an item longer than its sequence"),
-        ("value-longer", element(SEQUENCE, "SQ", 16) + item + element(0x00100020, "LO", 8) + b"longer..",
-         "a value longer than its item"),
-        ("open-sequence", element(SEQUENCE, "SQ", UNDEFINED) + item + inner, "a sequence without its end"),
-        ("open-item", element(SEQUENCE, "SQ", UNDEFINED) + element(ITEM, "", UNDEFINED) + inner,
-         "an item without its end"),
-        ("open-pixels", element(PIXEL_DATA, "OB", UNDEFINED) + element(ITEM, "", 0),
-         "pixel data without its end"),
-        ("open-un", element(0x00291010, UN, UNDEFINED) + item + IMPLICIT_ENCODER.header(0x00100020, "", 0),
-         "an element of VR UN without its end"),
-        ("undefined-text", element(0x0040A160, "UT", UNDEFINED) + b"endless ", "a text of undefined length"),
-        ("fragment",
-         element(PIXEL_DATA, "OB", UNDEFINED) + element(ITEM, "", 0) + element(ITEM, "", 0x7FFFFFF0) + b"few",
-         "a fragment longer than the file"),
-    ]
+    for source in (_odd, _too_long, _open, _huge):
+        for name, elements, fault in source():
+            yield f"lengths/{name}.dcm", _with(uids, elements), fault
+
+
+def _odd():
+    odd = ELEMENT(0x00100020, "LO", 3) + b"odd"
+    yield "odd", odd, "a value of odd length"
+    yield "odd-item", ELEMENT(SEQUENCE, "SQ", 19) + ELEMENT(ITEM, "", 11) + odd, "an item of odd length"
+
+
+def _too_long():
+    sequence = ELEMENT(SEQUENCE, "SQ", 16)
+    yield "value-beyond", ELEMENT(0x00321060, "LO", 200) + b"short", "a value that ends behind the file"
+    yield ("sequence-beyond", ELEMENT(SEQUENCE, "SQ", 4000) + ITEM_OF_8 + EMPTY_ID,
+           "a sequence that ends behind the file")
+    yield "item-beyond", sequence + ELEMENT(ITEM, "", 4000) + EMPTY_ID, "an item that ends behind the file"
+    yield "item-longer", sequence + ELEMENT(ITEM, "", 24) + EMPTY_ID * 3, "an item longer than its sequence"
+    yield ("value-longer", sequence + ITEM_OF_8 + ELEMENT(0x00100020, "LO", 8) + b"longer..",
+           "a value longer than its item")
+    yield "fragment", OPEN_PIXELS + ELEMENT(ITEM, "", 0x7FFFFFF0) + b"few", "a fragment longer than the file"
+
+
+def _open():
+    unknown = ELEMENT(0x00291010, UN, UNDEFINED) + ITEM_OF_8 + IMPLICIT_ENCODER.header(0x00100020, "", 0)
+    yield "open-sequence", OPEN_SEQUENCE + ITEM_OF_8 + EMPTY_ID, "a sequence without its end"
+    yield "open-item", OPEN_SEQUENCE + ELEMENT(ITEM, "", UNDEFINED) + EMPTY_ID, "an item without its end"
+    yield "open-pixels", OPEN_PIXELS, "pixel data without its end"
+    yield "open-un", unknown, "an element of VR UN without its end"
+    yield ("undefined-text", ELEMENT(0x0040A160, "UT", UNDEFINED) + b"endless ",
+           "a text of undefined length")
+    yield ("needless-end", ELEMENT(SEQUENCE, "SQ", 24) + ITEM_OF_8 + EMPTY_ID + ELEMENT(ITEM_END, "", 0),
+           "an end that no item needs")
+
+
+def _huge():
     for size in (0x7FFFFFFF, 0x80000000, 0xFFFFFFFE):
-        cases += [(f"huge-{vr}-{size:x}", element(0x0040A160, vr, size) + b"little",
+        for vr in ("UT", "OB", "SQ", "UN"):
+            yield (f"huge-{vr}-{size:x}", ELEMENT(0x0040A160, vr, size) + b"little",
                    f"{size} bytes claimed, VR {vr}")
-                  for vr in ("UT", "OB", "SQ", "UN")]
-        cases.append((f"huge-item-{size:x}",
-                      element(SEQUENCE, "SQ", UNDEFINED) + element(ITEM, "", size) + inner,
-                      f"{size} bytes claimed by an item"))
-    cases.append(("mixed-ends", element(SEQUENCE, "SQ", 24) + item + inner + end[:8],
-                  "an end that no item needs"))
-    for name, elements, fault in cases:
-        yield f"lengths/{name}.dcm", _with(uids, elements), fault
+        yield (f"huge-item-{size:x}", OPEN_SEQUENCE + ELEMENT(ITEM, "", size) + EMPTY_ID,
+               f"{size} bytes claimed by an item")
 
 
 def _order(uids):
-    element, text = EXPLICIT_ENCODER.header, EXPLICIT_ENCODER.header(0x00321060, "LO", 4) + b"text"
     for name, elements, fault in (
-            ("item", element(ITEM, "", 12) + text, "an item outside a sequence"),
-            ("item-end", element(ITEM_END, "", 0) + text, "the end of an item outside a sequence"),
-            ("sequence-end", element(SEQUENCE_END, "", 0) + text, "the end of a sequence outside one"),
-            ("no-item", element(SEQUENCE, "SQ", 12) + text,
-             "a sequence with an element in the place of an item"),
-            ("twice", text * 2, "an element that stands twice"),
-            ("descending", text + element(0x00104000, "LT", 4) + b"text", "elements in descending order"),
-            ("group-0000", element(0x00000010, "LO", 4) + b"text", "a command's element in the data set"),
-            ("group-0002", element(0x00020016, "AE", 4) + b"text", "a header's element in the data set"),
-            ("odd-vr", element(0x00321060, "??", 4) + b"text", "a VR that does not exist"),
-            ("zero-vr", element(0x00321060, "\0\0", 4) + b"text", "a VR of two zeros")):
+            ("item", ELEMENT(ITEM, "", 12) + TEXT, "an item outside a sequence"),
+            ("item-end", ELEMENT(ITEM_END, "", 0) + TEXT, "the end of an item outside a sequence"),
+            ("sequence-end", ELEMENT(SEQUENCE_END, "", 0) + TEXT, "the end of a sequence outside one"),
+            ("no-item", ELEMENT(SEQUENCE, "SQ", 12) + TEXT, "a sequence with an element as item"),
+            ("twice", TEXT * 2, "an element that stands twice"),
+            ("descending", TEXT + ELEMENT(0x00104000, "LT", 4) + b"text", "elements in descending order"),
+            ("group-0000", ELEMENT(0x00000010, "LO", 4) + b"text", "a command's element in the data set"),
+            ("group-0002", ELEMENT(0x00020016, "AE", 4) + b"text", "a header's element in the data set"),
+            ("odd-vr", ELEMENT(0x00321060, "??", 4) + b"text", "a VR that does not exist"),
+            ("zero-vr", ELEMENT(0x00321060, "\0\0", 4) + b"text", "a VR of two zeros")):
         yield f"order/{name}.dcm", _with(uids, elements), fault
 
 
 def _mistaken(uids):
     """Headers that do not tell the truth."""
-    whole = _object(uids).encoded()
-    start = 144 + struct.unpack("<I", whole[140:144])[0]
-    header, data_set = whole[:start], whole[start:]
-    implicit = _object(uids, syntax=IMPLICIT)
+    whole, implicit, deflated = (_object(uids, syntax=syntax) for syntax in (EXPLICIT, IMPLICIT, DEFLATED))
+    begin, header = whole.encoded()[:140], whole.header()
+    explicit_set = EXPLICIT_ENCODER.data_set(whole.data_set)
+    implicit_set = IMPLICIT_ENCODER.data_set(implicit.data_set)
     garbage = random.Random("garbage").randbytes(2000)
-    huge = zlib.compressobj(wbits=-zlib.MAX_WBITS)
-    bomb = huge.compress(EXPLICIT_ENCODER.header(0x0040A160, "UT", 1 << 26) + b" " * (1 << 26)) + huge.flush()
-    deflated = _object(uids, syntax=DEFLATED)
-    yield "mistaken/implicit.dcm", header + Encoder(IMPLICIT).data_set(implicit.data_set), "implicit, said to be explicit"
-    yield "mistaken/explicit.dcm", implicit.header() + data_set, "explicit, said to be implicit"
-    yield "mistaken/not-deflated.dcm", deflated.header() + data_set, "said to be deflated"
-    yield "mistaken/garbage.dcm", deflated.header() + garbage, "a deflated stream that is none"
-    yield "mistaken/bomb.dcm", deflated.header() + bomb, "64 MiB of blanks, deflated"
-    yield "mistaken/noise.dcm", header + garbage, "random bytes behind a header"
-    yield "mistaken/unknown-syntax.dcm", ObjectFile(implicit.data_set,
-                                                    STRANGE).encoded(), "an unknown transfer syntax"
-    yield "mistaken/long-header.dcm", whole[:140] + struct.pack("<I",
-                                                                1 << 30) + whole[144:], "a header of 1 GiB"
-    yield "mistaken/short-header.dcm", whole[:140] + struct.pack("<I", 4) + whole[144:], "a header of 4 bytes"
-    yield "mistaken/no-header.dcm", whole[:132] + data_set, "a prefix and no header"
-    yield "mistaken/no-preamble.dcm", whole[132:], "a header without preamble"
-    yield "mistaken/data-set-alone.dcm", Encoder(IMPLICIT).data_set(implicit.data_set), "a data set without a header"
-    yield "mistaken/header-alone.dcm", header, "a header and no data set"
+    for name, content, fault in (
+            ("implicit", header + implicit_set, "implicit, said to be explicit"),
+            ("explicit", implicit.header() + explicit_set, "explicit, said to be implicit"),
+            ("not-deflated", deflated.header() + explicit_set, "said to be deflated"),
+            ("garbage", deflated.header() + garbage, "a deflated stream that is none"),
+            ("bomb", deflated.header() + _bomb(), "64 MiB of blanks, deflated"),
+            ("noise", header + garbage, "random bytes behind a header"),
+            ("unknown-syntax", ObjectFile(whole.data_set, STRANGE).encoded(), "an unknown transfer syntax"),
+            ("long-header", begin + struct.pack("<I", 1 << 30) + header[144:] + explicit_set,
+             "a header of 1 GiB"),
+            ("short-header", begin + struct.pack("<I", 4) + header[144:] + explicit_set,
+             "a header of 4 bytes"),
+            ("no-header", header[:132] + explicit_set, "a prefix and no header"),
+            ("no-preamble", header[132:] + explicit_set, "a header without preamble"),
+            ("data-set-alone", implicit_set, "a data set without a header"),
+            ("header-alone", header, "a header and no data set")):
+        yield f"mistaken/{name}.dcm", content, fault
+
+
+def _bomb():
+    size = 1 << 26
+    packer = zlib.compressobj(wbits=-zlib.MAX_WBITS)
+    return packer.compress(ELEMENT(0x0040A160, "UT", size) + b" " * size) + packer.flush()
 
 
 def _no_objects(uids):
@@ -219,7 +233,7 @@ def _unusual(uids):
 
 
 def _special(output):
-    """What only a file system can hold against a reader; planted.json does not list it."""
+    """planted.json does not list these."""
     folder = output.folder / "special"
     folder.mkdir(exist_ok=True)
     content = (output.folder / "unusual/un.dcm").read_bytes()

@@ -5,8 +5,8 @@ from ..subjects import Patient, Study, Uids
 
 # What the objects of a person carry, with the class of each value.
 ATTRIBUTES = {"PatientName": "person", "PatientID": "identifier", "PatientBirthDate": "date",
-              "AccessionNumber": "identifier",
-              "PatientAddress": "place", "PatientTelephoneNumbers": "contact", "StationName": "device",
+              "AccessionNumber": "identifier", "PatientAddress": "place",
+              "PatientTelephoneNumbers": "contact", "StationName": "device",
               "InstitutionName": "institution", "StudyDescription": "free text", "StudyDate": "date",
               "OtherPatientIDs": "identifier", "StudyID": "identifier", "PatientBirthTime": "date",
               "ReferringPhysicianName": "person", "StudyInstanceUID": "UID"}
@@ -26,9 +26,8 @@ class Person:
         return {"PatientName": self.patient.name, "PatientID": self.patient.id,
                 "PatientBirthDate": self.patient.birth_date, "AccessionNumber": self.study.accession,
                 "StudyDescription": self.study.description, "StudyDate": self.study.date,
-                "StudyID": self.study.id,
-                "ReferringPhysicianName": self.study.referring, "StudyInstanceUID": self.study.uid,
-                **self.other}
+                "StudyID": self.study.id, "ReferringPhysicianName": self.study.referring,
+                "StudyInstanceUID": self.study.uid, **self.other}
 
 
 class People:
@@ -40,11 +39,11 @@ class People:
         self.uids = Uids(source)
 
     def person(self, spelt="ascii", character_set=""):
-        """`spelt` is "ascii", "latin" (umlauts, accents), "polish", "greek", "cyrillic", "japanese" or "korean"."""
+        """`spelt` is "ascii", "latin" (umlauts, accents), "polish" or a script: "greek", "japanese", ..."""
         family, given = self._names(spelt)
         patient = Patient(f"{family}^{given}", self._number(9), self._date(1925, 1999), "O")
         if spelt in CHARACTERS:
-            # The first component group is the name in Latin letters, the second one the same in the other script.
+            # The first component group has Latin letters, the second one those of the other script.
             latin = self._names("ascii")
             patient.name = f"{latin[0]}^{latin[1]}={patient.name}"
         short = self._unused(lambda: str(self._random.randrange(10007, 1 << 15)))

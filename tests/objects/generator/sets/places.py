@@ -1,4 +1,4 @@
-"""Pairs of an original and a result that still carries one value of it: a row for every place and every spelling."""
+"""Pairs of an original and a result that still has one value of it: a row for every place and spelling."""
 import pathlib
 import random
 
@@ -17,11 +17,10 @@ from .spots import name as named
 def write(folder, seed, options):
     output = Output(folder, "places", seed)
     people = People(random.Random(f"places {seed}"))
-    count = 0
-    for count, row in enumerate(rows(), 1):
-        kind = KINDS[row.kind or list(KINDS)[count % len(KINDS)]]
-        _write_row(output, people, row, kind, count)
-    return output.finish(rows=count)
+    for number, row in enumerate(rows(), 1):
+        kind = KINDS[row.kind or list(KINDS)[number % len(KINDS)]]
+        _write_row(output, people, row, kind, number)
+    return output.finish()
 
 
 def _write_row(output, people, row, kind, number):
@@ -35,8 +34,8 @@ def _write_row(output, people, row, kind, number):
     if not row.source:
         output.add(path, kind, result, row=row.name, original=f"ORIGINALS/{number}/image.dcm")
         return
-    plant = Plant(row.spell(person), ATTRIBUTES[row.source], person.attributes()[row.source], row.spelling,
-                  row.encoding)
+    value = person.attributes()[row.source]
+    plant = Plant(row.spell(person), ATTRIBUTES[row.source], value, row.spelling, row.encoding)
     planted, path = _put(row, result, plant, path)
     output.add(path, kind, result, planted, row=row.name, original=f"ORIGINALS/{number}/image.dcm",
                source={"keyword": row.source, "tag": tag_text(ATTRIBUTE_TAGS[row.source][0]),

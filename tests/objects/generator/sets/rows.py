@@ -6,7 +6,7 @@ from ..charsets import JAPANESE, KOREAN, LATIN_1, UTF_8
 from ..encoding import (BIG_ENDIAN, DEFLATED, EXPLICIT, IMPLICIT, JPEG_2000, RLE, Lengths, Syntax)
 from ..kinds import KINDS
 from . import spellings, spots
-from .identity import ATTRIBUTES
+from .identity import ATTRIBUTES, CHARACTERS
 
 COMMENTS = spots.top_level(0x00104000, "LT")
 DESCRIPTION = spots.top_level(0x00081030, "LO")
@@ -97,18 +97,15 @@ def _places():
         yield Row(f"behind the deflated stream, {value}", source, spots.trailing, spell, syntax=DEFLATED)
     yield Row("title in the header, identifier", "PatientID", spots.meta_title, value_of("PatientID"))
     yield Row("title in the header, person", "PatientName", spots.meta_title,
-              lambda person: person.family.upper(),
-              "capitals, family name alone")
+              lambda person: person.family.upper(), "capitals, family name alone")
 
 
 TEXTS = {"AE": 0x00080054, "CS": 0x00180015, "DS": 0x00181110, "IS": 0x00201002, "LO": 0x00181030,
          "LT": 0x00104000,
          "OB": 0x00282000, "OW": 0x00281201, "PN": 0x00081050, "SH": 0x00180024, "ST": 0x00080081,
-         "UC": 0x00080119,
-         "UR": 0x00080120, "UT": 0x0040A160}
+         "UC": 0x00080119, "UR": 0x00080120, "UT": 0x0040A160}
 NUMBERS = {"FD": 0x00189073, "OD": 0x00660022, "OL": 0x00660040, "SL": 0x00186020, "SV": 0x00720082,
-           "UL": 0x00186030,
-           "UV": 0x00720083}
+           "UL": 0x00186030, "UV": 0x00720083}
 SMALL_NUMBERS = {"FL": 0x00089459, "OF": 0x00660016, "SS": 0x00189219, "US": 0x00189093}
 TIMES = {"DA": (0x00080012, "PatientBirthDate", same),
          "DT": (0x0008002A, "PatientBirthDate", "{}120000".format),
@@ -139,8 +136,7 @@ def _spellings():
     for spelling, write in spellings.NAMES.items():
         yield Row(f"name, {spelling}", "PatientName", COMMENTS, spelt_name(write), spelling)
         yield Row(f"name with umlauts, {spelling}", "PatientName", COMMENTS, spelt_name(write), spelling,
-                  spelt="latin",
-                  sets=(LATIN_1, UTF_8))
+                  spelt="latin", sets=(LATIN_1, UTF_8))
     for spelling, write in spellings.LETTERS.items():
         yield Row(f"name, {spelling}", "PatientName", COMMENTS, spelt_name(write), spelling, spelt="latin",
                   sets=(LATIN_1, ""))
@@ -160,13 +156,19 @@ def _character_sets():
     for spelt, own in OWN_SETS.items():
         for original, result in ((own, own), (own, UTF_8), (UTF_8, own)):
             name = f"{spelt} name, {set_name(original)} to {set_name(result)}"
-            yield Row(name, "PatientName", OTHER_NAMES, full_name, spelt=spelt, sets=(original, result))
+            yield Row(name, "PatientName", OTHER_NAMES, in_group_of(spelt), spelt=spelt,
+                      sets=(original, result))
         yield Row(f"{spelt} name, three levels down", "PatientName", THREE_DEEP, full_name, spelt=spelt,
                   sets=(own, own))
         yield Row(f"{spelt} name, private", "PatientName", spots.private("LO"), full_name, spelt=spelt,
                   sets=(own, own))
         yield Row(f"{spelt} name, character set of an item", "PatientName", spots.item_of_set(own), full_name,
                   spelt=spelt, sets=(own, ""), encoding=set_name(own))
+
+
+def in_group_of(spelt):
+    """The first component group of a PN has no escape sequences: such names are in the second."""
+    return (lambda person: "=" + full_name(person)) if spelt in CHARACTERS else full_name
 
 
 def set_name(character_set):
@@ -183,8 +185,7 @@ def _bytes():
                 continue
             encode = encoder_of(codec)
             row = Row(f"{spelt} name in private bytes, {encoding}", "PatientName", PRIVATE_BYTES, full_name,
-                      "", encode,
-                      encoding, spelt, (OWN_SETS.get(spelt, ""), ""))
+                      "", encode, encoding, spelt, (OWN_SETS.get(spelt, ""), ""))
             yield row
             shifted = encoder_of(codec, b"\1")
             if codec.startswith("utf-16-"):
@@ -213,8 +214,7 @@ TYPICAL = {
                          value_of("PatientBirthDate")),
     "name of a region": ("RTSTRUCT", "PatientName", ((0x30060020, 0),), 0x30060026, "LO", full_name),
     "study of a structure set": ("RTSTRUCT", "StudyInstanceUID", ((0x30060010, 0), (0x30060012, 0)),
-                                 0x00081155, "UI",
-                                 value_of("StudyInstanceUID")),
+                                 0x00081155, "UI", value_of("StudyInstanceUID")),
     "text of an annotation": ("GSPS", "PatientName", ((0x00700001, 0), (0x00700008, 0)), 0x00700006, "ST",
                               full_name),
     "frame of an enhanced image": ("ENHMR", "PatientID", ((0x52009230, 1), (0x00209111, 0)), 0x00209158, "LT",

@@ -1,7 +1,7 @@
 """Where a value can stand in a file: functions that put it there.
 
-Each takes an ObjectFile, the value and its Plant. Those that put it outside the data set, or where its path cannot
-be read off the data set, return what planted.json is to say.
+Each takes an ObjectFile, the value and its Plant. Those that put it outside the data set return what
+planted.json is to say.
 """
 import dataclasses
 
@@ -28,7 +28,7 @@ def in_unknown(tag, vr):
 
 
 def nested(depth, written_as=""):
-    """In the second request's protocol code, that code's context, and so on; the outermost sequence may be UN."""
+    """In the second request, its protocol code, that code's context; the outermost sequence may be UN."""
     tags = [0x00400275, 0x00400008, 0x00400440]
 
     def put(file, value, plant):
@@ -133,4 +133,5 @@ def at(path, tag, vr):
 
 def page(file, value, plant):
     """In what a page of the encapsulated document says."""
-    file.data_set.elements[0x00420011] = Element("OB", pdf(value), plant=dataclasses.replace(plant, written=value.encode()))
+    plant = dataclasses.replace(plant, written=value.encode())
+    file.data_set.elements[0x00420011] = Element("OB", pdf(value), plant=plant)
