@@ -76,8 +76,7 @@ void TestConfigurationLines::examplesKeepWhatTheySay()
     const test::Effects effects = test::effectsOf(rules);
     QVERIFY(!effects.erased.contains(kept));
     QVERIFY(effects.erased.contains(taken));
-    const qsizetype marker = indexOfFirstTableMarker(rules.newValueDict);
-    QCOMPARE(marker >= 0 ? rules.newValueDict.keys().at(marker) : kept, kept);
+    QCOMPARE(firstTagWithTableMarker(rules.newValueDict).value_or(kept), kept);
 }
 
 void TestConfigurationLines::keepsTheKindsOfTagsOutThatTheToolRefuses()
