@@ -204,9 +204,8 @@ void TestConfigurations::takesAnOverlayWhole()
     test::addOverlay(image);
     const QStringList faults = test::faultsOf(image);
     const TagRules rules = test::rulesOf(test::defaultConfiguration);
-    run.state.set(&RunState::newValueDict, rules.newValueDict);
     QVERIFY(!run.lines(image).filter(QStringLiteral("(6000,")).isEmpty());
-    QCOMPARE(anonymizeFolder(run.context, rules.allTagsToAnonymize, parentPath(image), {}), 0U);
+    QCOMPARE(anonymizeFolder(run.context, rules, parentPath(image), {}), 0U);
     QCOMPARE(run.lines(image).filter(QStringLiteral("(6000,")), QStringList());
     QCOMPARE(test::faultsOf(image), faults);
 }
