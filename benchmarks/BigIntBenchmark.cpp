@@ -27,7 +27,7 @@ private:
     std::mt19937 m_engine{20240229};
 };
 
-/// One operand in both libraries.
+// One operand in both libraries.
 struct Operand
 {
     explicit Operand(qint32 bits, bool isOdd = false)
@@ -68,7 +68,7 @@ void keep(const Value &value)
     asm volatile("" : : "g"(&value) : "memory");
 }
 
-/// Processor time of this thread, which other work on the machine does not use up.
+// Processor time of this thread, which other work on the machine does not use up.
 double nanosecondsSpent()
 {
     timespec time{};
@@ -105,7 +105,7 @@ void printLine(const char *name, double ours, double theirs, double limit)
     std::printf("\n");
 }
 
-/// Both operations in turn, a few milliseconds each, many times over: what disturbs one disturbs the other.
+// Both operations in turn, a few milliseconds each, many times over: what disturbs one disturbs the other.
 template <typename Ours, typename Theirs>
 void compare(const char *name, Ours ours, Theirs theirs, double limit = 0)
 {
@@ -162,20 +162,21 @@ void compareArithmetic()
         divisor, 0);
 }
 
-void compareText(const char *toName, const char *fromName, qint32 bits)
+void compareText(const char *toName, const char *fromName, qint32 bits, int radix)
 {
+    constexpr double limit = 10;
     const Operand x(bits);
     std::array<char, 2300> buffer{};
-    mpz_get_str(buffer.data(), 10, x.gmp);
+    mpz_get_str(buffer.data(), -radix, x.gmp); // capitals, as BigInt writes them
     const QString text = QString::fromLatin1(buffer.data());
     const std::array<char, 2300> digits = buffer;
     Scratch result;
     compare(
-        toName, [&] { keep(x.ours.toStringWithRadix(10)); },
-        [&] { keep(mpz_get_str(buffer.data(), 10, x.gmp)); });
+        toName, [&] { keep(x.ours.toStringWithRadix(radix)); },
+        [&] { keep(mpz_get_str(buffer.data(), radix, x.gmp)); }, radix == 10 ? limit : 0);
     compare(
-        fromName, [&] { keep(BigInt::createFromStringAndRadix(text, 10)); },
-        [&] { mpz_set_str(result.value, digits.data(), 10); });
+        fromName, [&] { keep(BigInt::createFromStringAndRadix(text, radix)); },
+        [&] { mpz_set_str(result.value, digits.data(), radix); }, limit);
 }
 
 void compareModPow(const char *name, qint32 bits, double limit)
@@ -236,8 +237,10 @@ int main()
 {
     std::printf("%-34s %15s %15s %8s\n", "", "BigInt", "GMP", "ratio");
     compareArithmetic();
-    compareText("to decimal text, 128 bits", "from decimal text, 128 bits", 128);
-    compareText("to decimal text, 2239 bits", "from decimal text, 2239 bits", 2239);
+    compareText("to decimal text, 128 bits", "from decimal text, 128 bits", 128, 10);
+    compareText("to decimal text, 2239 bits", "from decimal text, 2239 bits", 2239, 10);
+    compareText("to hexadecimal text, 128 bits", "from hexadecimal text, 128 bits", 128, 16);
+    compareText("to hexadecimal text, 2239 bits", "from hexadecimal text, 2239 bits", 2239, 16);
     compareModPow("modPow 128 bits", 128, 0);
     compareModPow("modPow 512 bits", 512, 0);
     compareModPow("modPow 1024 bits", 1024, 25);

@@ -1,5 +1,6 @@
 #include "identifiers/BigInt.h"
 
+#include "identifiers/BigIntRows.h"
 #include "identifiers/BigIntWords.h"
 
 #include <algorithm>
@@ -22,18 +23,18 @@ constexpr qint32 signWord = BigInt::maxLength - 1;
 
 using Words = std::array<quint32, BigInt::maxLength>;
 
-/// The words of |value|, those of the most negative value being their own negation. Only a negative value is
-/// copied.
+// The words of |value|, those of the most negative value being their own negation. Only a negative value is
+// copied.
 [[nodiscard]] const quint32 *magnitude(const BigInt &value, Words &copy)
 {
-    if ((value.getDataAtIndex(signWord) & words::topBit) == 0)
+    if (!value.isNegative())
         return value.getData();
     std::copy_n(value.getData(), copy.size(), copy.begin());
     words::negate(copy.data(), BigInt::maxLength);
     return copy.data();
 }
 
-/// Stores what is carried out of a row.
+// Stores what is carried out of a row.
 void storeCarry(quint32 *product, qint32 index, quint64 carry)
 {
     for (; carry != 0; carry >>= 32, ++index) {
@@ -43,7 +44,7 @@ void storeCarry(quint32 *product, qint32 index, quint64 carry)
     }
 }
 
-/// product = left * right in 70 words, all zero before. The longer factor is the row.
+// product = left * right in 70 words, all zero before. The longer factor is the row.
 void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, const quint32 *right,
                    qint32 rightLength)
 {
@@ -63,75 +64,6 @@ void multiplyWords(quint32 *product, const quint32 *left, qint32 leftLength, con
 }
 
 } // namespace
-
-BigInt BigInt::initWithLong(qint64 value)
-{
-    BigInt result;
-    qint64 rest = value;
-    qint32 length = 0;
-    for (; rest != 0 && length < maxLength; ++length) {
-        result.setDataAtIndex(static_cast<quint32>(rest & words::largest), length);
-        rest >>= 32;
-    }
-    // 64 bits never come near the end of the words: checks of what the loop promises.
-    if (value > 0 && result.isNegative())
-        raiseArithmetic("Positive overflow in constructor.");
-    if (value < 0 && (rest != -1 || !result.isNegative()))
-        raiseArithmetic("Negative underflow in constructor.");
-    result.m_dataLength = std::max(length, 1);
-    return result;
-}
-
-BigInt BigInt::initWithULong(quint64 value)
-{
-    BigInt result;
-    quint64 rest = value;
-    qint32 length = 0;
-    for (; rest != 0 && length < maxLength; ++length) {
-        result.setDataAtIndex(low(rest), length);
-        rest >>= 32;
-    }
-    // As above.
-    if (rest != 0 || result.isNegative())
-        raiseArithmetic("Positive overflow in constructor.");
-    result.m_dataLength = std::max(length, 1);
-    return result;
-}
-
-BigInt BigInt::initWithBigInt(const BigInt &value)
-{
-    BigInt result;
-    result.m_dataLength = value.m_dataLength;
-    std::copy_n(value.m_data.begin(), std::max(value.m_dataLength, 0), result.m_data.begin());
-    return result;
-}
-
-BigInt BigInt::initWithUIntArrayWithSize(const quint32 *words, qint32 size)
-{
-    // intended: the name's spelling, here and nowhere else
-    if (size > maxLength)
-        throw BigIntError("ArithmaticException", "Byte overflow in constructor");
-    BigInt result;
-    for (qint32 i = 0; i < size; ++i)
-        result.setDataAtIndex(words[size - 1 - i], i);
-    // intended: an empty array keeps its size as the length
-    result.m_dataLength = size;
-    result.trim();
-    return result;
-}
-
-bool BigInt::isZero() const
-{
-    const qint32 length = words::trimmedLength(m_data.data(), m_dataLength);
-    return length < 1 || (length == 1 && m_data[0] == 0);
-}
-
-void BigInt::trim() const
-{
-    const qint32 length = words::trimmedLength(m_data.data(), m_dataLength);
-    if (length != m_dataLength)
-        m_dataLength = length;
-}
 
 BigInt BigInt::add(const BigInt &other) const
 {
@@ -212,7 +144,7 @@ BigInt BigInt::abs() const
     return isNegative() ? negate() : *this;
 }
 
-BigInt BigInt::sqrt() const
+BigInt BigInt::sqrt()
 {
     const qint32 bits = (bitCount() + 1) / 2;
     const qint32 bitPosition = bits % 32;

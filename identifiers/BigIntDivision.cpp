@@ -1,5 +1,6 @@
 #include "identifiers/BigInt.h"
 
+#include "identifiers/BigIntRows.h"
 #include "identifiers/BigIntWords.h"
 
 #include <algorithm>
@@ -13,9 +14,9 @@ namespace {
 // intended: 2^28, where Knuth's algorithm has the base of the words, 2^32
 constexpr quint64 digitLimit = 0x10000000;
 
-/// Step D3. partTop points at the highest word of the current part; first and second are the divisor's two
-/// highest words, normalised. The digit is the true one or a few above it; only at the limit it can be one
-/// below.
+// Step D3. partTop points at the highest word of the current part; first and second are the divisor's two
+// highest words, normalised. The digit is the true one or a few above it; only at the limit it can be one
+// below.
 [[nodiscard]] quint64 estimateDigit(const quint32 *partTop, quint32 first, quint32 second)
 {
     const quint64 head = (quint64{partTop[0]} << 32) | partTop[-1];
@@ -28,7 +29,7 @@ constexpr quint64 digitLimit = 0x10000000;
     return digit;
 }
 
-/// part -= digit * divisor, the part being one word longer than the divisor; whether that went below zero.
+// part -= digit * divisor, the part being one word longer than the divisor; whether that went below zero.
 bool subtractMultiple(quint32 *part, const quint32 *divisor, qint32 size, quint32 digit)
 {
     quint64 carry = 0;
@@ -45,7 +46,7 @@ bool subtractMultiple(quint32 *part, const quint32 *divisor, qint32 size, quint3
     return difference >> 63 != 0;
 }
 
-/// part += divisor after a subtraction that went below zero; whether it is back at zero or above.
+// part += divisor after a subtraction that went below zero; whether it is back at zero or above.
 bool addBack(quint32 *part, const quint32 *divisor, qint32 size)
 {
     const quint32 carry = words::add(part, divisor, size);
@@ -53,7 +54,7 @@ bool addBack(quint32 *part, const quint32 *divisor, qint32 size)
     return carry != 0 && part[size] == 0;
 }
 
-/// Steps D3 to D6 for one digit: takes it out of the part (size + 1 words) and returns its low word.
+// Steps D3 to D6 for one digit: takes it out of the part (size + 1 words) and returns its low word.
 quint32 divideStep(quint32 *part, const quint32 *divisor, qint32 size)
 {
     const quint64 estimate = estimateDigit(part + size, divisor[size - 1], divisor[size - 2]);
@@ -72,6 +73,17 @@ quint32 divideStep(quint32 *part, const quint32 *divisor, qint32 size)
         isBelowZero = !addBack(part, divisor, size);
     }
     return digit;
+}
+
+// Of values that are not negative.
+void divideNaturals(const BigInt &dividend, const BigInt &divisor, BigInt &quotient, BigInt &remainder)
+{
+    if (dividend.lessThan(divisor))
+        remainder = dividend;
+    else if (divisor.dataLength() == 1)
+        BigInt::singleByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
+    else
+        BigInt::multiByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
 }
 
 } // namespace
@@ -126,25 +138,14 @@ void BigInt::multiByteDivideBi2OutQuotientOutRemainder(const BigInt &bi1, const 
     outRemainder.trim();
 }
 
-void BigInt::divideMagnitudes(const BigInt &dividend, const BigInt &divisor, BigInt &quotient,
-                              BigInt &remainder)
-{
-    if (dividend.lessThan(divisor))
-        remainder = dividend;
-    else if (divisor.m_dataLength == 1)
-        singleByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
-    else
-        multiByteDivideBi2OutQuotientOutRemainder(dividend, divisor, quotient, remainder);
-}
-
 void BigInt::divideInto(const BigInt &other, BigInt &quotient, BigInt &remainder) const
 {
     if (!isNegative() && !other.isNegative()) {
-        divideMagnitudes(*this, other, quotient, remainder);
+        divideNaturals(*this, other, quotient, remainder);
         return;
     }
     // intended: the most negative value has no magnitude, so its negation raises
-    divideMagnitudes(abs(), other.abs(), quotient, remainder);
+    divideNaturals(abs(), other.abs(), quotient, remainder);
     if (isNegative())
         remainder = remainder.negate();
     if (isNegative() != other.isNegative())

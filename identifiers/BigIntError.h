@@ -4,11 +4,11 @@
 
 namespace dravolin {
 
-/// What BigInt raises. The name groups errors, the reason says what happened; both are texts of static
-/// lifetime, so an error is made, copied and thrown without allocating.
-///
-/// Names: "ArithmeticException" (nearly all), "ArgumentException" (an argument outside its domain) and
-/// "ArithmaticException" (too many words for a value; the spelling is part of the interface).
+// What BigInt raises. The name groups errors, the reason says what happened; both are texts of static
+// lifetime, so an error is made, copied and thrown without allocating.
+//
+// Names: "ArithmeticException" (nearly all), "ArgumentException" (an argument outside its domain) and
+// "ArithmaticException" (too many words for a value; the spelling is part of the interface).
 class BigIntError : public std::exception
 {
 public:

@@ -101,7 +101,7 @@ BigInt BigInt::shiftRight(qint32 bits) const
     return result;
 }
 
-qint32 BigInt::bitCount() const
+qint32 BigInt::bitCount()
 {
     // intended: the length of a value that is only counted is trimmed
     trim();
@@ -126,6 +126,16 @@ bool BigInt::lessThan(const BigInt &other) const
     if (isNegative() != other.isNegative())
         return isNegative();
     return compareWords(*this, other) < 0;
+}
+
+bool BigInt::lessThanOrEqualTo(const BigInt &other) const
+{
+    return equals(other) || lessThan(other);
+}
+
+bool BigInt::greaterThanOrEqualTo(const BigInt &other) const
+{
+    return equals(other) || greaterThan(other);
 }
 
 } // namespace dravolin

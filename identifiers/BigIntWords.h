@@ -1,7 +1,7 @@
 #pragma once
 
 // Natural numbers as rows of 32-bit words, least significant first: what BigInt's sources share. Sizes are in
-// words; a size below 1 is an empty row.
+// words; a size below 1 is an empty row. BigIntRows.h calculates with them.
 
 #include "identifiers/BigIntError.h"
 
@@ -31,7 +31,7 @@ inline constexpr quint32 topBit = 0x80000000U;
     return static_cast<quint32>(value >> 32);
 }
 
-/// The size without high zero words, but not taken below 1.
+// The size without high zero words, but not taken below 1.
 [[nodiscard]] inline qint32 trimmedLength(const quint32 *words, qint32 size)
 {
     while (size > 1 && words[size - 1] == 0)
@@ -39,14 +39,14 @@ inline constexpr quint32 topBit = 0x80000000U;
     return size;
 }
 
-/// The position of the highest set bit counted from 1; 0 when there is none.
+// The position of the highest set bit counted from 1; 0 when there is none.
 [[nodiscard]] inline qint32 bitLength(const quint32 *words, qint32 size)
 {
     const qint32 length = trimmedLength(words, size);
     return length < 1 ? 0 : 32 * (length - 1) + static_cast<qint32>(std::bit_width(words[length - 1]));
 }
 
-/// -1, 0 or 1 for left below, equal to, above right.
+// -1, 0 or 1 for left below, equal to, above right.
 [[nodiscard]] inline int compare(const quint32 *left, const quint32 *right, qint32 size)
 {
     for (qint32 i = size - 1; i >= 0; --i) {
@@ -56,83 +56,13 @@ inline constexpr quint32 topBit = 0x80000000U;
     return 0;
 }
 
-/// Two's complement in place; the value that has only its top bit set stays as it is.
-inline void negate(quint32 *words, qint32 size)
+// The number of zero bits below the lowest set one, which there has to be.
+[[nodiscard]] inline qint32 trailingZeros(const quint32 *words)
 {
-    quint64 carry = 1;
-    for (qint32 i = 0; i < size; ++i) {
-        carry += low(~quint64{words[i]});
-        words[i] = low(carry);
-        carry >>= 32;
-    }
-}
-
-/// left -= right; the result is the borrow, 0 or 1.
-inline quint32 subtract(quint32 *left, const quint32 *right, qint32 size)
-{
-    quint64 borrow = 0;
-    for (qint32 i = 0; i < size; ++i) {
-        const quint64 difference = quint64{left[i]} - right[i] - borrow;
-        left[i] = low(difference);
-        borrow = difference >> 63;
-    }
-    return low(borrow);
-}
-
-/// left += right; the result is the carry, 0 or 1.
-inline quint32 add(quint32 *left, const quint32 *right, qint32 size)
-{
-    quint64 carry = 0;
-    for (qint32 i = 0; i < size; ++i) {
-        carry += quint64{left[i]} + right[i];
-        left[i] = low(carry);
-        carry >>= 32;
-    }
-    return low(carry);
-}
-
-/// sum += factor * row; the result is the word carried out.
-inline quint32 addMultiple(quint32 *sum, const quint32 *row, qint32 size, quint32 factor)
-{
-    quint64 carry = 0;
-    for (qint32 i = 0; i < size; ++i) {
-        carry += quint64{factor} * row[i] + sum[i];
-        sum[i] = low(carry);
-        carry >>= 32;
-    }
-    return low(carry);
-}
-
-/// sum += (lowFactor + highFactor * b) * row, where the words above sum are zero; the result is what is
-/// carried out, of two words. Two rows at once take little longer than one, as their carries do not wait for
-/// each other.
-inline quint64 addTwoMultiples(quint32 *sum, const quint32 *row, qint32 size, quint32 lowFactor,
-                               quint32 highFactor)
-{
-    quint64 lowCarry = 0;
-    quint64 highCarry = 0;
-    quint32 wordBefore = 0;
-    for (qint32 i = 0; i < size; ++i) {
-        lowCarry += quint64{lowFactor} * row[i] + sum[i];
-        highCarry += quint64{highFactor} * wordBefore + low(lowCarry);
-        sum[i] = low(highCarry);
-        wordBefore = row[i];
-        lowCarry >>= 32;
-        highCarry >>= 32;
-    }
-    return quint64{highFactor} * wordBefore + lowCarry + highCarry;
-}
-
-/// number /= divisor; the result is the remainder.
-inline quint32 divide(quint32 *number, qint32 size, quint32 divisor)
-{
-    quint64 rest = 0;
-    for (qint32 i = size - 1; i >= 0; --i) {
-        rest = (rest << 32) | number[i];
-        number[i] = low(rest / divisor);
-        rest %= divisor;
-    }
-    return low(rest);
+    qint32 word = 0;
+    while (words[word] == 0)
+        ++word;
+    return 32 * word + static_cast<qint32>(std::countr_zero(words[word]));
 }
 
 } // namespace dravolin::words

@@ -26,7 +26,7 @@ inline constexpr quint32 smallPrimeLimit = 2000;
     return count;
 }
 
-/// Every prime below 2000, in increasing order.
+// Every prime below 2000, in increasing order.
 inline constexpr auto smallPrimes = [] {
     std::array<quint32, smallPrimeCount()> primes{};
     size_t count = 0;

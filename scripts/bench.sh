@@ -21,5 +21,6 @@ run bench_overhead stub ${1:-}
 run bench_memory
 run bench_analysis
 run bench_lut
+run bench_configuration
 run bench_bigint
 exit $result

@@ -50,7 +50,7 @@ The clinical trial"""
 SEQUENCES = """
 Sequences with codes, references or copies of what is erased elsewhere
 Needed by: presentation states (Referenced Image Sequence, Graphic Annotation Sequence), enhanced multi-frame images
-(Source Image Sequence), signed or verified reports (Verifying Observer Sequence), slides (issuers)."""
+(Source Image Sequence), reports (Referenced Performed Procedure Step Sequence, Verifying Observer Sequence)."""
 
 PERSONS = """
 Physicians, operators and other persons
@@ -62,8 +62,9 @@ Photographs: the camera and the place"""
 
 DATES = """
 Dates and times
-Needed by: enhanced multi-frame images (Frame Acquisition and Frame Reference DateTime), reports with dates in their
-content (DateTime, Date, Time), structure sets, treatment records and sources (their dates)."""
+Needed by: enhanced multi-frame images (Frame Acquisition DateTime, Frame Reference DateTime), reports with dates in
+their content (DateTime, Date, Time), presentation states (Presentation Creation Date, Presentation Creation Time),
+structure sets (Structure Set Date, Structure Set Time), plans, treatment records and sources (their dates)."""
 
 UIDS = """
 UIDs that no other object needs
@@ -92,8 +93,8 @@ Needed by: slides (Container Identifier, Specimen Identifier)."""
 
 REST = """
 Devices, institutions, descriptions and free texts
-Needed by: encapsulated documents (the document itself: a report that says who the patient is cannot be mended),
-contrast (its agent), X-ray sources and detectors (their IDs)."""
+Needed by: encapsulated documents (Encapsulated Document: what a report says of the patient cannot be mended), contrast
+(its agent), X-ray sources and detectors (their IDs)."""
 
 OVERLAYS = """
 Overlays: text and drawings beside the pixels. Sixteen groups, data and comments.

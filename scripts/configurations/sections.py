@@ -6,8 +6,7 @@ from table import begins, left_out
 EMPTY = '""'
 METHOD = "Dravolin Default: DICOM PS3.15 E in part"
 EMPTIED = {"0008,0020": "Study Date", "0008,0030": "Study Time", "0008,0090": "Referring Physician's Name",
-           "0008,1070": "Operators' Name", "0008,1111": "Referenced Performed Procedure Step Sequence",
-           "0010,0030": "Patient's Birth Date", "0010,0040": "Patient's Sex",
+           "0008,1070": "Operators' Name", "0010,0030": "Patient's Birth Date", "0010,0040": "Patient's Sex",
            "0020,0010": "Study ID", "0040,0555": "Acquisition Context Sequence"}
 DUMMIES = {"0008,0021": ("Series Date", "19000101"), "0008,0022": ("Acquisition Date", "19000101"),
            "0008,0023": ("Content Date", "19000101"), "0008,002a": ("Acquisition DateTime", "19000101000000"),

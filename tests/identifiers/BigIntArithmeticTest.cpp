@@ -189,7 +189,7 @@ private Q_SLOTS:
 
     void keepsTheRootOfZeroAtLengthZero()
     {
-        const BigInt root = BigInt().sqrt();
+        BigInt root = BigInt().sqrt();
         QCOMPARE(image(root), "0:0");
         QVERIFY(!root.equals(BigInt()));
         QVERIFY(!root.lessThanOrEqualTo(BigInt()));
@@ -199,11 +199,44 @@ private Q_SLOTS:
         QCOMPARE(root.bitCount(), 0);
     }
 
+    void keepsTheLengthsOfShortZeros()
+    {
+        const BigInt none = withLength(BigInt(), 0);
+        const BigInt less = withLength(BigInt(), -3);
+        const BigInt seven = number(7);
+        // These pass the length on, ...
+        QCOMPARE(image(none.add(less)), "0:0");
+        QCOMPARE(image(less.subtract(less)), "-3:0");
+        QCOMPARE(image(none.multiply(none)), "0:0");
+        QCOMPARE(image(less.multiply(seven)), "-2:0");
+        QCOMPARE(image(less.mod(seven)), "-3:0");
+        QCOMPARE(image(none.abs()), "0:0");
+        QCOMPARE(image(none.gcd(none)), "0:0");
+        QCOMPARE(image(none.shiftLeft(3)), "0:0");
+        QCOMPARE(image(less.shiftRight(3)), "-3:0");
+        QCOMPARE(image(BigInt::createFromBigInt(less)), "-3:0");
+        BigInt quotient;
+        BigInt remainder;
+        BigInt::singleByteDivideBi2OutQuotientOutRemainder(less, seven, quotient, remainder);
+        QCOMPARE(image(quotient) + ' ' + image(remainder), "1:0 -3:0");
+        // ... these do not.
+        BigInt::multiByteDivideBi2OutQuotientOutRemainder(less, powerOfTwo(40), quotient, remainder);
+        QCOMPARE(image(quotient) + ' ' + image(remainder), "1:0 1:0");
+        for (const BigInt &zero : {none, less}) {
+            for (const BigInt &result : {zero.divide(seven), zero.negate(), zero.and_(zero), zero.or_(zero),
+                                         zero.xOr(zero), zero.add(BigInt()), BigInt().mod(seven)})
+                QCOMPARE(image(result), "1:0");
+            QCOMPARE(image(zero.not_()), "70:-1");
+            QCOMPARE(image(zero.add(seven)), "1:7");
+            QCOMPARE(zero.toStringWithRadix(10), QStringLiteral("0"));
+        }
+    }
+
     void keepsTheOverflowOfTheTrialSquare()
     {
         // 2^1118.5 and down: no trial goes past 2^1119, whose square is 2^2238.
-        const BigInt below = powerOfTwo(2238).subtract(number(1));
-        const BigInt root = below.sqrt();
+        BigInt below = powerOfTwo(2238).subtract(number(1));
+        BigInt root = below.sqrt();
         QVERIFY(root.multiply(root).lessThanOrEqualTo(below));
         QCOMPARE(root.bitCount(), 1119);
         // From 2^2238 up 2^1119 holds, and (2^1119 + 2^1118)^2 = 9 * 2^2236 is past 2^2239.

@@ -19,8 +19,8 @@ struct Division
     Reference remainder;
 };
 
-/// Long division with digits of 32 bits, but a digit of 2^28 that is estimated as such becomes 2^28 - 1, and
-/// a digit only sees the words of its own part.
+// Long division with digits of 32 bits, but a digit of 2^28 that is estimated as such becomes 2^28 - 1, and
+// a digit only sees the words of its own part.
 [[nodiscard]] Division modelDivision(const Reference &dividend, const Reference &divisor)
 {
     const qint32 size = (divisor.bits() + 31) / 32;
@@ -49,7 +49,7 @@ struct Division
     return result;
 }
 
-/// Where operands go wrong they are in the message.
+// Where operands go wrong they are in the message.
 [[nodiscard]] QByteArray described(const QByteArray &result, const BigInt &left, const BigInt &right)
 {
     return result + " of " + image(left) + " and " + image(right);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         for (int i = 0; i < rounds / 20; ++i) {
             const BigInt root = operands.natural(30).add(BigInt::createFromInt(2));
             for (const qint32 difference : {-1, 0, 1}) {
-                const BigInt x = root.multiply(root).add(BigInt::createFromInt(difference));
+                BigInt x = root.multiply(root).add(BigInt::createFromInt(difference));
                 Reference expected;
                 mpz_sqrt(expected.get(), Reference(x).get());
                 QCOMPARE(described(image(x.sqrt()), x, x), described(image(expected), x, x));
@@ -160,7 +160,7 @@ private Q_SLOTS:
     {
         Operands operands(6);
         for (int i = 0; i < rounds; ++i) {
-            const BigInt x = operands.integer();
+            BigInt x = operands.integer();
             const BigInt y = operands.integer();
             check(x, y, &BigInt::and_, mpz_and, {});
             check(x, y, &BigInt::or_, mpz_ior, {});

@@ -126,6 +126,40 @@ private Q_SLOTS:
         QCOMPARE(BigInt::shiftRightWithSizeOfBits(words.data(), 0, 5), 0);
     }
 
+    void tellsSignAndParity_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("isNegative");
+        QTest::addColumn<bool>("isZero");
+        QTest::addColumn<bool>("isOne");
+        QTest::addColumn<bool>("isEven");
+        QTest::newRow("zero") << QByteArray("0") << false << true << false << true;
+        QTest::newRow("one") << QByteArray("1") << false << false << true << false;
+        QTest::newRow("two") << QByteArray("2") << false << false << false << true;
+        QTest::newRow("minus one") << QByteArray("-1") << true << false << false << false;
+        QTest::newRow("minus two") << QByteArray("-2") << true << false << false << true;
+        QTest::newRow("2^32") << QByteArray("100000000") << false << false << false << true;
+        QTest::newRow("2^32 + 1") << QByteArray("100000001") << false << false << false << false;
+    }
+    void tellsSignAndParity()
+    {
+        QFETCH(QByteArray, value);
+        QTEST(hex(value).isNegative(), "isNegative");
+        QTEST(hex(value).isZero(), "isZero");
+        QTEST(hex(value).isOne(), "isOne");
+        QTEST(hex(value).isEven(), "isEven");
+    }
+
+    void tellsSignAndParityOfOtherLengths()
+    {
+        for (const qint32 length : {-3, 0, 5, 70})
+            QVERIFY(withLength(BigInt(), length).isZero());
+        QVERIFY(!withLength(powerOfTwo(100), 70).isZero());
+        QVERIFY(!withLength(number(1), 2).isOne());
+        QVERIFY(mostNegative().isNegative());
+        QVERIFY(!mostPositive().isNegative());
+    }
+
     void countsBits()
     {
         QCOMPARE(BigInt().bitCount(), 0);
@@ -139,13 +173,13 @@ private Q_SLOTS:
 
     void keepsTrimmingWhatIsCounted()
     {
-        const BigInt counted = withLength(number(5), 40);
+        BigInt counted = withLength(number(5), 40);
         QCOMPARE(counted.bitCount(), 3);
         QCOMPARE(counted.dataLength(), 1);
-        const BigInt square = withLength(number(9), 40);
+        BigInt square = withLength(number(9), 40);
         QCOMPARE(image(square.sqrt()), "1:3");
         QCOMPARE(square.dataLength(), 1);
-        const BigInt exponent = withLength(number(3), 40);
+        BigInt exponent = withLength(number(3), 40);
         QCOMPARE(image(number(2).modPowWithMod(exponent, number(5))), "1:3");
         QCOMPARE(exponent.dataLength(), 1);
         // No other operation does.

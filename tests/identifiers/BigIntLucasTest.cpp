@@ -13,15 +13,17 @@ namespace {
     return BigInt::createFromLong(value);
 }
 
-[[nodiscard]] std::array<BigInt, 3> sequence(const BigInt &P, const BigInt &Q, const BigInt &k,
-                                             const BigInt &n, qint32 s)
+// k is an object or a passing value, const or not.
+template <typename Index>
+[[nodiscard]] std::array<BigInt, 3> sequence(const BigInt &P, const BigInt &Q, Index &&k, const BigInt &n,
+                                             qint32 s)
 {
     const BigInt constant = powerOfTwo(64 * n.dataLength()).divide(n);
     return BigInt::lucasSequenceAndQAndkAndnAndConstantAnds(P, Q, k, n, constant, s);
 }
 
-/// U, V and Q^index mod n by their definition: each term is P times the one before less Q times the one
-/// before that.
+// U, V and Q^index mod n by their definition: each term is P times the one before less Q times the one
+// before that.
 struct Definition
 {
     Definition(const BigInt &P, const BigInt &Q, qint32 index, const BigInt &n)
@@ -160,7 +162,7 @@ private Q_SLOTS:
 
     void keepsTrimmingTheIndex()
     {
-        const BigInt k = withLength(number(7), 5);
+        BigInt k = withLength(number(7), 5);
         const auto values = sequence(number(1), number(-1), k, number(1000), 0);
         QCOMPARE(image(values[0]), "1:d");
         QCOMPARE(k.dataLength(), 1);

@@ -23,9 +23,14 @@ constexpr quint32 wordOne = 2;
     return BigInt::createFromLong(value);
 }
 
+[[nodiscard]] bool isPrime(const BigInt &value)
+{
+    return mpz_probab_prime_p(Reference(value).get(), 25) != 0;
+}
+
 [[nodiscard]] bool isPrime(quint32 value)
 {
-    return mpz_probab_prime_p(Reference(static_cast<long>(value)).get(), 25) != 0;
+    return isPrime(number(value));
 }
 
 } // namespace
@@ -75,6 +80,21 @@ private Q_SLOTS:
             QVERIFY(!BigInt::lucasStrongTest(number(qint64{prime} * prime)));
     }
 
+    void refusesPseudoprimesOfTheLucasTest_data()
+    {
+        // Strong pseudoprimes to the Lucas test without a factor below 2000: base 2 alone tells them.
+        QTest::addColumn<qint64>("value");
+        QTest::newRow("2063 * 4129") << qint64{8518127};
+        QTest::newRow("2269 * 4373") << qint64{9922337};
+        QTest::newRow("2243 * 49369") << qint64{110734667};
+    }
+    void refusesPseudoprimesOfTheLucasTest()
+    {
+        QFETCH(qint64, value);
+        QVERIFY(BigInt::lucasStrongTest(number(value)));
+        QVERIFY(!number(value).isProbablePrime());
+    }
+
     void acceptsLargePrimesWithQMinusOne()
     {
         // Of the primes 2^m - 1 those with m = 3 mod 4, which have D = 5.
@@ -93,6 +113,52 @@ private Q_SLOTS:
         QVERIFY(!number(2147483629).isProbablePrime());
         // 2^32 - 99, D = 5, Q = -1: no power is longer than a bit.
         QVERIFY(number(4294967197).isProbablePrime());
+    }
+
+    void keepsRefusingManyPrimesOfSomeSizes_data()
+    {
+        // Of the primes less than 2000 below 2^bits; with D = 5 all pass.
+        QTest::addColumn<qint32>("bits");
+        QTest::addColumn<qint32>("withOtherD");
+        QTest::addColumn<qint32>("refused");
+        QTest::newRow("24 bits") << 24 << 72 << 0;
+        QTest::newRow("32 bits") << 32 << 40 << 40;
+        QTest::newRow("48 bits") << 48 << 36 << 0;
+        QTest::newRow("64 bits") << 64 << 21 << 21;
+    }
+    void keepsRefusingManyPrimesOfSomeSizes()
+    {
+        QFETCH(qint32, bits);
+        qint32 withOtherD = 0;
+        qint32 refused = 0;
+        for (qint32 difference = 1; difference < 2000; difference += 2) {
+            const BigInt value = powerOfTwo(bits).subtract(number(difference));
+            if (!isPrime(value))
+                continue;
+            const bool passes = BigInt::lucasStrongTest(value);
+            QCOMPARE(value.isProbablePrime(), passes);
+            const bool hasOtherD = BigInt::jacobiAndB(number(5), value) != -1;
+            QVERIFY(passes || hasOtherD);
+            withOtherD += hasOtherD ? 1 : 0;
+            refused += passes ? 0 : 1;
+        }
+        QTEST(withOtherD, "withOtherD");
+        QTEST(refused, "refused");
+    }
+
+    void keepsRefusingPrimesWhoseConstantIsCutShort()
+    {
+        // b^8 / (2^100 - 15) = 2^156 + ..., whose first digit of 2^28 comes out one less; 2^99 - 115 has
+        // none.
+        const BigInt cut = powerOfTwo(100).subtract(number(15));
+        QVERIFY(isPrime(cut));
+        SeededSource source(23);
+        QVERIFY(!cut.isProbablePrime());
+        QVERIFY(!BigInt::lucasStrongTest(cut));
+        QVERIFY(!cut.isProbablePrimeWithConfidence(1, source));
+        const BigInt whole = powerOfTwo(99).subtract(number(115));
+        QVERIFY(isPrime(whole));
+        QVERIFY(whole.isProbablePrimeWithConfidence(3, source));
     }
 
     void keepsSquaringThePowerOfQAfterPassing()
@@ -137,6 +203,18 @@ private Q_SLOTS:
         QCOMPARE(again.left(), 1);
     }
 
+    void keepsDividingTheWordBeforeTheRangeMultipliesIt()
+    {
+        // 400000000 / 10^10 * 75 is 3, but 400000000 * (75 / 10^10) is less: bases of 3 and of 2 bits, 4
+        // and 2. The number has 75 bits and is a strong pseudoprime to base 4, not to base 2.
+        const BigInt n = number(79350424423).multiply(number(238051273267));
+        ScriptedSource source({399999999, wordZero});
+        QVERIFY(n.rabinMillerTestWithConfidence(1, source));
+        QCOMPARE(source.left(), 0);
+        ScriptedSource two({300000000, wordZero});
+        QVERIFY(!n.rabinMillerTestWithConfidence(1, two));
+    }
+
     void endsAtACommonFactorOfTheBase()
     {
         ScriptedSource source({fifth, wordOne, 7});
@@ -177,6 +255,13 @@ private Q_SLOTS:
                 ScriptedSource::Exhausted,
                 static_cast<void>(number(value).isProbablePrimeWithConfidence(1, source)));
         }
+        // 1, the only value of 1 bit, never passes; of 3 and 4 bits there are 5, 7, 11 and 13.
+        for (const qint32 bits : {1, 3, 4}) {
+            SeededWithEnd source;
+            QVERIFY_THROWS_EXCEPTION(
+                ScriptedSource::Exhausted,
+                static_cast<void>(BigInt::generatePseudoPrimeWithBitsAndConfidence(bits, 1, source)));
+        }
         SeededWithEnd source;
         QVERIFY(number(17).rabinMillerTestWithConfidence(1, source));
     }
@@ -196,7 +281,7 @@ private Q_SLOTS:
     {
         SeededSource source(22);
         for (const qint32 bits : {2, 5, 31, 32, 33, 64, 128, 200}) {
-            const BigInt prime = BigInt::generatePseudoPrimeWithBitsAndConfidence(bits, 10, source);
+            BigInt prime = BigInt::generatePseudoPrimeWithBitsAndConfidence(bits, 10, source);
             QCOMPARE(prime.bitCount(), bits);
             QVERIFY(mpz_probab_prime_p(Reference(prime).get(), 25) != 0);
         }
@@ -206,6 +291,9 @@ private Q_SLOTS:
         QCOMPARE(script.left(), 1);
         QCOMPARE(errorOf([&] { return BigInt::generatePseudoPrimeWithBitsAndConfidence(2241, 1, source); }),
                  "ArithmeticException / Number of required bits > maxLength.");
+        // 35 words
+        QCOMPARE(errorOf([&] { return BigInt::generatePseudoPrimeWithBitsAndConfidence(1089, 1, source); }),
+                 "ArithmeticException / Multiplication overflow.");
     }
 
 private:

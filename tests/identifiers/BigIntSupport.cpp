@@ -124,16 +124,11 @@ bool mayMeetTheLimit(const Reference &dividend, const Reference &divisor)
 quint32 Operands::word()
 {
     switch (below(5)) {
-    case 0:
-        return 0;
-    case 1:
-        return 0xFFFFFFFFU;
-    case 2:
-        return 1U << below(32);
-    case 3:
-        return (1U << below(32)) - 1U;
-    default:
-        return static_cast<quint32>(m_engine());
+    case 0: return 0;
+    case 1: return 0xFFFFFFFFU;
+    case 2: return 1U << below(32);
+    case 3: return (1U << below(32)) - 1U;
+    default: return static_cast<quint32>(m_engine());
     }
 }
 

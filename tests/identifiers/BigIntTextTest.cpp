@@ -119,6 +119,39 @@ private Q_SLOTS:
                  "ArithmeticException / overflow.");
     }
 
+    void readsTheLongestTexts_data()
+    {
+        QTest::addColumn<qint32>("radix");
+        for (const qint32 radix : {3, 7, 10, 16, 31, 36})
+            QTest::addRow("radix %d", radix) << radix;
+    }
+    void readsTheLongestTexts()
+    {
+        QFETCH(qint32, radix);
+        const QString largest = mostPositive().toStringWithRadix(radix);
+        const QString smallest = mostNegative().toStringWithRadix(radix);
+        QCOMPARE(image(BigInt::createFromStringAndRadix(largest, radix)), image(mostPositive()));
+        QCOMPARE(image(BigInt::createFromStringAndRadix(smallest, radix)), image(mostNegative()));
+        // A wrong character anywhere, and a digit too many.
+        for (qsizetype i = 0; i < largest.size(); ++i) {
+            QString wrong = largest;
+            wrong[i] = u'$';
+            QCOMPARE(errorOf([&] { return BigInt::createFromStringAndRadix(wrong, radix); }), invalid);
+        }
+        QVERIFY(errorOf([&] { return BigInt::createFromStringAndRadix(largest + u'0', radix); }) !=
+                "nothing raised");
+    }
+
+    void keepsRefusingTheBinaryTextOfTheSmallestValue()
+    {
+        // The place value of its "1" is 2^2239, which the sign comes too late for.
+        QCOMPARE(
+            errorOf([] { return BigInt::createFromStringAndRadix(mostNegative().toStringWithRadix(2), 2); }),
+            "ArithmeticException / overflow.");
+        QCOMPARE(image(BigInt::createFromStringAndRadix(mostPositive().toStringWithRadix(2), 2)),
+                 image(mostPositive()));
+    }
+
     void keepsTheRadixOfTheTextUnchecked()
     {
         QCOMPARE(image(BigInt::createFromStringAndRadix(u"Z1"_s, 40)), "1:579"); // 35 * 40 + 1

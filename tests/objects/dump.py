@@ -65,14 +65,14 @@ def shows(dumped, tag, written):
 
 def _same(vr, value, written):
     if vr in ("OB", "UN", "??"):
-        return _bytes(value) in (written, written + b"\0", written + b" ")
+        return written in _bytes(value)
     if vr == "OW":
         words = [int(word, 16).to_bytes(2, "little") for word in value.split(b"\\")]
         return b"".join(words).rstrip(b"\0 ") == written.rstrip(b"\0 ")
     if value.startswith(b"["):
         return value[1:-1].rstrip(b" ") == written.rstrip(b" ")
     numbers = [float(word) if vr in ("FD", "FL") else int(word) for word in value.decode().split("\\")]
-    return value_bytes(vr, numbers, None) == written
+    return written in (value_bytes(vr, numbers, None), value_bytes(vr, numbers, None, big_endian=True))
 
 
 def _bytes(value):

@@ -14,6 +14,13 @@
       --pixels BYTES  (each with its character set), studies, and series of 5 in folders of their own. BYTES
       --flat          is the size of one frame. --flat puts all into one folder, --no-directory leaves out the
       --no-directory  DICOMDIR that comes beside the N objects
+    places            pairs ORIGINALS/N/image.dcm and RESULT/N/image.dcm: the original has values of every
+                      class, the result still has one of them, at one place, in one spelling and encoding, or
+                      none; for a file or folder name the result's path differs. In planted.json `row` names
+                      the pair, `source` the original's attribute and value
+    hostile           damaged, truncated, endless and deeply nested files, false headers, no objects;
+      --special       planted.json has the `fault` of each. unusual/ is well-formed. --special adds special/,
+                      which is not listed: names that are not UTF-8, links, a pipe
 
 The folder is made when it is not there. planted.json in it describes every file (path, kind, sop_class,
 modality, transfer_syntax, character_set, undefined_lengths) and in `planted` each identifying value:
@@ -34,7 +41,7 @@ import pathlib
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
-from generator.sets import attributes, mixed, plain  # noqa: E402
+from generator.sets import attributes, hostile, mixed, places, plain  # noqa: E402
 
 
 def arguments(words):
@@ -46,6 +53,7 @@ def arguments(words):
         parser_of_set.add_argument("folder")
         parser_of_set.add_argument("--seed", type=int, default=1)
     options["attributes"].add_argument("--list", required=True)
+    options["hostile"].add_argument("--special", action="store_true")
     options["mixed"].add_argument("--count", type=int, required=True)
     options["mixed"].add_argument("--pixels", type=int, default=512)
     options["mixed"].add_argument("--flat", action="store_true")
@@ -53,7 +61,8 @@ def arguments(words):
     return parser.parse_args(words)
 
 
-SETS = {"plain": plain.write, "attributes": attributes.write, "mixed": mixed.write}
+SETS = {"plain": plain.write, "attributes": attributes.write, "mixed": mixed.write, "places": places.write,
+        "hostile": hostile.write}
 
 
 def main(words):

@@ -12,6 +12,8 @@ _DELIMITERS = "^=\\\r\n\f\t"
 
 def encoder(character_set):
     """A function from a text to its bytes for a value of (0008,0005)."""
+    if isinstance(character_set, bytes):
+        return str.encode  # a term that means nothing
     name = character_set if isinstance(character_set, str) else character_set[-1]
     if name == "ISO 2022 IR 149":
         return lambda text: _by_pieces(text, _korean)

@@ -8,6 +8,9 @@ _ROWS = """
 0002,0010 UI TransferSyntaxUID
 0002,0012 UI ImplementationClassUID
 0002,0013 SH ImplementationVersionName
+0002,0016 AE SourceApplicationEntityTitle
+0002,0100 UI PrivateInformationCreatorUID
+0002,0102 OB PrivateInformation
 0004,1130 CS FileSetID
 0004,1200 UL OffsetOfTheFirstDirectoryRecordOfTheRootDirectoryEntity
 0004,1202 UL OffsetOfTheLastDirectoryRecordOfTheRootDirectoryEntity
@@ -34,11 +37,13 @@ _ROWS = """
 0008,0060 CS Modality
 0008,0064 CS ConversionType
 0008,0070 LO Manufacturer
+0008,0080 LO InstitutionName
 0008,0090 PN ReferringPhysicianName
 0008,0100 SH CodeValue
 0008,0102 SH CodingSchemeDesignator
 0008,0104 LO CodeMeaning
 0008,0121 SQ EquivalentCodeSequence
+0008,1010 SH StationName
 0008,1030 LO StudyDescription
 0008,1032 SQ ProcedureCodeSequence
 0008,1070 PN OperatorsName
@@ -59,7 +64,11 @@ _ROWS = """
 0010,0010 PN PatientName
 0010,0020 LO PatientID
 0010,0030 DA PatientBirthDate
+0010,0032 TM PatientBirthTime
 0010,0040 CS PatientSex
+0010,1000 LO OtherPatientIDs
+0010,1040 LO PatientAddress
+0010,2154 SH PatientTelephoneNumbers
 0018,0020 CS ScanningSequence
 0018,0021 CS SequenceVariant
 0018,0022 CS ScanOptions

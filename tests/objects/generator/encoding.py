@@ -9,8 +9,7 @@ from .dataset import UN, UN_SEQUENCE, Pixels
 LONG_FORM = {"OB", "OD", "OF", "OL", "OV", "OW", "SQ", "SV", "UC", "UN", "UR", "UT", "UV"}
 IN_CHARACTER_SET = {"LO", "LT", "PN", "SH", "ST", "UC", "UT"}
 NUMBERS = {"FD": "d", "FL": "f", "OD": "d", "OF": "f", "OL": "I", "SL": "i", "SS": "h", "SV": "q", "UL": "I",
-           "US": "H",
-           "UV": "Q"}
+           "US": "H", "UV": "Q"}
 PIXEL_DATA = 0x7FE00010
 CHARACTER_SET = 0x00080005
 ITEM, ITEM_END, SEQUENCE_END = 0xFFFEE000, 0xFFFEE00D, 0xFFFEE0DD

@@ -7,11 +7,14 @@ from .planting import planted_in
 
 
 class Output:
+    """Keeps nothing of what it has written."""
+
     def __init__(self, folder, set_name, seed):
         self.folder = pathlib.Path(folder)
-        self._about = {"set": set_name, "seed": seed}
-        self._files = []
-        self.members = []  # (path, ObjectFile) of all objects
+        self.folder.mkdir(parents=True, exist_ok=True)
+        self._description = open(self.folder / "planted.json", "w", encoding="utf-8")
+        self._description.write(f'{{"set": "{set_name}", "seed": {seed}, "files": [')
+        self._count = 0
 
     def add(self, path, kind, file, planted=(), **more):
         """Writes the object. `planted` is what stands outside its data set."""
@@ -19,22 +22,21 @@ class Output:
         self.add_bytes(path, file.encoded(), kind=kind.name, sop_class=kind.sop_class, modality=kind.modality,
                        **_description(file), **more,
                        planted=[dataclasses.asdict(plant) for plant in [*planted_in(file), *planted]])
-        self.members.append((path, file))
 
     def add_bytes(self, path, content, **description):
         """Writes a file of any bytes."""
         target = self.folder / path
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_bytes(content)
-        self._files.append({"path": str(path), **description})
+        text = json.dumps({"path": str(path), **description}, ensure_ascii=False)
+        self._description.write((",\n" if self._count else "\n") + text)
+        self._count += 1
 
-    def finish(self, **more):
-        """Writes planted.json and returns the number of files beside it."""
-        about = json.dumps({**self._about, **more}, ensure_ascii=False)[1:-1]
-        files = ",\n".join(json.dumps(file, ensure_ascii=False) for file in self._files)
-        text = f'{{{about}, "files": [\n{files}\n]}}\n'
-        (self.folder / "planted.json").write_text(text, encoding="utf-8")
-        return len(self._files)
+    def finish(self):
+        """Completes planted.json and returns the number of files beside it."""
+        self._description.write("\n]}\n")
+        self._description.close()
+        return self._count
 
 
 def _description(file):

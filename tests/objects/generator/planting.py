@@ -18,6 +18,7 @@ class Plant:
     original: str = ""
     spelling: str = ""
     encoding: str = ""  # when it is not the character set of the data set
+    written: bytes = b""  # when it is only a part of the element's value
 
 
 @dataclasses.dataclass(frozen=True)
@@ -67,8 +68,8 @@ def _walk(data_set, path, character_set, syntax, private, unknown, found):
 def _planted(element, tag, path, character_set, syntax, private, unknown):
     plant = element.plant
     in_unknown = unknown or element.written_as
-    written = value_bytes(element.vr, element.value, encoder(character_set),
-                          syntax.big_endian and not in_unknown)
+    big_endian = syntax.big_endian and not in_unknown
+    written = plant.written or value_bytes(element.vr, element.value, encoder(character_set), big_endian)
     sets = character_set if isinstance(character_set, str) else "\\".join(character_set)
     return Planted(value=plant.text, bytes=written.hex(), keyword=keyword_of(tag), tag=path, vr=element.vr,
                    written_vr="UN" if in_unknown else element.vr, place=PRIVATE if private else DATA_SET,

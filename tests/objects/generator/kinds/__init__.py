@@ -27,4 +27,3 @@ KINDS = {kind.name: kind for kind in [
     Kind("GSPS", documents.presentation_state, documents.PRESENTATION_STATE, "PR", False),
     Kind("PDF", documents.encapsulated_pdf, documents.ENCAPSULATED_PDF, "DOC", False),
 ]}
-IMAGES = [kind for kind in KINDS.values() if kind.has_pixels]

@@ -4,9 +4,10 @@ import dataclasses
 from ..dataset import DataSet
 from ..encoding import EXPLICIT, Encoder
 from ..files import ObjectFile
+from . import Kind
 from .common import NEUTRAL_DATE, NEUTRAL_TIME
 
-STORAGE_DIRECTORY = "1.2.840.10008.1.3.10"
+DIRECTORY = Kind("DICOMDIR", None, "1.2.840.10008.1.3.10", "", False)
 IN_USE = 0xFFFF
 RECORD_TYPES = {"SR": "SR DOCUMENT", "RTSTRUCT": "RT STRUCTURE SET", "PR": "PRESENTATION", "DOC": "ENCAP DOC"}
 
@@ -24,7 +25,7 @@ def directory(uid, members):
         _insert(root, path, file)
     records = []
     _collect(root, records)
-    data_set = DataSet(SOPClassUID=STORAGE_DIRECTORY, SOPInstanceUID=uid, FileSetID="",
+    data_set = DataSet(SOPClassUID=DIRECTORY.sop_class, SOPInstanceUID=uid, FileSetID="",
                        OffsetOfTheFirstDirectoryRecordOfTheRootDirectoryEntity=0, FileSetConsistencyFlag=0,
                        OffsetOfTheLastDirectoryRecordOfTheRootDirectoryEntity=0,
                        DirectoryRecordSequence=[record.data_set for record in records])
@@ -101,8 +102,8 @@ COPIED = {"SR DOCUMENT": ["CompletionFlag", "VerificationFlag", "ContentDate", "
                           "ConceptNameCodeSequence"],
           "RT STRUCTURE SET": ["StructureSetLabel", "StructureSetDate", "StructureSetTime"],
           "PRESENTATION": ["ContentLabel", "ContentDescription", "ContentCreatorName",
-                           "PresentationCreationDate",
-                           "PresentationCreationTime", "ReferencedSeriesSequence"],
+                           "PresentationCreationDate", "PresentationCreationTime",
+                           "ReferencedSeriesSequence"],
           "ENCAP DOC": ["ContentDate", "ContentTime", "DocumentTitle", "ConceptNameCodeSequence",
                         "MIMETypeOfEncapsulatedDocument"]}
 EMPTY = {"ConceptNameCodeSequence": []}
@@ -116,12 +117,12 @@ def _collect(records, out):
 
 def _offsets(file, records):
     """Where each record's item begins in the file; the offsets that are still to be set change no size."""
-    at = len(file.encoded()) - len(Encoder(EXPLICIT).items(file.data_set.value("DirectoryRecordSequence"),
-                                                           str.encode))
+    sizes = [len(Encoder(EXPLICIT).items([record.data_set], str.encode)) for record in records]
+    at = len(file.encoded()) - sum(sizes)
     offsets = {}
-    for record in records:
+    for record, size in zip(records, sizes):
         offsets[id(record)] = at
-        at += len(Encoder(EXPLICIT).items([record.data_set], str.encode))
+        at += size
     return offsets
 
 

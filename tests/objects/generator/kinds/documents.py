@@ -43,9 +43,9 @@ def presentation_state(instance):
     series = [DataSet(SeriesInstanceUID=uid, ReferencedImageSequence=[reference(to) for to in members])
               for uid, members in by_series(instance.references)]
     data_set.set(Laterality="", ContentLabel="NONE", ContentDescription="", ContentCreatorName="",
-                 PresentationCreationDate=NEUTRAL_DATE,
-                 PresentationCreationTime=NEUTRAL_TIME, ReferencedSeriesSequence=series,
-                 DisplayedAreaSelectionSequence=[area], PresentationLUTShape="IDENTITY",
+                 PresentationCreationDate=NEUTRAL_DATE, PresentationCreationTime=NEUTRAL_TIME,
+                 ReferencedSeriesSequence=series, DisplayedAreaSelectionSequence=[area],
+                 PresentationLUTShape="IDENTITY",
                  GraphicLayerSequence=[DataSet(GraphicLayer="NOTE", GraphicLayerOrder="1")],
                  GraphicAnnotationSequence=[_annotation()])
     return data_set

@@ -5,15 +5,15 @@ from .common import NEUTRAL_DATE, NEUTRAL_TIME, code, equipment, frame_of_refere
 ENHANCED_MR = "1.2.840.10008.5.1.4.1.1.4.1"
 FRAMES = 2
 PIXELS = {"PixelPresentation": "MONOCHROME", "VolumetricProperties": "VOLUME",
-          "VolumeBasedCalculationTechnique": "NONE",
-          "ComplexImageComponent": "MAGNITUDE", "AcquisitionContrast": "UNKNOWN"}
+          "VolumeBasedCalculationTechnique": "NONE", "ComplexImageComponent": "MAGNITUDE",
+          "AcquisitionContrast": "UNKNOWN"}
 
 
 def enhanced_mr(instance):
     data_set = equipment(frame_of_reference(general(instance, ENHANCED_MR, "MR"), instance))
     data_set.set(ImageType=["DERIVED", "PRIMARY", "VOLUME", "NONE"], ContentDate=NEUTRAL_DATE,
-                 ContentTime=NEUTRAL_TIME,
-                 NumberOfFrames=str(FRAMES), PatientPosition="HFS", BurnedInAnnotation="NO",
+                 ContentTime=NEUTRAL_TIME, NumberOfFrames=str(FRAMES), PatientPosition="HFS",
+                 BurnedInAnnotation="NO",
                  LossyImageCompression="00", PresentationLUTShape="IDENTITY", AcquisitionContextSequence=[],
                  ContentQualification="RESEARCH", ApplicableSafetyStandardAgency="IEC", **PIXELS)
     data_set.set(SharedFunctionalGroupsSequence=[_shared()],

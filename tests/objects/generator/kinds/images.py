@@ -15,8 +15,7 @@ def _general(instance, sop_class, modality):
 def ct(instance):
     data_set = plane(frame_of_reference(_general(instance, CT, "CT"), instance), instance)
     data_set.set(ImageType=["ORIGINAL", "PRIMARY", "AXIAL"], KVP="120", AcquisitionNumber="1",
-                 RescaleIntercept="-1024",
-                 RescaleSlope="1", PatientPosition="HFS")
+                 RescaleIntercept="-1024", RescaleSlope="1", PatientPosition="HFS")
     return grey_pixels(data_set, instance, sign=1)
 
 
@@ -24,8 +23,7 @@ def mr(instance):
     data_set = plane(frame_of_reference(_general(instance, MR, "MR"), instance), instance)
     data_set.set(ImageType=["ORIGINAL", "PRIMARY", "OTHER"], ScanningSequence="SE", SequenceVariant="NONE",
                  ScanOptions="", MRAcquisitionType="2D", RepetitionTime="500", EchoTime="10",
-                 EchoTrainLength="1",
-                 PatientPosition="HFS")
+                 EchoTrainLength="1", PatientPosition="HFS")
     return grey_pixels(data_set, instance)
 
 

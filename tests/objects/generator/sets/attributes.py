@@ -36,7 +36,7 @@ def write(folder, seed, options):
             if written_as is not None:
                 _plant(file.data_set, listed, values, written_as)
             output.add(f"{kind.name}/{name}.dcm", kind, file)
-    return output.finish(attributes=len(listed))
+    return output.finish()
 
 
 def read_list(path):

@@ -7,9 +7,9 @@ from ..charsets import JAPANESE, KOREAN, LATIN_1, UTF_8
 from ..dataset import UN, UN_SEQUENCE, DataSet, Element
 from ..encoding import BIG_ENDIAN, DEFLATED, EXPLICIT, IMPLICIT, JPEG, JPEG_2000, RLE, Lengths
 from ..files import ObjectFile
-from ..kinds import KINDS, Kind
+from ..kinds import KINDS
 from ..kinds.common import code
-from ..kinds.directory import STORAGE_DIRECTORY, directory
+from ..kinds.directory import DIRECTORY, directory
 from ..output import Output
 from ..planting import Plant, mark
 from ..subjects import Instance, Patient, Reference, Series, Study, Uids
@@ -22,23 +22,26 @@ SYNTAXES = [EXPLICIT, IMPLICIT, BIG_ENDIAN, RLE, DEFLATED, JPEG_2000, JPEG]
 CREATOR = "GENERATED 1"
 # The name's second component group is in the declared character set; Latin names come without one.
 PEOPLE = [(LATIN_1, "Brückner^Jördis", ""), (UTF_8, "Łęcka^Żaneta", ""),
-          (JAPANESE, "Haruyama^Akane", "=春山^茜"),
-          ("", "Oldfield^Perpetua", ""), (KOREAN, "Pyeon^Seorin", "=편^서린")]
+          (JAPANESE, "Haruyama^Akane", "=春山^茜"), ("", "Oldfield^Perpetua", ""),
+          (KOREAN, "Pyeon^Seorin", "=편^서린")]
 STREETS = ["Wendelsteig", "Tannhofring", "Birkweiler", "Rosshalde"]
 
 
 def write(folder, seed, options):
     output = Output(folder, "mixed", seed)
     maker = _Maker(seed, options)
+    members = []
     for number in range(options.count):
         instance = maker.next(number)
         kind = maker.kind
         file = _file(kind, instance, maker.character_set, number)
-        output.add(maker.path(number), kind, file, patient=instance.series.study.patient.id)
-    if options.directory:
-        output.add("DICOMDIR", Kind("DICOMDIR", None, STORAGE_DIRECTORY, ""),
-                   directory(maker.uids.new(), output.members))
-    return output.finish(count=options.count)
+        path = maker.path(number)
+        output.add(path, kind, file, patient=instance.series.study.patient.id)
+        if options.directory:
+            members.append((path, file))
+    if members:
+        output.add("DICOMDIR", DIRECTORY, directory(maker.uids.new(), members))
+    return output.finish()
 
 
 class _Maker:
@@ -112,8 +115,8 @@ def _file(kind, instance, character_set, number):
     if character_set:
         data_set.set(SpecificCharacterSet=character_set)
     for keyword, value_class in (("PatientName", "person"), ("PatientID", "identifier"),
-                                 ("PatientBirthDate", "date"),
-                                 ("AccessionNumber", "identifier"), ("StudyDescription", "free text")):
+                                 ("PatientBirthDate", "date"), ("AccessionNumber", "identifier"),
+                                 ("StudyDescription", "free text")):
         mark(data_set, keyword, value_class)
     syntax = SYNTAXES[number % len(SYNTAXES)]
     if syntax.encapsulated and not kind.has_pixels:
