@@ -54,7 +54,7 @@ bool bindTable(const RunContext &context, RunOptions &options)
                            Texts::tr("\n\nYou should implement the <missing> value for the <old_value> field."
                                      "\n\n(See the example file in the Application Bundle)"));
 
-    const QString tag = bound.key();
+    const QString &tag = bound.key();
     context.state.update([&tag](RunState &state) {
         state.usingLUT = true;
         state.newValueDict.remove(tag);
