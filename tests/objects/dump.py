@@ -36,9 +36,9 @@ class Dump:
         self.values[f"{outer}({tag.decode()})"] = (vr, value)
 
 
-def dump(folder, paths):
+def dump(folder, paths, *options):
     """A Dump for each of the paths, and the lines that dcmdump wrote beside them."""
-    words = ["dcmdump", "+F", "-Un", "+L", *map(str, paths)]
+    words = ["dcmdump", "+F", "-Un", "+L", *options, *map(str, paths)]
     run = subprocess.run(words, cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False,
                          timeout=300)
     dumps = {}

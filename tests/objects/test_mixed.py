@@ -1,12 +1,15 @@
 #!/usr/bin/python3
 """Objects of all kinds, written in all ways."""
+import collections
 import json
 import unittest
 
-from generator.encoding import DEFLATED, EXPLICIT, IMPLICIT
+from generator.encoding import DEFLATED, EXPLICIT, IMPLICIT, JPEG_2000
 from generator.kinds import KINDS
 from support import SetTests, make, split
 
+ITEM_TAG = b"\xfe\xff\x00\xe0"
+PIXELS = b"\xe0\x7f\x10\x00OB\0\0\xff\xff\xff\xff"
 # What dcmdump calls the transfer syntaxes.
 NAMES = {"1.2.840.10008.1.2": "Little Endian Implicit", "1.2.840.10008.1.2.1": "Little Endian Explicit",
          "1.2.840.10008.1.2.2": "Big Endian Explicit",
@@ -39,6 +42,15 @@ class MixedTest(SetTests, unittest.TestCase):
             self.assertEqual({"RLE", "JPEG", "JPEG 2000"} <= syntaxes, kind.has_pixels, kind.name)
         self.assertEqual(len({json.dumps(file["undefined_lengths"]) for file in self.objects().values()}), 4)
 
+    def test_names_and_uids_stand_nowhere_but_where_they_are_told(self):
+        for path, file in self.files.items():
+            data_set = split((self.folder / path).read_bytes())[2]
+            told = collections.Counter(plant["bytes"] for plant in file["planted"]
+                                       if plant["value_class"] in ("person", "UID"))
+            found = {written: data_set.count(bytes.fromhex(written)) for written in told}
+            self.assertEqual(found, dict(told), path)
+            self.assertGreater(len(told), 3, path)
+
     def test_references_lead_to_objects_of_the_same_study(self):
         objects = {value(self.dumps[path], "(0008,0018)"): self.dumps[path] for path in self.objects()}
         # A structure set names the study itself in its (3006,0012).
@@ -62,6 +74,30 @@ class MixedTest(SetTests, unittest.TestCase):
         shown = self.dumps["DICOMDIR"].values.items()
         listed = {text(entry).replace("\\", "/") for tag, entry in shown if tag.endswith("(0004,1500)")}
         self.assertEqual(listed, set(self.objects()))
+
+    def test_the_directory_leads_to_each_record_once(self):
+        data = (self.folder / "DICOMDIR").read_bytes()
+        shown = self.dumps["DICOMDIR"].values
+        records = {tag.partition(".")[0] for tag in shown if tag.startswith("(0004,1220)[")}
+        leads = [int(number) for tag, (_, number) in shown.items()
+                 if tag == "(0004,1200)" or tag.endswith((".(0004,1400)", ".(0004,1420)"))]
+        leads = [offset for offset in leads if offset]
+        self.assertEqual(len(set(leads)), len(leads))
+        self.assertEqual(len(leads), len(records))
+        self.assertEqual({data[offset:offset + 4] for offset in leads}, {ITEM_TAG})
+
+    def test_offset_tables_lead_to_the_frames(self):
+        frames = 0
+        for path, file in self.files.items():
+            if file["syntax"] == JPEG_2000.name:
+                pixels = split((self.folder / path).read_bytes())[2].partition(PIXELS)[2]
+                size = int.from_bytes(pixels[4:8], "little")
+                for at in range(0, size, 4):
+                    frame = pixels[8 + size + int.from_bytes(pixels[8 + at:12 + at], "little"):]
+                    self.assertEqual((frame[:4], frame[8:12]), (ITEM_TAG, b"\xff\x4f\xff\x51"), path)
+                    frames += 1
+                self.assertGreater(pixels.count(ITEM_TAG), size // 4 * 2, path)
+        self.assertGreater(frames, 20)
 
     def test_sizes_folders_and_the_directory_can_be_chosen(self):
         flat = self.scratch / "flat"

@@ -2,8 +2,10 @@
 """Pairs of an original and a result that still has one of its values."""
 import pathlib
 import re
+import subprocess
 import unittest
 
+from dump import dump
 from support import SetTests, split
 
 PLACES = {"data set", "private bytes", "file meta", "preamble", "trailing bytes", "file name", "folder name"}
@@ -42,6 +44,20 @@ class PlacesTest(SetTests, unittest.TestCase):
                 where = {"preamble": preamble, "file meta": header, "trailing bytes": rest[-100:],
                          "file name": name.name.encode(), "folder name": name.parent.name.encode()}
                 self.assertIn(bytes.fromhex(plant["bytes"]), where.get(plant["place"], rest))
+
+    def test_names_are_in_the_declared_character_sets(self):
+        plants = {path: file for path, file in self.results().items() if " to " in file["row"]}
+        for path, file in plants.items():
+            plant = file["planted"][0]
+            if "ISO 2022 IR 87" in file["character_set"]:  # nothing that DCMTK converts
+                run = subprocess.run(["iconv", "-f", "ISO-2022-JP", "-t", "UTF-8"], check=True, timeout=60,
+                                     input=bytes.fromhex(plant["bytes"]), stdout=subprocess.PIPE)
+                self.assertEqual(run.stdout.decode(), plant["value"])
+            else:
+                dumps, remarks = dump(self.folder, [path], "+U8")
+                self.assertEqual(remarks, [])
+                self.assertEqual(dumps[path].values[plant["tag"]], ("PN", f"[{plant['value']}]".encode()))
+        self.assertEqual(len(plants), 18)
 
     def test_nothing_else_of_the_original_is_in_a_result(self):
         for path, file in self.results().items():

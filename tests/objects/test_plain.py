@@ -31,6 +31,13 @@ class PlainTest(SetTests, unittest.TestCase):
                 self.assertEqual([line for line in said if "Error" in line], [])
                 self.assertGreater(len(said), 0)
 
+    def test_the_cells_are_the_same_in_every_native_syntax(self):
+        native = [path for path, file in self.files.items() if file["kind"] == "CT"
+                  and file["syntax"] in ("implicit", "explicit", "big endian", "deflated")]
+        for path in native:
+            self.assertEqual(self.dumps[path].values["(7fe0,0010)"], native_pixels(int(path[-6:])), path)
+        self.assertEqual(len(native), 5)
+
     def test_frames_in_rle_come_out_as_they_went_in(self):
         packed = next(path for path, file in self.files.items() if file["syntax"] == RLE.name)
         decoded = self.scratch / "decoded"

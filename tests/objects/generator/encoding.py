@@ -49,9 +49,9 @@ class Lengths:
 
 
 def value_bytes(vr, value, encode, big_endian=False):
-    """A value's bytes before padding. Bytes are taken as they are, words of OW are given in little endian."""
+    """A value's bytes before padding; bytes are taken as they are."""
     if isinstance(value, bytes):
-        return _swapped(value) if big_endian and vr == "OW" else value
+        return value
     values = value if isinstance(value, list) else [value]
     order = ">" if big_endian else "<"
     if vr == "AT":

@@ -66,6 +66,6 @@ def grey_pixels(data_set, instance, frames=1, bits=16, sign=0):
 
 
 def _row(size, shade):
-    """Flat stretches and ramps, never text."""
-    ramp = bytes([shade % 16] * 32 + [(shade + step) % 16 for step in range(32)])
+    """Ramps and flat stretches, never text."""
+    ramp = bytes([(shade + step) % 16 for step in range(32)] + [shade % 16] * 32)
     return (ramp * (size // len(ramp) + 1))[:size]

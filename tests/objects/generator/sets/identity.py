@@ -6,8 +6,8 @@ from ..subjects import Patient, Study, Uids
 # What the objects of a person carry, with the class of each value.
 ATTRIBUTES = {"PatientName": "person", "PatientID": "identifier", "PatientBirthDate": "date",
               "AccessionNumber": "identifier", "PatientAddress": "place",
-              "PatientTelephoneNumbers": "contact", "StationName": "device", "InstitutionName": "institution", "StudyDescription": "free text",
-              "StudyDate": "date",
+              "PatientTelephoneNumbers": "contact", "StationName": "device",
+              "InstitutionName": "institution", "StudyDescription": "free text", "StudyDate": "date",
               "OtherPatientIDs": "identifier", "StudyID": "identifier", "PatientBirthTime": "date",
               "ReferringPhysicianName": "person", "StudyInstanceUID": "UID"}
 

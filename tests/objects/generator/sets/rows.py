@@ -6,7 +6,7 @@ from ..charsets import JAPANESE, KOREAN, LATIN_1, UTF_8
 from ..encoding import (BIG_ENDIAN, DEFLATED, EXPLICIT, IMPLICIT, JPEG_2000, RLE, Lengths, Syntax)
 from ..kinds import KINDS
 from . import spellings, spots
-from .identity import ATTRIBUTES
+from .identity import ATTRIBUTES, CHARACTERS
 
 COMMENTS = spots.top_level(0x00104000, "LT")
 DESCRIPTION = spots.top_level(0x00081030, "LO")
@@ -156,13 +156,19 @@ def _character_sets():
     for spelt, own in OWN_SETS.items():
         for original, result in ((own, own), (own, UTF_8), (UTF_8, own)):
             name = f"{spelt} name, {set_name(original)} to {set_name(result)}"
-            yield Row(name, "PatientName", OTHER_NAMES, full_name, spelt=spelt, sets=(original, result))
+            yield Row(name, "PatientName", OTHER_NAMES, in_group_of(spelt), spelt=spelt,
+                      sets=(original, result))
         yield Row(f"{spelt} name, three levels down", "PatientName", THREE_DEEP, full_name, spelt=spelt,
                   sets=(own, own))
         yield Row(f"{spelt} name, private", "PatientName", spots.private("LO"), full_name, spelt=spelt,
                   sets=(own, own))
         yield Row(f"{spelt} name, character set of an item", "PatientName", spots.item_of_set(own), full_name,
                   spelt=spelt, sets=(own, ""), encoding=set_name(own))
+
+
+def in_group_of(spelt):
+    """The first component group of a PN has no escape sequences: such names are in the second."""
+    return (lambda person: "=" + full_name(person)) if spelt in CHARACTERS else full_name
 
 
 def set_name(character_set):
