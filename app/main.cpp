@@ -7,6 +7,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(dravolin::executableName());
+    QApplication::setDesktopFileName(QStringLiteral("example.dravolin.Dravolin"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the log window
     dravolin::QVAppDelegate delegate;
     delegate.applicationDidFinishLaunching();

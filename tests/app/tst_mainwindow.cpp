@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -25,6 +26,13 @@ QString checked(const Ui::MainWindow &c)
            (c.prepopulateLUTcheckbox->isChecked() ? QStringLiteral("C") : QString()) +
            (c.generateSOPCheckbox->isChecked() ? QStringLiteral("G") : QString()) +
            (c.onlyGenerateSOPCheckbox->isChecked() ? QStringLiteral("N") : QString());
+}
+
+// Switches a box on without its rule.
+void preset(QCheckBox &box)
+{
+    const QSignalBlocker quietly(box);
+    box.setChecked(true);
 }
 
 // The main window as it starts, and what its controls do outside a run.
@@ -64,6 +72,7 @@ private Q_SLOTS:
     void constructionWithoutMarkerMayQuit();
     void keepsThePictureWhenAnotherBoxClearsConstruction();
     void tablePopupChangeClearsOnlyGenerate();
+    void theWebSiteIsNotOpenedOnEscape();
     void webSitePrompt_data();
     void webSitePrompt();
     void configurationFolderIsOpened();
@@ -213,11 +222,12 @@ void MainWindowTest::fitsTheRunningHeight()
 void MainWindowTest::configurationsAreScannedAfterTheWindowIsUp()
 {
     m_app->controller.reset();
-    m_app->delays.beforeConfigurationScan = 1;
+    m_app->delays.beforeConfigurationScan = 100;
     m_app->controller = std::make_unique<MainController>(
         AppPorts{m_app->run.paths, m_app->run.jobs, m_app->run.uuids, m_app->presenter, m_app->delays});
     m_app->controller->initAndShow();
     QComboBox *const popup = m_app->controller->controls().selectConfigPopupButton;
+    QCoreApplication::processEvents();
     QCOMPARE(popup->count(), 0);
     QCOMPARE(m_app->controller->controls().selectLUTpopupButton->count(), 1); // tables come at once
     QTRY_COMPARE(popup->count(), 1);
@@ -247,6 +257,7 @@ void MainWindowTest::noConfigurationGivesTheDefaultAndASheet()
     QCOMPARE(sheet.escape, 1001);
     m_app->controller->getConfigurationFilePathsAndPopulateButton();
     QCOMPARE(m_app->presenter.sheets.size(), 2); // at every discovery that finds nothing
+    QCOMPARE(m_app->controls->selectConfigPopupButton->count(), 1);
 }
 
 void MainWindowTest::continueKeepsTheDefault()
@@ -436,7 +447,7 @@ void MainWindowTest::checkBoxRules()
                                             {u'G', c.generateSOPCheckbox},
                                             {u'N', c.onlyGenerateSOPCheckbox}};
     for (const QChar letter : before)
-        boxes.value(letter)->setChecked(true);
+        preset(*boxes.value(letter));
     QTest::mouseClick(boxes.value(clicked), Qt::LeftButton, {}, {8, 8});
     QCOMPARE(checked(c), after);
 }
@@ -448,7 +459,7 @@ void MainWindowTest::constructionTakesTheFirstMarker()
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
     const Ui::MainWindow &c = *m_app->controls;
     for (QCheckBox *box : {c.overWriteSourceCheckbox, c.generateSOPCheckbox, c.onlyGenerateSOPCheckbox})
-        box->setChecked(true);
+        preset(*box);
     QTest::mouseClick(c.prepopulateLUTcheckbox, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(checked(c), QStringLiteral("C"));
     QCOMPARE(m_app->controller->state().get(&RunState::LUTconstructionTag), QStringLiteral("0010,0030"));
@@ -462,7 +473,7 @@ void MainWindowTest::constructionWithoutMarkerIsSwitchedOff()
 {
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
     const Ui::MainWindow &c = *m_app->controls;
-    c.generateSOPCheckbox->setChecked(true);
+    preset(*c.generateSOPCheckbox);
     QTest::mouseClick(c.prepopulateLUTcheckbox, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(m_app->presenter.sheets.size(), 1);
     const AlertSheet &sheet = m_app->presenter.sheets.first();
@@ -504,8 +515,8 @@ void MainWindowTest::tablePopupChangeClearsOnlyGenerate()
     m_app->run.writeFile(QStringLiteral("home/Desktop/AnonymizationLUT_A.txt"));
     restart();
     const Ui::MainWindow &c = *m_app->controls;
-    c.generateSOPCheckbox->setChecked(true);
-    c.onlyGenerateSOPCheckbox->setChecked(true);
+    preset(*c.generateSOPCheckbox);
+    preset(*c.onlyGenerateSOPCheckbox);
     c.selectLUTpopupButton->setFocus();
     QTest::keyClick(c.selectLUTpopupButton, Qt::Key_Down);
     QCOMPARE(c.selectLUTpopupButton->currentText(), QStringLiteral("A"));
@@ -514,6 +525,13 @@ void MainWindowTest::tablePopupChangeClearsOnlyGenerate()
     QTest::mouseClick(c.onlyGenerateSOPCheckbox, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(c.selectLUTpopupButton->currentText(), QStringLiteral("Don't use a look-up table"));
     QCOMPARE(checked(c), QStringLiteral("GN"));
+}
+
+void MainWindowTest::theWebSiteIsNotOpenedOnEscape()
+{
+    m_app->presenter.answers = {AlertButton::Alternate};
+    QTest::mouseClick(m_app->controls->webSiteButton, Qt::LeftButton);
+    QCOMPARE(m_app->presenter.alerts.first().escape, AlertButton::Alternate);
 }
 
 void MainWindowTest::webSitePrompt_data()
