@@ -7,6 +7,7 @@
 #   run      what the built program calls when it runs
 #   desktop  a screen without a monitor, and what drives a program on it
 #   test     what the tests need beside these
+#   package  what makes and checks the Debian package
 set -eu
 
 packages_of() {
@@ -16,7 +17,8 @@ packages_of() {
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core ;;
         test) echo python3 dcmtk dicom3tools libgmp-dev ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test)" >&2; exit 2 ;;
+        package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package)" >&2; exit 2 ;;
     esac
 }
 
