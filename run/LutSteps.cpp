@@ -47,7 +47,7 @@ bool bindTable(const RunContext &context, RunOptions &options)
         refuse(context, Refusal::TableWithoutMissing, name);
         return false;
     }
-    const QString tag = bound.key();
+    const QString &tag = bound.key();
     context.state.update([&tag](RunState &state) {
         state.usingLUT = true;
         state.newValueDict.remove(tag);

@@ -82,7 +82,8 @@ void TestRunDialogs::refusesInAnAlert_data()
     QTest::newRow("an impossible UID")
         << static_cast<int>(Refusal::InvalidStudyInstanceUid)
         << text("Study Instance UID would be invalid|The combination of the CaseID and the UID root would "
-                "result in the creation of an invalid Study Instance UID.\nThis is now allowed.\n\nOnly digits "
+                "result in the creation of an invalid Study Instance UID.\nThis is now allowed.\n\nOnly "
+                "digits "
                 "and '.' are allowed, and the total maximum length is 64 characters.\n|OK|");
     QTest::newRow("out of file handles")
         << static_cast<int>(Refusal::OutOfFileHandles)
@@ -141,7 +142,8 @@ void TestRunDialogs::aSheetsAnswer_data()
     QTest::addColumn<QString>("configuration");
     QTest::addColumn<int>("button");
     QTest::addColumn<bool>("open");
-    QTest::newRow("retry leaves the window") << text("0010,1000\tx\t<LUT_Other>") << AlertSheet::firstButton << true;
+    QTest::newRow("retry leaves the window")
+        << text("0010,1000\tx\t<LUT_Other>") << AlertSheet::firstButton << true;
     QTest::newRow("quit closes it") << text("0010,1000\tx\t<LUT_Other>") << AlertSheet::secondButton << false;
 }
 

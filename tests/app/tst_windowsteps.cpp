@@ -23,7 +23,8 @@ QString described(const WindowStep &step)
     case Kind::Spinner: return step.on ? QStringLiteral("start spinning") : QStringLiteral("stop spinning");
     case Kind::Separator: return QStringLiteral("show separator");
     case Kind::Progress: return QStringLiteral("setProgress: %1").arg(step.percent);
-    case Kind::ProgressVisible: return step.on ? QStringLiteral("show progress") : QStringLiteral("hide progress");
+    case Kind::ProgressVisible:
+        return step.on ? QStringLiteral("show progress") : QStringLiteral("hide progress");
     case Kind::OverwriteSource: return able("overwriteSource");
     case Kind::SelectLUT: return able("selectLUT");
     case Kind::Prepopulate: return able("prepopulate");
@@ -74,7 +75,8 @@ void TestWindowSteps::beginsInOrder_data()
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("status");
     const QString tag = QStringLiteral("0010,0020");
-    QTest::newRow("anonymization") << static_cast<int>(RunKind::Anonymize) << tag << QStringLiteral("\nWorking...");
+    QTest::newRow("anonymization") << static_cast<int>(RunKind::Anonymize) << tag
+                                   << QStringLiteral("\nWorking...");
     QTest::newRow("only generate") << static_cast<int>(RunKind::OnlyGenerate) << tag
                                    << QStringLiteral("\nWorking...");
     const int construct = static_cast<int>(RunKind::Construct);
@@ -113,7 +115,8 @@ void TestWindowSteps::tellsTheProgress_data()
     const auto row = [](const char *name, Event event, quint64 done, quint64 all, const QStringList &steps) {
         QTest::newRow(name) << static_cast<int>(event) << done << all << steps;
     };
-    row("no folders", Event::FoldersAnonymized, 0, 0, {QStringLiteral("setStatus: \nWorking... 0/0 folders")});
+    row("no folders", Event::FoldersAnonymized, 0, 0,
+        {QStringLiteral("setStatus: \nWorking... 0/0 folders")});
     row("many folders", Event::FoldersAnonymized, 1234567, 98765432,
         {QStringLiteral("setStatus: \nWorking... 1234567/98765432 folders")});
     row("propagating", Event::FoldersPropagated, 1, 4,
@@ -154,14 +157,16 @@ void TestWindowSteps::endsInOrder()
     const QStringList end = {QStringLiteral("pause"),
                              QStringLiteral("setStatus: \nDone!"),
                              QStringLiteral("enable overwriteSource"),
-                             tables ? QStringLiteral("enable selectLUT") : QStringLiteral("disable selectLUT"),
+                             tables ? QStringLiteral("enable selectLUT")
+                                    : QStringLiteral("disable selectLUT"),
                              QStringLiteral("enable prepopulate"),
                              QStringLiteral("enable selectConfig"),
                              QStringLiteral("enable generateSOP"),
                              QStringLiteral("enable onlyGenerateSOP"),
                              QStringLiteral("stop spinning"),
                              QStringLiteral("setStatusToolTip: ")};
-    const QStringList logCall = log.isNull() ? QStringList() : QStringList(QStringLiteral("log window: ") + log);
+    const QStringList logCall =
+        log.isNull() ? QStringList() : QStringList(QStringLiteral("log window: ") + log);
     QCOMPARE(described(endSteps(judgement, tables)), logCall + end);
 }
 
