@@ -62,8 +62,8 @@ class Package(unittest.TestCase):
         self.assertLessEqual(icons | resources | {
             "bin/Dravolin", "bin/dravolin-cli", "share/applications/example.dravolin.Dravolin.desktop",
             "share/metainfo/example.dravolin.Dravolin.metainfo.xml", "share/icons/hicolor/scalable/apps/dravolin.svg",
-            "share/man/man1/Dravolin.1.gz", "share/doc/dravolin/copyright", "share/doc/dravolin/user-guide.md",
-            "share/doc/dravolin/pictures/window.png"}, files)
+            "share/man/man1/Dravolin.1.gz", "share/man/man1/dravolin-cli.1.gz", "share/doc/dravolin/copyright",
+            "share/doc/dravolin/user-guide.md", "share/doc/dravolin/pictures/window.png"}, files)
         self.assertEqual((self.root / "usr/share/dravolin/dcmodify").readlink(), pathlib.Path("../../bin/dcmodify"))
         self.assertFalse((self.root / DICTIONARY).is_symlink(), "it would point at one version of the library")
 
