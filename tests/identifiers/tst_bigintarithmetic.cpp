@@ -246,4 +246,4 @@ private Q_SLOTS:
 };
 
 DRAVOLIN_TEST(TestBigIntArithmetic)
-#include "TestBigIntArithmetic.moc"
+#include "tst_bigintarithmetic.moc"

@@ -149,4 +149,4 @@ private Q_SLOTS:
 };
 
 DRAVOLIN_TEST(TestBigIntConstruction)
-#include "TestBigIntConstruction.moc"
+#include "tst_bigintconstruction.moc"

@@ -231,4 +231,4 @@ private:
 };
 
 DRAVOLIN_TEST(TestBigIntDifferential)
-#include "TestBigIntDifferential.moc"
+#include "tst_bigintdifferential.moc"

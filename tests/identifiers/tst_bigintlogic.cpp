@@ -239,4 +239,4 @@ private:
 };
 
 DRAVOLIN_TEST(TestBigIntLogic)
-#include "TestBigIntLogic.moc"
+#include "tst_bigintlogic.moc"

@@ -194,4 +194,4 @@ private:
 };
 
 DRAVOLIN_TEST(TestBigIntLongDivision)
-#include "TestBigIntLongDivision.moc"
+#include "tst_bigintlongdivision.moc"

@@ -228,4 +228,4 @@ private:
 };
 
 DRAVOLIN_TEST(TestBigIntLucas)
-#include "TestBigIntLucas.moc"
+#include "tst_bigintlucas.moc"

@@ -227,4 +227,4 @@ private Q_SLOTS:
 };
 
 DRAVOLIN_TEST(TestBigIntModular)
-#include "TestBigIntModular.moc"
+#include "tst_bigintmodular.moc"

@@ -261,4 +261,4 @@ private:
 };
 
 DRAVOLIN_TEST(TestBigIntPrimality)
-#include "TestBigIntPrimality.moc"
+#include "tst_bigintprimality.moc"

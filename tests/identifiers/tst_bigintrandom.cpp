@@ -95,4 +95,4 @@ private Q_SLOTS:
 };
 
 DRAVOLIN_TEST(TestBigIntRandom)
-#include "TestBigIntRandom.moc"
+#include "tst_bigintrandom.moc"

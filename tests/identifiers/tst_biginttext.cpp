@@ -211,4 +211,4 @@ private Q_SLOTS:
 };
 
 DRAVOLIN_TEST(TestBigIntText)
-#include "TestBigIntText.moc"
+#include "tst_biginttext.moc"
