@@ -27,14 +27,28 @@ struct Frame
     Syntax syntax;
     qsizetype limit = 0;    // the bytes that may be looked at end here
     bool openEnded = false; // an end tag closes it, and not the limit
+    bool verified = false;  // a walk over a value without VR: all of it fits, or it is no sequence
 };
+
+bool beginsWithItem(QByteArrayView value)
+{
+    constexpr qsizetype headerSize = 8;
+    return value.size() >= headerSize && tagAt(value, 0, {}) == itemTag;
+}
 
 class Walker
 {
 public:
     Walker(QByteArrayView bytes, Syntax syntax, Walk &result) : m_bytes(bytes), m_result(result)
     {
-        m_frames.append({Frame::Kind::Elements, syntax, bytes.size(), false});
+        m_frames.append({Frame::Kind::Elements, syntax, bytes.size()});
+    }
+
+    // Of the items of a sequence.
+    Walker(QByteArrayView bytes, Walk &result) : m_bytes(bytes), m_result(result)
+    {
+        m_frames.append({Frame::Kind::Elements, {}, bytes.size(), false, true});
+        m_frames.append({Frame::Kind::Items, {}, bytes.size(), false, true});
     }
 
     // Where the data set ends; sets the reason when it is damaged.
@@ -90,7 +104,8 @@ private:
         else if (frame.kind == Frame::Kind::Fragments)
             m_at += length;
         else
-            enter({Frame::Kind::Elements, frame.syntax, open ? frame.limit : m_at + length, open});
+            enter({Frame::Kind::Elements, frame.syntax, open ? frame.limit : m_at + length, open,
+                   frame.verified});
     }
 
     void close()
@@ -147,18 +162,20 @@ private:
         // an unknown attribute holds its items as in the implicit syntax
         const Syntax inner = header.vr == vrUnknown && !pixels ? Syntax{} : frame.syntax;
         m_at = value;
-        enter({pixels ? Frame::Kind::Fragments : Frame::Kind::Items, inner, frame.limit, true});
+        enter(
+            {pixels ? Frame::Kind::Fragments : Frame::Kind::Items, inner, frame.limit, true, frame.verified});
     }
 
     void closedValue(const Frame &frame, quint32 tag, const Header &header, qsizetype value)
     {
         const qsizetype end = value + header.length;
-        const bool implicitSequence = !frame.syntax.isExplicit && tag != pixelTag &&
-                                      header.length >= headerSize &&
-                                      tagAt(m_bytes, value, frame.syntax) == itemTag;
-        if (header.vr == vrSequence || implicitSequence) {
+        const bool isUntold = header.vr == 0 || header.vr == vrUnknown;
+        const bool hasItems =
+            isUntold && tag != pixelTag && isSequence(m_bytes.sliced(value, header.length), frame.verified);
+        if (header.vr == vrSequence || hasItems) {
             m_at = value;
-            enter({Frame::Kind::Items, frame.syntax, end, false});
+            enter({Frame::Kind::Items, hasItems ? Syntax{} : frame.syntax, end, false,
+                   hasItems || frame.verified});
             return;
         }
         if (tag == pixelTag && isTop())
@@ -168,6 +185,12 @@ private:
             m_result.contents.bytes += header.length;
         }
         m_at = end;
+    }
+
+    // Without a second look inside a value that was looked at: each look costs a walk over all of it.
+    static bool isSequence(QByteArrayView value, bool verified)
+    {
+        return verified ? beginsWithItem(value) : holdsItems(value);
     }
 
     void notePixels(Span element, Span value, bool encapsulated)
@@ -261,6 +284,14 @@ Walk walk(const QByteArray &file)
                   : result.reason.isEmpty() ? Walk::Kind::Object
                                             : Walk::Kind::Damaged;
     return result;
+}
+
+bool holdsItems(QByteArrayView value)
+{
+    if (!beginsWithItem(value))
+        return false;
+    Walk result;
+    return Walker(value, result).run() == value.size() && result.reason.isEmpty();
 }
 
 } // namespace dravolin::check

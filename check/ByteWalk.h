@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 // A first look at the bytes of an object, before a library sees them: how deep its sequences go, whether
@@ -51,5 +52,9 @@ struct Walk
 };
 
 [[nodiscard]] Walk walk(const QByteArray &file);
+
+// True for the value of a sequence whose VR is not told: items in the implicit syntax, from the first byte to
+// the last, not nested too deep.
+[[nodiscard]] bool holdsItems(QByteArrayView value);
 
 } // namespace dravolin::check

@@ -102,7 +102,7 @@ void addWhat(Page &page, const CheckReport &report, const ReportedCall &call)
                        ? Texts::tr("What pixels show, and what compressed or encrypted bytes hold.")
                        : Texts::tr("Pixel data, and what compressed or encrypted bytes hold."));
     page.paragraph(
-        Texts::tr("Values that were too short to be searched for: %1. Times of day, ages, sizes and weights.")
+        Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
             .arg(report.values->tooShort()));
 }
 

@@ -16,7 +16,6 @@ namespace dravolin::check {
 
 namespace {
 
-constexpr char itemStart[] = "\xFE\xFF\x00\xE0";
 constexpr Tag pixelTag = 0x7FE00010;
 constexpr Tag characterSetTag = 0x00080005;
 
@@ -78,6 +77,26 @@ Element::Kind kindOf(const gdcm::VR &vr)
                                                                                   : Element::Kind::Bytes;
 }
 
+NumberForm numberFormOf(const gdcm::VR &vr)
+{
+    switch (static_cast<gdcm::VR::VRType>(vr)) {
+    case gdcm::VR::US:
+    case gdcm::VR::US_SS: return NumberForm::Unsigned16;
+    case gdcm::VR::SS: return NumberForm::Signed16;
+    case gdcm::VR::UL:
+    case gdcm::VR::OL: return NumberForm::Unsigned32;
+    case gdcm::VR::SL: return NumberForm::Signed32;
+    case gdcm::VR::UV:
+    case gdcm::VR::OV: return NumberForm::Unsigned64;
+    case gdcm::VR::SV: return NumberForm::Signed64;
+    case gdcm::VR::FL:
+    case gdcm::VR::OF: return NumberForm::Float32;
+    case gdcm::VR::FD:
+    case gdcm::VR::OD: return NumberForm::Float64;
+    default: return NumberForm::None;
+    }
+}
+
 class DataSetReader
 {
 public:
@@ -106,13 +125,13 @@ private:
                      : inherited;
     }
 
-    // The items of a sequence; in the implicit syntax nothing but its first bytes says that it is one.
+    // The items of a sequence; without a VR nothing but its bytes say that it is one.
     static gdcm::SmartPointer<gdcm::SequenceOfItems> itemsOf(const gdcm::DataElement &element)
     {
         const gdcm::ByteValue *const value = element.GetByteValue();
         if (value) {
-            const QByteArrayView bytes(value->GetPointer(), static_cast<qsizetype>(value->GetLength()));
-            if (element.GetVR() != gdcm::VR::INVALID || bytes.size() < 8 || !bytes.startsWith({itemStart, 4}))
+            const bool hasVr = element.GetVR() != gdcm::VR::INVALID && element.GetVR() != gdcm::VR::UN;
+            if (hasVr || !holdsItems({value->GetPointer(), static_cast<qsizetype>(value->GetLength())}))
                 return nullptr;
         }
         return element.GetValueAsSQ();
@@ -137,7 +156,7 @@ private:
         m_contents.values += bytes.isEmpty() ? 0 : 1;
         m_contents.bytes += static_cast<quint64>(bytes.size());
         const gdcm::VR vr = vrOf(element);
-        m_visit({tagOf(element), kindOf(vr), vr == gdcm::VR::PN, bytes, m_path, sets});
+        m_visit({tagOf(element), kindOf(vr), numberFormOf(vr), vr == gdcm::VR::PN, bytes, m_path, sets});
     }
 
     const ElementVisit &m_visit;

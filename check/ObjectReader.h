@@ -3,6 +3,7 @@
 #include "check/ByteWalk.h"
 #include "check/CharacterSets.h"
 #include "check/IdentifyingAttributes.h"
+#include "check/Numbers.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -26,6 +27,7 @@ struct Element
     enum class Kind { Text, Numbers, Bytes }; // Numbers: written as text
     Tag tag = 0;
     Kind kind = Kind::Bytes;
+    NumberForm numbers = NumberForm::None; // of Bytes
     bool person = false;
     QByteArrayView bytes;              // valid during the visit
     const std::vector<PathStep> &path; // outermost first

@@ -75,6 +75,7 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
     const qsizetype known = result.findings.size();
     QString text;
     if (element.kind == Element::Kind::Bytes) {
+        searchText(decimalText(element.bytes, element.numbers), TextKind::Numbers);
         searchBytes(element.bytes, placeOf(element), element.sets, result.findings);
     } else {
         text = element.sets.decode(element.bytes);

@@ -70,6 +70,12 @@ QDate dateOf(const QString &value)
     return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
 }
 
+bool isExactTime(const QString &value)
+{
+    static const QRegularExpression form(QStringLiteral("^\\s*\\d{6}\\.\\d{2,6}\\s*$"));
+    return form.match(value).hasMatch();
+}
+
 QStringList spellingsOf(QDate date)
 {
     const QString year = QString::number(date.year()).rightJustified(4, u'0');

@@ -23,6 +23,9 @@ struct NameParts
 // when there is none.
 [[nodiscard]] QDate dateOf(const QString &value);
 
+// True for a time of day with its fraction of a second, which stands nowhere by chance.
+[[nodiscard]] bool isExactTime(const QString &value);
+
 // The usual written forms of a date. What stands between day, month and year is a blank, or a dot between
 // digits; other separators count as a blank.
 [[nodiscard]] QStringList spellingsOf(QDate date);

@@ -110,7 +110,7 @@ void Values::addOne(ValueClass valueClass, Tag source, const QString &value)
     const quint64 key = mixed(combined(words), static_cast<quint64>(valueClass));
     if (words.empty() || isLeftOut(words) || !m_seen.insert(key).second)
         return;
-    if (valueClass == ValueClass::Date)
+    if (valueClass == ValueClass::Date && !isExactTime(value))
         return addDate(source, value);
     if (valueClass == ValueClass::Person)
         return addPerson(source, value);

@@ -3,8 +3,8 @@
 
 TABLE is the table of attributes of the basic confidentiality profile (DICOM PS3.15, E.1-1) as CSV with the columns
 tag, keyword, vr, RetainDeviceId, RetainInstitutionId and CleanDescriptors. Each attribute whose values say
-something about a person comes out with its class. Left out are repeating groups, private attributes, times of
-day, defined terms, numbers and binary values: they identify nobody, or are found by the value of another one.
+something about a person comes out with its class. Left out are repeating groups, private attributes, defined
+terms, numbers and binary values: they identify nobody, or are found by the value of another one.
 """
 
 import csv
@@ -27,7 +27,7 @@ BY_KEYWORD = [  # the first that fits
     ("Person", re.compile(r"OwnerName|TopicAuthor")),
     ("Identifier", re.compile(r"IDs?$|Identifier$|Number|Identification$|RecordLocator|Barcode")),
 ]
-BY_VR = {"PN": "Person", "UI": "Uid", "DA": "Date", "DT": "Date"}
+BY_VR = {"PN": "Person", "UI": "Uid", "DA": "Date", "DT": "Date", "TM": "Date"}
 TEXT = {"AE", "LO", "LT", "SH", "ST", "UC", "UR", "UT"}
 
 

@@ -71,6 +71,17 @@ void TestByteWalk::countsWhatTheLibraryReads_data()
         object(implicitElement(0x00090010, "MAKER") + implicitElement(0x00091001, implicitItem),
                "1.2.840.10008.1.2"),
         2);
+    row("sequence in a value of unknown VR",
+        object(creator + element(0x00091002, "UN", item(implicitElement(0x00091003, implicitItem))) + name),
+        3);
+    row("no sequence in a value of unknown VR",
+        object(creator + element(0x00091002, "UN", tagBytes(0xFFFEE000) + little32(8) + "12345678xx") + name),
+        3);
+    QByteArray deep = implicitElement(0x00100020, "PID-1");
+    for (int i = 0; i < 3'000; ++i)
+        deep = implicitElement(0x00081140, item(deep));
+    row("a value of unknown VR, nested too deep to be taken as a sequence",
+        object(creator + element(0x00091002, "UN", deep) + name), 3);
     row("nested icon", object(sequence(0x00880200, item(element(0x7FE00010, "OW", "abcd"))) + name), 1);
 }
 

@@ -103,6 +103,9 @@ void TestChecking::findsAValueInEveryPlace_data()
         object(implicitElement(0x00090010, "MAKER") + implicitElement(0x00091001, "PID-5530718"),
                "1.2.840.10008.1.2"),
         u"certain a.dcm (0009,1001) PID-5530718");
+    row("sequence of unknown VR",
+        object(creator + element(0x00091001, "UN", item(implicitElement(0x00100020, "PID-5530718")))),
+        u"certain a.dcm (0009,1001)[0].(0010,0020) PID-5530718");
     row("UTF-16", object(creator + element(0x00091001, "OB", QByteArray("B\0r\0\xFC\0c\0k\0n\0e\0r\0", 16))),
         u"likely a.dcm (0009,1001) Brückner");
     row("UTF-16 of the other byte order, after an odd number of bytes",

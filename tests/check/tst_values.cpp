@@ -85,6 +85,8 @@ void TestValues::findsValuesInTexts_data()
     row("date with dots", Date, u"19700131", u"geb. 31.1.1970", u"possible 19700131");
     row("date with slashes", Date, u"19700131", u"01/31/1970", u"possible 19700131");
     row("date with a month's name", Date, u"19700131", u"31-Jan-1970", u"possible 19700131");
+    row("exact time", Date, u"224011.584655", u"224011.584655", u"possible 224011.584655");
+    row("time", Date, u"224011", u"224011", u"");
     row("date of a dummy", Date, u"19000101", u"19000101", u"");
     row("institution", Institution, u"Klinikum Südtal", u"KLINIKUM SUEDTAL", u"likely Klinikum Südtal");
     row("free text", FreeText, u"Knie rechts, Sturz", u"Knie rechts: Sturz", u"possible Knie rechts, Sturz");
