@@ -1,6 +1,6 @@
 #pragma once
 
-#include "run/jobs/RunHost.h"
+#include "app/Alerts.h"
 
 #include <QMessageBox>
 #include <QObject>

@@ -21,8 +21,9 @@ public:
     LogWindowController(const LogWindowController &) = delete;
     LogWindowController &operator=(const LogWindowController &) = delete;
 
-    // Centres the window on its screen, shows it and replaces its whole text, which is shown as it is. A text of
-    // many pages comes in piece by piece while the event loop runs, so that the window never stops to react.
+    // Centres the window on its screen, shows it and replaces its whole text, which is shown as it is. A text
+    // of many pages comes in piece by piece while the event loop runs, so that the window never stops to
+    // react.
     void showWithText(const QString &text);
 
     [[nodiscard]] QPlainTextEdit *logTextView() const { return m_logTextView; }

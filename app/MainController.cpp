@@ -39,9 +39,14 @@ std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
 MainController::MainController(const AppPorts &ports)
     : m_paths(ports.paths), m_delays(ports.delays), m_presenter(ports.presenter),
       m_window(std::make_unique<MainWindow>()), m_controls(layOut(*m_window, m_paths)),
-      m_host(m_gate, *m_window, *m_controls, m_presenter, m_delays,
-             [this](const QString &text) { showLogWindowWithLogText(text); }),
-      m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids, m_delays}
+      m_host({.gate = m_gate,
+              .window = *m_window,
+              .controls = *m_controls,
+              .presenter = m_presenter,
+              .paths = m_paths,
+              .delays = m_delays,
+              .showLog = [this](const QString &text) { showLogWindowWithLogText(text); }}),
+      m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids}
 {
     connectControls();
 }
@@ -52,6 +57,11 @@ MainController::~MainController()
     for (QThread *run : std::as_const(m_runs))
         run->wait();
     qDeleteAll(m_runs);
+}
+
+QWidget &MainController::window()
+{
+    return *m_window;
 }
 
 void MainController::connectControls()
@@ -72,8 +82,7 @@ void MainController::connectControls()
     connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
     connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
     connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
-    connect(static_cast<MainWindow *>(m_window.get()), &MainWindow::willClose, this,
-            &MainController::windowWillClose);
+    connect(m_window.get(), &MainWindow::willClose, this, &MainController::windowWillClose);
 }
 
 void MainController::initAndShow()
@@ -122,9 +131,9 @@ void MainController::startBackgroundTaskWithArguments(Drop drop)
 {
     // intended: one operation for both threads, the thread that calls it decides which half is meant
     if (m_gate.onMainThread())
-        prepareWindow(m_context, [this, drop] { startRunThread(drop); });
+        beginRun(m_context, [this, drop] { startRunThread(drop); });
     else
-        performRun(m_context, drop);
+        (void)performRun(m_context, drop);
 }
 
 void MainController::startRunThread(const Drop &drop)
@@ -132,7 +141,7 @@ void MainController::startRunThread(const Drop &drop)
     QThread *const run = QThread::create([this, drop] {
         try {
             startBackgroundTaskWithArguments(drop);
-        } catch (const WindowClosing &) {
+        } catch (const RunCancelled &) {
             // the application is ending; what this run had still to do is left
         }
     });
@@ -167,8 +176,15 @@ void MainController::createUIDrootAction()
 
 void MainController::controlTextDidChange(TextField field)
 {
-    if (field == TextField::UidRoot || field == TextField::CaseId)
-        filterUidField(m_host, field);
+    QLineEdit *const edit =
+        field == TextField::UidRoot ? m_controls->uidRootTextField : m_controls->caseIDTextField;
+    const QString filtered = filterTypedIdentifier(edit->text());
+    if (filtered.size() < edit->text().size()) {
+        const int cursor = edit->cursorPosition();
+        edit->setText(filtered);
+        edit->setCursorPosition(cursor);
+    }
+    checkUIDroot();
 }
 
 } // namespace dravolin

@@ -21,6 +21,11 @@ class MainWindow;
 
 namespace dravolin {
 
+class MainWindow;
+
+// The two fields whose text is filtered while it is typed.
+enum class TextField { UidRoot, CaseId };
+
 // What the controller works with; the references outlive it.
 struct AppPorts
 {
@@ -32,8 +37,9 @@ struct AppPorts
 };
 
 // Owns the main window and all run state, and names every operation of the application. It lives as long as
-// the application, on the main thread. Operations of a run may be called from a run's thread; each says so by
-// what it forwards to, where its contract stands.
+// the application, on the main thread. The operations that run control and processing share with the core
+// forward to functions of the same subject, where their contracts stand; those may be called from a run's
+// thread.
 class MainController : public QObject, public QVDragDropViewDelegate
 {
     Q_OBJECT
@@ -49,9 +55,10 @@ public:
     [[nodiscard]] bool runIsUnderWay() const;
     // Ends all hand-overs to the main thread: runs that are under way do not go on.
     void closeGate() { m_gate.close(); }
-    [[nodiscard]] QWidget &window() { return *m_window; }
+    [[nodiscard]] QWidget &window();
     [[nodiscard]] Ui::MainWindow &controls() { return *m_controls; }
     [[nodiscard]] SharedRunState &state() { return m_state; }
+    [[nodiscard]] RunHost &host() { return m_host; }
     [[nodiscard]] LogWindowController *logWinController() { return m_logWinController.get(); }
 
     // Run control.
@@ -83,9 +90,8 @@ public:
     [[nodiscard]] quint64 recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
         const QStringList &tags, const QString &folder, const RunOptions &options);
     [[nodiscard]] QStringList findDICOMDIRsAtPath(const QString &folder);
-    [[nodiscard]] quint64
-    prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(const QStringList &files, const QString &folder,
-                                                                 const RunOptions &options);
+    [[nodiscard]] quint64 prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOptions(
+        const QStringList &files, const QString &folder, const RunOptions &options);
     quint64 recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
                                                                        const RunOptions &options);
     [[nodiscard]] quint64 propagateLUTtoDICOMFilesInFolderWithOptions(const QStringList &entries,
@@ -123,7 +129,7 @@ private:
     AlertPresenter &m_presenter;
     SharedRunState m_state;
     MainThreadGate m_gate;
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Ui::MainWindow> m_controls;
     MainWindowHost m_host;
     RunContext m_context;

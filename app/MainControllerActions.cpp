@@ -1,9 +1,10 @@
 // What check boxes, pop-ups and buttons of the main window set off.
 #include "app/MainController.h"
 
-#include "config/DirectoryLocations.h"
+#include "app/MainWindow.h"
 #include "base/SystemLog.h"
 #include "base/Texts.h"
+#include "config/DirectoryLocations.h"
 #include "run/LutSteps.h"
 #include "ui_MainWindow.h"
 
@@ -35,12 +36,7 @@ void MainController::prepopulateLUTcheckboxDidChange()
     const bool on = m_controls->prepopulateLUTcheckbox->isChecked();
     if (on) {
         getConfigurationFilePathsAndPopulateButton();
-        loadTagsToAnonymizeFromPath(
-            m_state.get(&RunState::allConfigPaths).value(m_controls->selectConfigPopupButton->currentText()));
-        const NewValueDict values = m_state.get(&RunState::newValueDict);
-        const qsizetype marker = indexOfFirstTableMarker(values);
-        m_state.set(&RunState::LUTconstructionTag, marker < 0 ? QString() : values.keys().at(marker));
-        if (marker < 0) {
+        if (!prepareConstruction(m_context)) {
             refuseConstruction();
             return;
         }
@@ -64,7 +60,7 @@ void MainController::refuseConstruction()
         m_controls->prepopulateLUTcheckbox->setChecked(false);
         m_controls->dragDropView->setImageForLUTcheckboxState(0);
     };
-    m_host.showSheet(sheet);
+    m_presenter.beginSheet(sheet, m_window.get());
 }
 
 void MainController::selectLUTcheckboxChanged()
@@ -119,7 +115,7 @@ void MainController::tellDefaultConfiguration()
         if (code == AlertSheet::firstButton)
             saveDefaultConfigurationAndQuit();
     };
-    m_host.showSheet(sheet);
+    m_presenter.beginSheet(sheet, m_window.get());
 }
 
 void MainController::saveDefaultConfigurationAndQuit()
@@ -128,12 +124,13 @@ void MainController::saveDefaultConfigurationAndQuit()
     if (!folder.usable) {
         logMessage(QStringLiteral(
             "Could not save default config to configuration folder, saving to desktop instead"));
-        m_host.runModalAlert({Texts::tr("Could not access or create config folder"),
-                              Texts::tr("Failed to access or create the configuration folder "
-                                        "at:\n%1\n\nSaving a copy of the default "
-                                        "Configuration to the Desktop instead.\n\n")
-                                  .arg(folder.path),
-                              Texts::tr("Save to Desktop & Quit"), QString()});
+        (void)m_presenter.runModal({.title = Texts::tr("Could not access or create config folder"),
+                                    .text = Texts::tr("Failed to access or create the configuration folder "
+                                                      "at:\n%1\n\nSaving a copy of the default "
+                                                      "Configuration to the Desktop instead.\n\n")
+                                                .arg(folder.path),
+                                    .defaultButton = Texts::tr("Save to Desktop & Quit")},
+                                   m_window.get());
     }
     const QString copy =
         copyDefaultConfiguration(m_paths, folder.usable ? folder.path : m_paths.desktopFolder,
@@ -143,16 +140,18 @@ void MainController::saveDefaultConfigurationAndQuit()
 
 void MainController::toolbarTextClicked()
 {
-    const ModalAlert question = {Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
-                                 QString(), Texts::tr("Yes, sure"), Texts::tr("No, don't"),
-                                 AlertButton::Alternate};
-    if (m_host.runModalAlert(question) == AlertButton::Default)
-        m_opener.openUrl(webSite);
+    const ModalAlert question = {.title = Texts::tr("Open the web site %1 in your web browser?").arg(webSite),
+                                 .text = QString(),
+                                 .defaultButton = Texts::tr("Yes, sure"),
+                                 .alternateButton = Texts::tr("No, don't"),
+                                 .escape = AlertButton::Alternate};
+    if (m_presenter.runModal(question, m_window.get()) == AlertButton::Default)
+        m_opener.open(webSite);
 }
 
 void MainController::showConfigInFinder()
 {
-    m_opener.openUrl(configurationFolderWithExamples(m_paths));
+    m_opener.open(configurationFolderWithExamples(m_paths));
 }
 
 } // namespace dravolin

@@ -1,4 +1,5 @@
-// The operations of MainController that only name a function of the core.
+// The operations of MainController that only name a function of the core. The program's own runs do not pass
+// through them: a run calls the core.
 #include "app/MainController.h"
 
 #include "config/LutDiscovery.h"
@@ -6,8 +7,8 @@
 #include "processing/FolderTree.h"
 #include "processing/LutConstruction.h"
 #include "processing/LutPropagation.h"
+#include "run/Configuration.h"
 #include "run/LutSteps.h"
-#include "run/OutputAnalysis.h"
 #include "run/RunDriver.h"
 
 namespace dravolin {
@@ -21,7 +22,7 @@ quint64 MainController::processDICOMfoldersAndIndividualFilesWithOptions(const Q
 
 void MainController::parseLog()
 {
-    dravolin::parseLog(m_context);
+    (void)dravolin::parseLog(m_context);
 }
 
 QStringList MainController::loadTagsToAnonymizeFromPath(const QString &path)
@@ -49,7 +50,7 @@ quint64 MainController::anonymizeTagsForDICOMFilesInFolderWithOptions(const QStr
                                                                       const QString &folder,
                                                                       const RunOptions &options)
 {
-    return anonymizeFolder(m_context, tags, folder, options);
+    return anonymizeFolder(m_context, {tags, m_state.get(&RunState::newValueDict)}, folder, options);
 }
 
 quint64 MainController::anonymizeTagsInDICOMFilesInFolderWithOptions(const QStringList &tags,
@@ -57,7 +58,7 @@ quint64 MainController::anonymizeTagsInDICOMFilesInFolderWithOptions(const QStri
                                                                      const QString &folder,
                                                                      const RunOptions &options)
 {
-    return anonymizeFiles(m_context, tags, files, folder, options);
+    return anonymizeFiles(m_context, {tags, m_state.get(&RunState::newValueDict)}, files, folder, options);
 }
 
 quint64 MainController::recursivelyCountOfFolderInFolderTree(const QString &folder)
@@ -68,7 +69,9 @@ quint64 MainController::recursivelyCountOfFolderInFolderTree(const QString &fold
 quint64 MainController::recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(
     const QStringList &tags, const QString &folder, const RunOptions &options)
 {
-    return anonymizeFolderTree(m_context, tags, folder, options);
+    m_state.set(&RunState::allTagsToAnonymize, tags);
+    anonymizeFolderTree(m_context, folder, options);
+    return 0;
 }
 
 QStringList MainController::findDICOMDIRsAtPath(const QString &folder)
@@ -80,13 +83,15 @@ quint64 MainController::prepopulateLUTforDICOMFilesOrRecursivelyForFolderWithOpt
                                                                                      const QString &folder,
                                                                                      const RunOptions &)
 {
-    return collectLutValues(m_context, files, folder); // the options decide nothing here
+    // the options decide nothing here
+    return folder.isEmpty() ? collectFromFiles(m_context, files) : collectFromTree(m_context, folder);
 }
 
 quint64 MainController::recursivelyPropagateLUTtoDICOMFilesinFolderTreeWithOptions(const QString &folder,
                                                                                    const RunOptions &options)
 {
-    return propagateThroughTree(m_context, folder, options);
+    propagateThroughTree(m_context, folder, options);
+    return 0;
 }
 
 quint64 MainController::propagateLUTtoDICOMFilesInFolderWithOptions(const QStringList &entries,

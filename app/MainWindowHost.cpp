@@ -1,5 +1,6 @@
 #include "app/MainWindowHost.h"
 
+#include "app/RunDialogs.h"
 #include "base/Texts.h"
 #include "ui_MainWindow.h"
 
@@ -9,203 +10,212 @@
 
 namespace dravolin {
 
-MainWindowHost::MainWindowHost(MainThreadGate &gate, QWidget &window, Ui::MainWindow &controls,
-                               AlertPresenter &presenter, const Delays &delays,
-                               std::function<void(const QString &)> showLog)
-    : m_gate(gate), m_window(window), m_controls(controls), m_presenter(presenter), m_delays(delays),
-      m_showLog(std::move(showLog))
+MainWindowHost::MainWindowHost(Parts parts) : m_parts(std::move(parts))
 {
-    followCheckStates();
+    followChoices();
 }
 
-void MainWindowHost::followCheckStates()
+void MainWindowHost::followChoices()
 {
-    for (const CheckBox box : {CheckBox::OverwriteSource, CheckBox::Prepopulate, CheckBox::GenerateSOP,
-                               CheckBox::OnlyGenerateSOP}) {
-        std::atomic<Qt::CheckState> &state = m_checkStates.at(static_cast<size_t>(box));
-        const QCheckBox *const control = widget(box);
-        state = control->checkState();
-        QObject::connect(control, &QCheckBox::stateChanged, &m_window,
-                         [&state](int shown) { state = static_cast<Qt::CheckState>(shown); });
+    const Ui::MainWindow &c = m_parts.controls;
+    const auto read = [this] { readChoices(); };
+    for (const QCheckBox *box : {c.overWriteSourceCheckbox, c.prepopulateLUTcheckbox, c.generateSOPCheckbox,
+                                 c.onlyGenerateSOPCheckbox})
+        QObject::connect(box, &QCheckBox::stateChanged, &m_parts.window, read);
+    for (const QComboBox *popup : {c.selectConfigPopupButton, c.selectLUTpopupButton}) {
+        QObject::connect(popup, &QComboBox::currentIndexChanged, &m_parts.window, read);
+        QObject::connect(popup, &QComboBox::currentTextChanged, &m_parts.window, read);
     }
+    readChoices();
+}
+
+void MainWindowHost::readChoices()
+{
+    const Ui::MainWindow &c = m_parts.controls;
+    const Choices shown = {
+        .overwriteSource = c.overWriteSourceCheckbox->checkState(),
+        .prepopulate = c.prepopulateLUTcheckbox->checkState(),
+        .generateSOP = c.generateSOPCheckbox->checkState(),
+        .onlyGenerateSOP = c.onlyGenerateSOPCheckbox->checkState(),
+        .configuration = c.selectConfigPopupButton->currentText(),
+        .table = c.selectLUTpopupButton->currentIndex() > 0
+                     ? std::optional(c.selectLUTpopupButton->currentText())
+                     : std::nullopt,
+    };
+    const std::lock_guard lock(m_mutex);
+    m_choices = shown;
 }
 
 void MainWindowHost::onMain(const std::function<void()> &work)
 {
-    if (!m_gate.run(work))
-        throw WindowClosing();
+    if (!m_parts.gate.run(work))
+        throw RunCancelled();
 }
 
-QCheckBox *MainWindowHost::widget(CheckBox box) const
+Choices MainWindowHost::choices()
 {
-    Q_ASSERT(m_gate.onMainThread());
-    switch (box) {
-    case CheckBox::OverwriteSource: return m_controls.overWriteSourceCheckbox;
-    case CheckBox::Prepopulate: return m_controls.prepopulateLUTcheckbox;
-    case CheckBox::GenerateSOP: return m_controls.generateSOPCheckbox;
-    case CheckBox::OnlyGenerateSOP: return m_controls.onlyGenerateSOPCheckbox;
-    }
-    Q_UNREACHABLE();
+    if (!m_parts.gate.onMainThread() && m_parts.gate.isClosed())
+        throw RunCancelled();
+    const std::lock_guard lock(m_mutex);
+    return m_choices;
 }
 
-QLineEdit *MainWindowHost::widget(TextField field) const
+CaseTexts MainWindowHost::texts()
 {
-    Q_ASSERT(m_gate.onMainThread());
-    switch (field) {
-    case TextField::UidRoot: return m_controls.uidRootTextField;
-    case TextField::CaseId: return m_controls.caseIDTextField;
-    case TextField::Diagnosis: return m_controls.diagnosisTextField;
-    case TextField::Keywords: return m_controls.keywordsTextField;
-    case TextField::Credits: return m_controls.creditsTextField;
-    }
-    Q_UNREACHABLE();
+    CaseTexts texts;
+    onMain([&] {
+        const Ui::MainWindow &c = m_parts.controls;
+        texts = {.diagnosis = c.diagnosisTextField->text(),
+                 .caseId = c.caseIDTextField->text(),
+                 .credits = c.creditsTextField->text(),
+                 .keywords = c.keywordsTextField->text(),
+                 .uidRoot = c.uidRootTextField->text()};
+    });
+    return texts;
 }
 
-QWidget *MainWindowHost::widget(Control control) const
-{
-    Q_ASSERT(m_gate.onMainThread());
-    switch (control) {
-    case Control::OverwriteSource: return m_controls.overWriteSourceCheckbox;
-    case Control::SelectLUT: return m_controls.selectLUTpopupButton;
-    case Control::Prepopulate: return m_controls.prepopulateLUTcheckbox;
-    case Control::SelectConfig: return m_controls.selectConfigPopupButton;
-    case Control::GenerateSOP: return m_controls.generateSOPCheckbox;
-    case Control::OnlyGenerateSOP: return m_controls.onlyGenerateSOPCheckbox;
-    }
-    Q_UNREACHABLE();
-}
-
-Qt::CheckState MainWindowHost::checkState(CheckBox box)
-{
-    if (!m_gate.onMainThread() && m_gate.isClosed())
-        throw WindowClosing();
-    return m_checkStates.at(static_cast<size_t>(box));
-}
-
-QString MainWindowHost::text(TextField field)
-{
-    return fromMain([&] { return widget(field)->text(); });
-}
-
-void MainWindowHost::setText(TextField field, const QString &text)
+void MainWindowHost::setRoot(const RootCheck &root)
 {
     onMain([&] {
-        QLineEdit *const edit = widget(field);
-        if (edit->text() == text)
-            return; // setting it again would move the cursor of somebody who is typing
-        const int cursor = edit->cursorPosition();
-        edit->setText(text);
-        edit->setCursorPosition(cursor);
+        QLineEdit *const edit = m_parts.controls.uidRootTextField;
+        // setting the same text again would move the cursor of somebody who is typing
+        if (edit->text() != root.trimmedRoot) {
+            const int cursor = edit->cursorPosition();
+            edit->setText(root.trimmedRoot);
+            edit->setCursorPosition(cursor);
+        }
+        m_parts.controls.rootValidLabel->setText(root.valid ? Texts::tr("UID may be valid")
+                                                            : Texts::tr("Root is invalid, will be replaced"));
     });
 }
 
-void MainWindowHost::setRootValidity(const QString &label)
+bool MainWindowHost::ask(Question question)
 {
-    onMain([&] { m_controls.rootValidLabel->setText(label); });
+    AlertButton answer = AlertButton::Default;
+    onMain([&] { answer = m_parts.presenter.runModal(questionAlert(question), &m_parts.window); });
+    return answer == AlertButton::Alternate;
 }
 
-QString MainWindowHost::selectedConfigTitle()
+void MainWindowHost::refuse(Refusal refusal, const QString &detail)
 {
-    return fromMain([&] { return m_controls.selectConfigPopupButton->currentText(); });
-}
-
-PopupSelection MainWindowHost::selectedLUT()
-{
-    return fromMain([&] {
-        return PopupSelection{m_controls.selectLUTpopupButton->currentIndex(),
-                              m_controls.selectLUTpopupButton->currentText()};
+    onMain([&] {
+        if (const std::optional<ModalAlert> alert = refusalAlert(refusal)) {
+            (void)m_parts.presenter.runModal(*alert, &m_parts.window);
+            if (refusal == Refusal::OutOfFileHandles)
+                m_parts.window.close(); // intended: whatever was answered
+            return;
+        }
+        AlertSheet sheet = refusalSheet(refusal, detail);
+        sheet.completion = [this, refusal](int code) { answered(refusal, code); };
+        m_parts.presenter.beginSheet(sheet, &m_parts.window);
     });
 }
 
-void MainWindowHost::setStatus(const QString &text)
+void MainWindowHost::answered(Refusal refusal, int code)
 {
-    onMain([&] { m_controls.outputTextField->setText(text); });
+    const bool save = refusal == Refusal::NoTags && code == AlertSheet::firstButton;
+    if (save)
+        copyDefaultConfiguration(m_parts.paths, m_parts.paths.desktopFolder,
+                                 QStringLiteral("AnonymizationConfiguration.txt"));
+    if (save || code == AlertSheet::secondButton)
+        m_parts.window.close();
 }
 
-void MainWindowHost::setStatusToolTip(const QString &text)
+void MainWindowHost::runBegins(const RunBeginning &beginning, std::function<void()> start)
 {
-    onMain([&] { m_controls.outputTextField->setToolTip(text); });
+    for (const WindowStep &step : beginSteps(beginning)) {
+        if (step.kind == WindowStep::Kind::Grow)
+            grow(start);
+        else
+            performNow(step);
+    }
 }
 
-void MainWindowHost::setEnabled(Control control, bool enabled)
+void MainWindowHost::progress(const Progress &progress)
 {
-    onMain([&] { widget(control)->setEnabled(enabled); });
+    perform(progressSteps(progress));
 }
 
-void MainWindowHost::setSpinning(bool spinning)
+void MainWindowHost::runEnds(const RunJudgement &judgement)
 {
-    onMain([&] { m_controls.spIndicator->setSpinning(spinning); });
+    bool tablesExist = false;
+    onMain([&] { tablesExist = m_tablesExist; });
+    perform(endSteps(judgement, tablesExist));
 }
 
-void MainWindowHost::showSeparator()
-{
-    onMain([&] { m_controls.horLine->show(); });
-}
-
-void MainWindowHost::setProgress(double percent)
-{
-    onMain([&] { m_controls.progressBar->setValue(qRound(percent)); });
-}
-
-void MainWindowHost::setProgressVisible(bool visible)
-{
-    onMain([&] { m_controls.progressBar->setVisible(visible); });
-}
-
-void MainWindowHost::growWindow(int height, std::function<void()> then)
+void MainWindowHost::tablesFound(const TitleToPath &tables)
 {
     onMain([&] {
-        const QRect start = m_window.geometry();
-        auto *growth = new QPropertyAnimation(&m_window, "geometry", &m_window);
-        growth->setDuration(m_delays.windowGrowth);
-        growth->setEasingCurve(QEasingCurve::InQuad);
-        growth->setStartValue(start);
-        growth->setEndValue(QRect(start.x(), start.y(), start.width(), height));
-        QObject::connect(growth, &QPropertyAnimation::finished, &m_window, [this, then = std::move(then)] {
-            if (m_window.isVisible())
-                then();
-        });
-        growth->start(QAbstractAnimation::DeleteWhenStopped);
-    });
-}
-
-void MainWindowHost::setLUTTitles(const QStringList &titles)
-{
-    onMain([&] {
-        QComboBox *const popup = m_controls.selectLUTpopupButton;
+        m_tablesExist = !tables.isEmpty();
+        QComboBox *const popup = m_parts.controls.selectLUTpopupButton;
         popup->clear();
-        if (titles.isEmpty()) {
+        if (tables.isEmpty()) {
             popup->addItem(Texts::tr("No look-up table files found"));
             popup->setEnabled(false);
             return;
         }
         popup->addItem(Texts::tr("Don't use a look-up table"));
-        popup->addItems(titles);
+        popup->addItems(tables.keys());
         popup->setCurrentIndex(0);
     });
 }
 
-void MainWindowHost::showSheet(const AlertSheet &sheet)
+void MainWindowHost::perform(const WindowSteps &steps)
 {
-    onMain([&] { m_presenter.beginSheet(sheet, &m_window); });
+    for (const WindowStep &step : steps) {
+        if (step.kind == WindowStep::Kind::Pause)
+            QThread::msleep(static_cast<unsigned long>(m_parts.delays.beforeSummary));
+        else
+            onMain([&] { performNow(step); });
+    }
 }
 
-AlertButton MainWindowHost::runModalAlert(const ModalAlert &alert)
+void MainWindowHost::performNow(const WindowStep &step)
 {
-    return fromMain([&] { return m_presenter.runModal(alert, &m_window); });
+    Q_ASSERT(m_parts.gate.onMainThread());
+    const Ui::MainWindow &c = m_parts.controls;
+    switch (step.kind) {
+    case WindowStep::Kind::Status: c.outputTextField->setText(step.text); break;
+    case WindowStep::Kind::StatusToolTip: c.outputTextField->setToolTip(step.text); break;
+    case WindowStep::Kind::Spinner: c.spIndicator->setSpinning(step.on); break;
+    case WindowStep::Kind::Separator: c.horLine->show(); break;
+    case WindowStep::Kind::Progress: c.progressBar->setValue(step.percent); break;
+    case WindowStep::Kind::ProgressVisible: c.progressBar->setVisible(step.on); break;
+    case WindowStep::Kind::ScheduleLog:
+        QTimer::singleShot(m_parts.delays.beforeLogWindow, &m_parts.window,
+                           [showLog = m_parts.showLog, text = step.text] { showLog(text); });
+        break;
+    default: control(step.kind)->setEnabled(step.on);
+    }
 }
 
-void MainWindowHost::scheduleLogWindow(const QString &text)
+QWidget *MainWindowHost::control(WindowStep::Kind kind) const
 {
-    onMain([&] {
-        QTimer::singleShot(m_delays.beforeLogWindow, &m_window,
-                           [showLog = m_showLog, text] { showLog(text); });
+    const Ui::MainWindow &c = m_parts.controls;
+    switch (kind) {
+    case WindowStep::Kind::OverwriteSource: return c.overWriteSourceCheckbox;
+    case WindowStep::Kind::SelectLUT: return c.selectLUTpopupButton;
+    case WindowStep::Kind::Prepopulate: return c.prepopulateLUTcheckbox;
+    case WindowStep::Kind::SelectConfig: return c.selectConfigPopupButton;
+    case WindowStep::Kind::GenerateSOP: return c.generateSOPCheckbox;
+    case WindowStep::Kind::OnlyGenerateSOP: return c.onlyGenerateSOPCheckbox;
+    default: Q_UNREACHABLE();
+    }
+}
+
+void MainWindowHost::grow(std::function<void()> then)
+{
+    const QRect start = m_parts.window.geometry();
+    auto *growth = new QPropertyAnimation(&m_parts.window, "geometry", &m_parts.window);
+    growth->setDuration(m_parts.delays.windowGrowth);
+    growth->setEasingCurve(QEasingCurve::InQuad);
+    growth->setStartValue(start);
+    growth->setEndValue(QRect(start.x(), start.y(), start.width(), runningHeight));
+    QObject::connect(growth, &QPropertyAnimation::finished, &m_parts.window, [this, then = std::move(then)] {
+        if (m_parts.window.isVisible())
+            then();
     });
-}
-
-void MainWindowHost::closeMainWindow()
-{
-    onMain([&] { m_window.close(); });
+    growth->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 } // namespace dravolin

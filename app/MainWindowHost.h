@@ -2,14 +2,13 @@
 
 #include "app/AlertPresenter.h"
 #include "app/MainThreadGate.h"
-#include "run/jobs/RunContext.h"
+#include "app/WindowSteps.h"
+#include "config/AppPaths.h"
+#include "run/jobs/RunHost.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
+#include <QWidget>
 
-#include <array>
-#include <atomic>
+#include <mutex>
 
 namespace Ui {
 class MainWindow;
@@ -17,59 +16,60 @@ class MainWindow;
 
 namespace dravolin {
 
-// The main window as runs see it; the only code that crosses threads. Any thread may call it, the widgets are
-// touched on the main thread only.
+// How long the window waits where it waits, in milliseconds.
+struct Delays
+{
+    int beforeConfigurationScan = 250; // so that the window is on screen first
+    int windowGrowth = 250;
+    int beforeSummary = 500;
+    int beforeLogWindow = 510; // just behind the summary
+};
+
+// The main window as runs see it. Any thread may call it, the widgets are touched on the main thread only,
+// and a run's thread waits for that.
 class MainWindowHost : public RunHost
 {
 public:
-    // None of the arguments is owned. `showLog` opens the log window, on the main thread.
-    MainWindowHost(MainThreadGate &gate, QWidget &window, Ui::MainWindow &controls, AlertPresenter &presenter,
-                   const Delays &delays, std::function<void(const QString &)> showLog);
+    // What the host works with; nothing of it is owned. `showLog` opens the log window, on the main thread.
+    struct Parts
+    {
+        MainThreadGate &gate;
+        QWidget &window;
+        Ui::MainWindow &controls;
+        AlertPresenter &presenter;
+        const AppPaths &paths;
+        const Delays &delays;
+        std::function<void(const QString &)> showLog;
+    };
+    explicit MainWindowHost(Parts parts);
 
-    [[nodiscard]] Qt::CheckState checkState(CheckBox box) override;
-    [[nodiscard]] QString text(TextField field) override;
-    void setText(TextField field, const QString &text) override;
-    void setRootValidity(const QString &label) override;
-    [[nodiscard]] QString selectedConfigTitle() override;
-    [[nodiscard]] PopupSelection selectedLUT() override;
-    void setStatus(const QString &text) override;
-    void setStatusToolTip(const QString &text) override;
-    void setEnabled(Control control, bool enabled) override;
-    void setSpinning(bool spinning) override;
-    void showSeparator() override;
-    void setProgress(double percent) override;
-    void setProgressVisible(bool visible) override;
-    void growWindow(int height, std::function<void()> then) override;
-    void setLUTTitles(const QStringList &titles) override;
-    void showSheet(const AlertSheet &sheet) override;
-    AlertButton runModalAlert(const ModalAlert &alert) override;
-    void scheduleLogWindow(const QString &text) override;
-    void closeMainWindow() override;
+    [[nodiscard]] Choices choices() override;
+    [[nodiscard]] CaseTexts texts() override;
+    void setRoot(const RootCheck &root) override;
+    [[nodiscard]] bool ask(Question question) override;
+    // Alerts return when they were answered, sheets when they are up.
+    void refuse(Refusal refusal, const QString &detail = {}) override;
+    void runBegins(const RunBeginning &beginning, std::function<void()> start) override;
+    void progress(const Progress &progress) override;
+    void runEnds(const RunJudgement &judgement) override;
+    void tablesFound(const TitleToPath &tables) override;
 
 private:
-    void followCheckStates();
+    void followChoices();
+    void readChoices();
     void onMain(const std::function<void()> &work);
-    template <typename Function>
-    auto fromMain(Function &&function)
-    {
-        auto value = m_gate.get(std::forward<Function>(function));
-        if (!value)
-            throw WindowClosing();
-        return *value;
-    }
-    [[nodiscard]] QCheckBox *widget(CheckBox box) const;
-    [[nodiscard]] QLineEdit *widget(TextField field) const;
-    [[nodiscard]] QWidget *widget(Control control) const;
+    void perform(const WindowSteps &steps);
+    void performNow(const WindowStep &step);
+    [[nodiscard]] QWidget *control(WindowStep::Kind kind) const;
+    void grow(std::function<void()> then);
+    void answered(Refusal refusal, int code);
 
-    MainThreadGate &m_gate;
-    QWidget &m_window;
-    Ui::MainWindow &m_controls;
-    AlertPresenter &m_presenter;
-    const Delays &m_delays;
-    std::function<void(const QString &)> m_showLog;
-    // What the check boxes show, by CheckBox: a run reads them for every folder and is not to wait each time
-    // until the main thread has painted.
-    std::array<std::atomic<Qt::CheckState>, 4> m_checkStates = {};
+    Parts m_parts;
+    bool m_tablesExist = false; // main thread only
+    // What is switched and selected: a run reads it for every folder and is not to wait each time until the
+    // main thread has painted.
+    std::mutex m_mutex;
+    Choices m_choices;
 };
 
 } // namespace dravolin

@@ -32,15 +32,15 @@ Opener::Opener(QObject *parent) : QObject(parent)
 {
 }
 
-void Opener::openUrl(const QString &url)
+void Opener::open(const QString &address)
 {
     auto *process = new QProcess;
     running().insert(process);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setStandardInputFile(QProcess::nullDevice());
-    const auto end = [process, url](bool failed) {
+    const auto end = [process, address](bool failed) {
         if (failed)
-            logMessage(QStringLiteral("Failed to open url: %1").arg(url));
+            logMessage(QStringLiteral("Failed to open url: %1").arg(address));
         running().remove(process);
         process->deleteLater();
     };
@@ -51,7 +51,7 @@ void Opener::openUrl(const QString &url)
     QObject::connect(process, &QProcess::finished, process,
                      [end](int exitCode, QProcess::ExitStatus) { end(exitCode != 0); });
     const std::lock_guard lock(processStartMutex());
-    process->start(QStringLiteral("xdg-open"), {url});
+    process->start(QStringLiteral("xdg-open"), {address});
     process->waitForStarted(startTimeout);
 }
 
@@ -59,7 +59,7 @@ void Opener::reveal(const QString &path, std::function<void()> then)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
-        openUrl(parentPath(path));
+        open(parentPath(path));
         then();
         return;
     }
@@ -73,7 +73,7 @@ void Opener::reveal(const QString &path, std::function<void()> then)
                      [this, answer, path, then = std::move(then)] {
                          answer->deleteLater();
                          if (answer->isError())
-                             openUrl(parentPath(path));
+                             open(parentPath(path));
                          then();
                      });
 }

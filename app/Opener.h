@@ -18,7 +18,7 @@ public:
 
     // Opens an address or a folder with xdg-open; "Failed to open url: ..." is logged when it is missing or
     // reports a failure.
-    void openUrl(const QString &url);
+    void open(const QString &address);
 
     // Shows the file at `path` selected in the desktop's file browser (D-Bus org.freedesktop.FileManager1),
     // or opens its folder when no file browser answers. `then` is called when one of the two is done.

@@ -1,7 +1,8 @@
 #include "app/QVAppDelegate.h"
 
+#include "run/StartUp.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 
 #include <cstdlib>
 
@@ -9,10 +10,8 @@ namespace dravolin {
 
 void QVAppDelegate::applicationDidFinishLaunching()
 {
-    allowLongArgumentLists();
     const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
-    if (m_texts.load(QLocale(), QStringLiteral("dravolin"), QStringLiteral("_"), paths.resourceFolder))
-        QCoreApplication::installTranslator(&m_texts);
+    startUp(paths);
     m_controller = std::make_unique<MainController>(AppPorts{paths, m_jobs, m_uuids, m_presenter, Delays()});
     QObject::connect(m_controller.get(), &MainController::closed, QCoreApplication::instance(),
                      &QCoreApplication::quit);

@@ -5,8 +5,6 @@
 #include "identifiers/Uuid.h"
 #include "run/jobs/JobRunner.h"
 
-#include <QTranslator>
-
 #include <memory>
 
 namespace dravolin {
@@ -23,7 +21,6 @@ public:
     void applicationWillTerminate(int code);
 
 private:
-    QTranslator m_texts; // the string table of the user's language, "dravolin_XX.qm", when there is one
     PosixJobRunner m_jobs;
     NOXUtils::RandomUuidSource m_uuids;
     MessageBoxPresenter m_presenter;

@@ -70,15 +70,20 @@ QVDragDropView::QVDragDropView(QWidget *parent) : QWidget(parent)
 void QVDragDropView::setImageFolder(const QString &folder)
 {
     m_imageFolder = folder;
-    m_image.load(joinPath(m_imageFolder, m_imageName));
+    m_image.load(joinPath(m_imageFolder, imageName()));
     update();
+}
+
+QString QVDragDropView::imageName() const
+{
+    return m_constructing ? lutImage : dragImage;
 }
 
 void QVDragDropView::setImageForLUTcheckboxState(int state)
 {
-    m_imageName = state == 1 ? lutImage : dragImage;
-    m_image.load(joinPath(m_imageFolder, m_imageName));
-    setAccessibleDescription(state == 1 ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
+    m_constructing = state == 1;
+    m_image.load(joinPath(m_imageFolder, imageName()));
+    setAccessibleDescription(m_constructing ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
     update();
 }
 
@@ -158,9 +163,8 @@ void QVDragDropView::dropEvent(QDropEvent *event)
 
 QString QVDragDropView::hint() const
 {
-    return m_imageName == lutImage
-               ? Texts::tr("Drop folders or DICOM files here to construct a look-up table")
-               : Texts::tr("Drop folders or DICOM files here to anonymize them");
+    return m_constructing ? Texts::tr("Drop folders or DICOM files here to construct a look-up table")
+                          : Texts::tr("Drop folders or DICOM files here to anonymize them");
 }
 
 void QVDragDropView::paintEvent(QPaintEvent *)

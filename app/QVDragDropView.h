@@ -30,7 +30,7 @@ public:
     void setImageFolder(const QString &folder);
     // "LutImage.png" when `state` is exactly 1, else "DragImage.png".
     void setImageForLUTcheckboxState(int state);
-    [[nodiscard]] QString imageName() const { return m_imageName; }
+    [[nodiscard]] QString imageName() const;
 
     // Sets the highlight and answers copy, or clears it and refuses when a dragged address is no local file.
     Qt::DropAction draggingEntered(const QMimeData &drag);
@@ -58,7 +58,7 @@ private:
     QVDragDropViewDelegate *m_delegate = nullptr;
     bool m_isHighlighted = false;
     QString m_imageFolder;
-    QString m_imageName;
+    bool m_constructing = false;
     QPixmap m_image;
 };
 

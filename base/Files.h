@@ -28,20 +28,20 @@ enum class EntryKind { File, Folder, Other };
 // attributes cannot be read are left out.
 [[nodiscard]] QStringList listFolderNames(const QString &folder);
 [[nodiscard]] bool isFolder(const QString &path);
-// What an entry is by its own attributes, a link is Other; nothing when they cannot be read, and `error` (may be
-// null) then gets the reason.
+// What an entry is by its own attributes, a link is Other; nothing when they cannot be read, and `error` (may
+// be null) then gets the reason.
 [[nodiscard]] std::optional<EntryKind> entryKind(const QString &path, SystemError *error = nullptr);
 // Follows links: a broken link does not exist.
 [[nodiscard]] bool pathExists(const QString &path);
 
-// The whole file; nothing when it cannot be opened or read, is no regular file (a folder, a pipe, a device) or
-// holds more than 1 GiB.
+// The whole file; nothing when it cannot be opened or read, is no regular file (a folder, a pipe, a device)
+// or holds more than 1 GiB.
 [[nodiscard]] std::optional<QByteArray> readBytes(const QString &path);
 // readBytes, then decodeUtf8.
 [[nodiscard]] std::optional<QString> readText(const QString &path);
 enum class Links { Follow, Refuse };
-// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written, or when
-// `path` is a link and links are refused; a partly written file may stay behind.
+// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written, or
+// when `path` is a link and links are refused; a partly written file may stay behind.
 [[nodiscard]] bool writeText(const QString &path, const QString &text, Links links = Links::Follow);
 // Sets the permissions to 0777.
 [[nodiscard]] bool makeExecutable(const QString &path);

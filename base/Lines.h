@@ -9,12 +9,12 @@ namespace dravolin {
 // True for LF, VT, FF, CR, U+0085, U+2028 and U+2029.
 [[nodiscard]] bool isNewline(QChar c);
 
-// The index of the first newline character of `text` at or behind `from`, or its size when there is none. Made
-// for texts of many megabytes.
+// The index of the first newline character of `text` at or behind `from`, or its size when there is none.
+// Made for texts of many megabytes.
 [[nodiscard]] qsizetype indexOfNewline(QStringView text, qsizetype from);
 
-// Calls `visit` with each line of `text`: the text cut at every newline character, so that CR LF gives an empty
-// line between the two and an empty text one empty line. The views point into the argument.
+// Calls `visit` with each line of `text`: the text cut at every newline character, so that CR LF gives an
+// empty line between the two and an empty text one empty line. The views point into the argument.
 template <typename Visit>
 void forEachLine(QStringView text, Visit &&visit)
 {

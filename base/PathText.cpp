@@ -9,7 +9,6 @@ namespace dravolin {
 namespace {
 
 constexpr char16_t escapeBase = 0xDC00;
-constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
 bool isEscapedByte(char16_t unit)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <optional>
@@ -17,6 +18,9 @@ namespace dravolin {
 [[nodiscard]] QByteArray systemPath(const QString &path);
 // A path or name from its bytes.
 [[nodiscard]] QString fromBytes(const QByteArray &bytes);
+// The bytes of U+FEFF, with which a UTF-8 text may begin.
+inline constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+
 // Strict UTF-8: nothing when a single byte is wrong. A byte-order mark is dropped.
 [[nodiscard]] std::optional<QString> decodeUtf8(const QByteArray &bytes);
 

@@ -120,29 +120,19 @@ double statusBytes(const char *key)
     return 0;
 }
 
-// A window that shows nothing.
-class NoWindow : public RunHost
+// A host without a user.
+class NobodyThere : public RunHost
 {
 public:
-    Qt::CheckState checkState(CheckBox) override { return Qt::Unchecked; }
-    QString text(TextField) override { return {}; }
-    void setText(TextField, const QString &) override {}
-    void setRootValidity(const QString &) override {}
-    QString selectedConfigTitle() override { return {}; }
-    PopupSelection selectedLUT() override { return {}; }
-    void setStatus(const QString &) override {}
-    void setStatusToolTip(const QString &) override {}
-    void setEnabled(Control, bool) override {}
-    void setSpinning(bool) override {}
-    void showSeparator() override {}
-    void setProgress(double) override {}
-    void setProgressVisible(bool) override {}
-    void growWindow(int, std::function<void()>) override {}
-    void setLUTTitles(const QStringList &) override {}
-    void showSheet(const AlertSheet &) override {}
-    AlertButton runModalAlert(const ModalAlert &) override { return AlertButton::Default; }
-    void scheduleLogWindow(const QString &) override {}
-    void closeMainWindow() override {}
+    Choices choices() override { return {}; }
+    CaseTexts texts() override { return {}; }
+    void setRoot(const RootCheck &) override {}
+    bool ask(Question) override { return false; }
+    void refuse(Refusal, const QString &) override {}
+    void runBegins(const RunBeginning &, std::function<void()>) override {}
+    void progress(const Progress &) override {}
+    void runEnds(const RunJudgement &) override {}
+    void tablesFound(const TitleToPath &) override {}
 };
 
 class Bench
@@ -164,11 +154,10 @@ private:
     QTemporaryDir m_folder;
     AppPaths m_paths;
     SharedRunState m_state;
-    NoWindow m_window;
+    NobodyThere m_nobody;
     PosixJobRunner m_jobs;
     NOXUtils::RandomUuidSource m_uuids;
-    Delays m_delays;
-    RunContext m_context{m_state, m_paths, m_window, m_jobs, m_uuids, m_delays};
+    RunContext m_context{m_state, m_paths, m_nobody, m_jobs, m_uuids};
 };
 
 Bench::Bench()
@@ -254,7 +243,7 @@ void Bench::discovery(int tables)
     AppPaths paths = m_paths;
     paths.desktopFolder = desktop.path();
     MessageBoxPresenter presenter;
-    MainController controller(AppPorts{paths, m_jobs, m_uuids, presenter, m_delays});
+    MainController controller(AppPorts{paths, m_jobs, m_uuids, presenter, Delays()});
     controller.window().show();
     double longest = 0;
     for (int i = 0; i < rounds; ++i) {
@@ -309,7 +298,7 @@ void Bench::propagation()
     options.theLUTtag = QStringLiteral("0010,1000");
     const auto own = [&] {
         m_state.set(&RunState::numLUTadaptedFiles, quint64{0});
-        (void)propagateThroughTree(m_context, folder, options);
+        propagateThroughTree(m_context, folder, options);
     };
     const auto loop = [&](const char *name) {
         const QString script = joinPath(folder, QStringLiteral(".noxTemp.sh"));

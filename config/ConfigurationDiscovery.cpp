@@ -50,7 +50,7 @@ ConfigurationFolder configurationFolder(const AppPaths &paths)
 
 QString copyDefaultConfiguration(const AppPaths &paths, const QString &folder, const QString &name)
 {
-    const QString copy = joinPath(folder, name);
+    QString copy = joinPath(folder, name);
     if (createFolder(folder))
         (void)copyFile(paths.defaultConfiguration(), copy);
     return copy;

@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/NOXUtils.h"
+#include "config/Columns.h"
 #include "base/Lines.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace dravolin {
 
 namespace {
-
-const QString columnSpaces = QStringLiteral("   ");
 
 struct TagRule
 {
@@ -27,6 +26,7 @@ QString cleanedValue(QStringView column)
     return onlyDots ? QString() : value.toString();
 }
 
+// LutFile.cpp has the same column rule, made for speed.
 TagRule parseLine(QStringView line)
 {
     const QList<QStringView> byTabs = line.split(u'\t');
@@ -93,11 +93,11 @@ void addFixedTags(TagRules &rules, const CaseTexts &texts, const QString &studyI
     sortWithoutDuplicates(rules.allTagsToAnonymize);
 }
 
-qsizetype indexOfFirstTableMarker(const NewValueDict &values)
+std::optional<QString> firstTagWithTableMarker(const NewValueDict &values)
 {
     const auto found = std::find_if(values.cbegin(), values.cend(),
                                     [](const QString &value) { return value.startsWith(tableMarkerPrefix); });
-    return found == values.cend() ? -1 : std::distance(values.cbegin(), found);
+    return found == values.cend() ? std::nullopt : std::optional(found.key());
 }
 
 } // namespace dravolin

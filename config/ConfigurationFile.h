@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 // The anonymization configuration: which attributes to erase or to overwrite, and with what.
 // Pure but for loadConfiguration, which reads one file; any thread; nothing here fails.
 namespace dravolin {
@@ -31,6 +33,7 @@ struct CaseTexts
     QString caseId;
     QString credits;
     QString keywords;
+    QString uidRoot = {};
 };
 
 // The rules that the lines of `text` make. A line's columns are separated by tabs or by exactly three spaces;
@@ -44,7 +47,7 @@ struct CaseTexts
 // Adds the five attributes whose values come from the window, over anything that the file said.
 void addFixedTags(TagRules &rules, const CaseTexts &texts, const QString &studyInstanceUid);
 
-// The index of the first value that begins with the table marker's prefix, or -1.
-[[nodiscard]] qsizetype indexOfFirstTableMarker(const NewValueDict &values);
+// The tag of the first value that begins with the table marker's prefix; nothing when there is none.
+[[nodiscard]] std::optional<QString> firstTagWithTableMarker(const NewValueDict &values);
 
 } // namespace dravolin

@@ -24,8 +24,7 @@ QStringList searchPathDirectories(const AppPaths &paths, SearchPathDirectory dir
     if (domain != SearchPathDomain::User)
         return {};
     switch (directory) {
-    case SearchPathDirectory::ApplicationSupport:
-        return paths.applicationSupportFolders;
+    case SearchPathDirectory::ApplicationSupport: return paths.applicationSupportFolders;
     case SearchPathDirectory::Desktop:
         return paths.desktopFolder.isEmpty() ? QStringList() : QStringList{paths.desktopFolder};
     }
@@ -62,8 +61,8 @@ std::optional<QString> findOrCreateDirectory(const AppPaths &paths, SearchPathDi
 std::optional<QString> applicationSupportDirectory(const AppPaths &paths)
 {
     std::optional<LocationError> error;
-    const std::optional<QString> path = findOrCreateDirectory(
-        paths, SearchPathDirectory::ApplicationSupport, SearchPathDomain::User, executableName(), &error);
+    std::optional<QString> path = findOrCreateDirectory(paths, SearchPathDirectory::ApplicationSupport,
+                                                        SearchPathDomain::User, executableName(), &error);
     if (!path)
         logMessage(QStringLiteral("Unable to find or create application support directory:\n%1")
                        .arg(error ? error->text() : QString()));

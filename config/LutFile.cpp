@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/NOXUtils.h"
+#include "config/Columns.h"
 #include "base/Lines.h"
 
 #include <QStringDecoder>
@@ -18,7 +19,6 @@ constexpr qsizetype blockSize = 65536;
 constexpr qsizetype shortValue = 8;
 constexpr qsizetype usualRowSize = 32;
 
-const QString columnSpaces = QStringLiteral("   ");
 const QString missingTemplate = QStringLiteral("<supply missing value replacement, eg: Unknown>");
 
 const QString header = QStringLiteral(
@@ -53,8 +53,9 @@ struct Row
     QStringView value;
 };
 
-// The first and the last field. The spaces count in the first column alone, and only when they make more
-// fields there than the tabs make in the whole line.
+// The first and the last field: the column rule of ConfigurationFile.cpp without a list for each line, and
+// without its second layout. The spaces count in the first column alone, and only when they make more fields
+// there than the tabs make in the whole line.
 std::optional<Row> fieldsOf(QStringView line)
 {
     const qsizetype firstTab = line.indexOf(u'\t');
@@ -133,8 +134,8 @@ std::optional<LutTable> parseLut(const QByteArray &bytes)
     QByteArrayView rest(bytes);
     if (!rest.isValidUtf8())
         return std::nullopt;
-    if (rest.startsWith("\xEF\xBB\xBF"))
-        rest = rest.sliced(3);
+    if (rest.startsWith(byteOrderMark))
+        rest = rest.sliced(byteOrderMark.size());
     if (rest.isEmpty())
         return std::nullopt;
 
@@ -166,13 +167,6 @@ QString lutText(const QString &tag, const QStringList &values)
     for (qsizetype i = 0; i < values.size(); ++i)
         appendRow(text, values.at(i), i + 1);
     return text;
-}
-
-QString lutRow(const QString &value, qsizetype position)
-{
-    QString row;
-    appendRow(row, value, position);
-    return row;
 }
 
 } // namespace dravolin

@@ -31,7 +31,4 @@ inline const QString skippedValue = QStringLiteral("<skip>");
 // for each of `values`, which become Subject_001, Subject_002 and so on.
 [[nodiscard]] QString lutText(const QString &tag, const QStringList &values);
 
-// One row of it; `position` counts from 1.
-[[nodiscard]] QString lutRow(const QString &value, qsizetype position);
-
 } // namespace dravolin

@@ -57,9 +57,9 @@ public:
                                              const BigInt &n, const BigInt &constant, qint32 s);
     // The strong Lucas test of Baillie and Wagstaff with Selfridge's parameters P = 1, Q = (1 - D) / 4, and
     // their check of Q^((n + 1) / 2) after it. A warning: because of the terms lost above it refuses many
-    // primes. About half of all primes have D = 5, where nothing is lost. It refuses nearly all others of a
-    // size at a multiple of 32 bits (31 to 34, 63 to 66, 95 to 99, ...), fewer further from it and up to one
-    // in eight halfway between two; below 28 bits none.
+    // primes. About half of all primes have D = 5, where nothing is lost. Of the others it refuses nearly all
+    // near a multiple of 32 bits (31 to 34, 63 to 66, 95 to 98, ...), fewer further from it, about one in ten
+    // halfway between two, and hardly any below 28 bits.
     [[nodiscard]] static bool lucasStrongTest(const BigInt &n);
 
     // The test of Miller and Rabin with that many random bases, none longer than 43 % of the bits of |x|;

@@ -23,7 +23,7 @@ namespace dravolin {
 // - multiply(): the sum of the two, also when the other operand is an ordinary value of few words;
 // - mod() and the remainder of singleByteDivide...: that of the dividend;
 // - abs(), gcd(), shiftLeft(), shiftRight() and copies: that of the operand.
-// All others (quotients, negate(), and_(), or_(), xOr(), ...) give ordinary zeros.
+// Quotients, negate(), not_(), and_(), or_() and xOr() have the ordinary lengths.
 class BigIntStorage
 {
 public:

@@ -2,7 +2,6 @@
 
 #include "base/NOXUtils.h"
 #include "identifiers/Uuid.h"
-#include "base/Texts.h"
 
 #include <algorithm>
 
@@ -32,11 +31,6 @@ RootCheck checkRoot(const QString &root, const QString &caseId)
     const QString joined = digits + caseId;
     const bool onlyDigits = std::all_of(joined.cbegin(), joined.cend(), [](QChar c) { return c.isDigit(); });
     return {prefixFits && digits.size() >= minimumDigits && lengthFits && onlyDigits, trimmedRoot};
-}
-
-QString rootValidityText(bool valid)
-{
-    return valid ? Texts::tr("UID may be valid") : Texts::tr("Root is invalid, will be replaced");
 }
 
 QString filterTypedIdentifier(const QString &text)

@@ -10,6 +10,8 @@ struct RootCheck
 {
     bool valid = false;
     QString trimmedRoot; // the root as it is written back into its field
+
+    bool operator==(const RootCheck &) const = default;
 };
 
 // Whether `root` (blanks at its ends do not count) can be joined with `caseId` (as it stands, blanks and
@@ -17,9 +19,6 @@ struct RootCheck
 // most 64 characters together with one dot between, decimal digits only. The shape of the components is not
 // looked at.
 [[nodiscard]] RootCheck checkRoot(const QString &root, const QString &caseId);
-
-// The text of the validity label for a check's result.
-[[nodiscard]] QString rootValidityText(bool valid);
 
 // What the typing filter leaves of a field's text: both ends without characters other than "0123456789.".
 // Characters between allowed ones stay.

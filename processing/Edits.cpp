@@ -17,8 +17,10 @@ Argument argumentOf(const Edit &edit)
 {
     switch (edit.kind) {
     case Edit::Kind::NewSopInstanceUid: return {QStringLiteral("-gin"), {}};
-    case Edit::Kind::Insert: return {QStringLiteral("-i"), u'(' + edit.tag + QStringLiteral(")=") + edit.value};
-    case Edit::Kind::Modify: return {QStringLiteral("-m"), u'(' + edit.tag + QStringLiteral(")=") + edit.value};
+    case Edit::Kind::Insert:
+        return {QStringLiteral("-i"), u'(' + edit.tag + QStringLiteral(")=") + edit.value};
+    case Edit::Kind::Modify:
+        return {QStringLiteral("-m"), u'(' + edit.tag + QStringLiteral(")=") + edit.value};
     case Edit::Kind::EraseEverywhere: return {QStringLiteral("-ea"), u'(' + edit.tag + u')'};
     }
     return {};
@@ -37,7 +39,8 @@ Edits edits(const TagRules &rules, const EditChoices &choices)
         const QString tag = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(entry);
         if (tag.size() == tagLength) {
             const QString value = rules.newValueDict.value(tag);
-            edits.list.append({value.isEmpty() ? Edit::Kind::EraseEverywhere : Edit::Kind::Insert, tag, value});
+            edits.list.append(
+                {value.isEmpty() ? Edit::Kind::EraseEverywhere : Edit::Kind::Insert, tag, value});
         } else if (!tag.isEmpty()) {
             edits.malformedTags.append(tag);
         }

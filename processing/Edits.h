@@ -42,8 +42,8 @@ struct Edits
 // inserted, the others erased; with "only generate" there is nothing but the new SOP Instance UID, if any.
 [[nodiscard]] Edits edits(const TagRules &rules, const EditChoices &choices);
 
-// The edits as dcmodify's arguments in a shell command, each with a blank in front. Tags and values stand between
-// double quotes as they are: the shell sees quotes, dollars and backquotes in them.
+// The edits as dcmodify's arguments in a shell command, each with a blank in front. Tags and values stand
+// between double quotes as they are: the shell sees quotes, dollars and backquotes in them.
 [[nodiscard]] QString shellText(const QList<Edit> &edits);
 
 // The same as arguments for a process that is started without a shell; every value arrives as it is.

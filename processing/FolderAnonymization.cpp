@@ -1,21 +1,19 @@
 #include "processing/FolderAnonymization.h"
 
 #include "base/SystemLog.h"
-#include "run/jobs/Script.h"
-#include "run/jobs/ScriptJob.h"
+#include "processing/CountedJobs.h"
 
 namespace dravolin {
 
 namespace {
 
-QString preparedPrefix(const RunContext &context, const QStringList &tags, const RunOptions &options)
+QString preparedPrefix(const RunContext &context, const TagRules &rules, const RunOptions &options)
 {
-    const AnonymizationChoices choices = {
-        .createBAKfiles = options.createBAKfiles,
-        .edits = {.generateSOP = context.host.checkState(CheckBox::GenerateSOP),
-                  .onlyGenerateSOP = context.host.checkState(CheckBox::OnlyGenerateSOP)}};
+    const Choices chosen = context.host.choices();
     const AnonymizationCommand command = anonymizationCommand(
-        context.paths.dcmodify(), {tags, context.state.get(&RunState::newValueDict)}, choices);
+        context.paths.dcmodify(), rules,
+        {.createBAKfiles = options.createBAKfiles,
+         .edits = {.generateSOP = chosen.generateSOP, .onlyGenerateSOP = chosen.onlyGenerateSOP}});
     for (const QString &tag : command.malformedTags)
         logMessage(QStringLiteral("Ignoring malformed tag: %1").arg(tag));
     context.state.add(&RunState::errCount, static_cast<quint64>(command.malformedTags.size()));
@@ -24,7 +22,7 @@ QString preparedPrefix(const RunContext &context, const QStringList &tags, const
 
 quint64 runAndCollect(const RunContext &context, const QString &folder, const QString &commands)
 {
-    const ScriptJobResult result = runScriptJob(context.jobs, context.paths, folder, commands);
+    const ScriptJobResult result = runScriptCounted(context, folder, commands);
     context.state.update([&](RunState &state) { state.output += result.output; });
     return result.ran ? 0 : 1;
 }
@@ -36,25 +34,37 @@ AnonymizationCommand anonymizationCommand(const QString &tool, const TagRules &r
 {
     const Edits wanted = edits(rules, choices.edits);
     const QString backups = choices.createBAKfiles ? QString() : QStringLiteral(" -nb");
-    return {quoted(tool) + QStringLiteral(" -ie -imt") + backups + shellText(wanted.list), wanted.malformedTags};
+    return {quoted(tool) + QStringLiteral(" -ie -imt") + backups + shellText(wanted.list),
+            wanted.malformedTags};
 }
 
-quint64 anonymizeFolder(const RunContext &context, const QStringList &tags, const QString &folder,
+const Redirections &anonymizationRedirections()
+{
+    // intended: "2>>&1" is what these lines say, though no shell accepts it
+    static const QString last = QStringLiteral(" >>%1 2>>&1").arg(outputFileName);
+    static const Redirections redirections = {.only = QStringLiteral(" >%1 2>&1").arg(outputFileName),
+                                              .more = last + u'\n',
+                                              .last = last,
+                                              .counted = last.size()};
+    return redirections;
+}
+
+quint64 anonymizeFolder(const RunContext &context, const TagRules &rules, const QString &folder,
                         const RunOptions &options)
 {
-    const QString prefix = preparedPrefix(context, tags, options);
-    return runAndCollect(context, folder, prefix + QStringLiteral(" *") + appendingRedirections().only);
+    const QString prefix = preparedPrefix(context, rules, options);
+    return runAndCollect(context, folder, prefix + QStringLiteral(" *") + anonymizationRedirections().only);
 }
 
-quint64 anonymizeFiles(const RunContext &context, const QStringList &tags, const QStringList &files,
+quint64 anonymizeFiles(const RunContext &context, const TagRules &rules, const QStringList &files,
                        const QString &folder, const RunOptions &options)
 {
     if (files.isEmpty() || folder.isEmpty())
         return 0;
-    const QString prefix = preparedPrefix(context, tags, options);
-    return runAndCollect(context, folder,
-                         commandLines(prefix, fileArguments(files), appendingRedirections(),
-                                      context.state.get(&RunState::max_arg_len)));
+    const QString prefix = preparedPrefix(context, rules, options);
+    return runAndCollect(
+        context, folder,
+        commandLines(prefix, fileArguments(files), anonymizationRedirections(), context.max_arg_len));
 }
 
 } // namespace dravolin

@@ -1,60 +1,58 @@
 #include "processing/FolderTree.h"
 
-#include "base/Files.h"
 #include "base/Lines.h"
-#include "base/Texts.h"
+#include "processing/CountedJobs.h"
 #include "processing/FolderAnonymization.h"
-#include "run/jobs/ScriptJob.h"
 
 namespace dravolin {
 
 quint64 countFolderTree(const RunContext &context, const QString &folder)
 {
-    for (const QString &name : listFolderNames(folder)) {
-        countFolderTree(context, joinPath(folder, name));
-        context.state.update([&](RunState &state) { state.AllFoldersNames.append(name.toLower()); });
-    }
-    context.state.add(&RunState::totalFolders, 1);
-    removeFile(joinPath(folder, scriptFileName));
-    removeFile(joinPath(folder, outputFileName));
+    forEachFolder(folder, [&](const QString &visited) {
+        context.state.update([&](RunState &state) {
+            ++state.totalFolders;
+            if (visited != folder)
+                state.AllFoldersNames.append(lastPathComponent(visited).toLower());
+        });
+        removeFile(joinPath(visited, scriptFileName));
+        removeFile(joinPath(visited, outputFileName));
+    });
     return context.state.get(&RunState::totalFolders);
 }
 
-quint64 anonymizeFolderTree(const RunContext &context, const QStringList &tags, const QString &folder,
-                            const RunOptions &options)
+void anonymizeFolderTree(const RunContext &context, const QString &folder, const RunOptions &options)
 {
-    for (const QString &name : listFolderNames(folder)) {
-        const quint64 errors = anonymizeFolderTree(context, tags, joinPath(folder, name), options);
-        context.state.add(&RunState::errCount, errors);
-    }
-    context.state.add(&RunState::errCount, anonymizeFolder(context, tags, folder, options));
-    context.state.add(&RunState::folderCount, 1);
-    context.host.setStatus(workingText(context));
-    return 0;
+    forEachFolder(folder, [&](const QString &visited) {
+        // intended: what a drop beside this one has loaded meanwhile counts from here on
+        context.state.add(&RunState::errCount,
+                          anonymizeFolder(context, context.state.rules(), visited, options));
+        context.state.add(&RunState::folderCount, 1);
+        tellFolders(context, Progress::Event::FoldersAnonymized);
+    });
 }
 
 QStringList findDicomdirs(const RunContext &context, const QString &folder)
 {
-    const Job find = {
-        QStringLiteral("/usr/bin/find"),
-        {QStringLiteral("."), QStringLiteral("-name"), QStringLiteral("DICOMDIR"), QStringLiteral("-print")},
-        folder,
-        std::nullopt,
-        true};
-    const QString printed = decodeUtf8(context.jobs.run(find).output).value_or(QString());
+    const JobResult search =
+        runCounted(context, {.executable = QStringLiteral("/usr/bin/find"),
+                             .arguments = {QStringLiteral("."), QStringLiteral("-name"),
+                                           QStringLiteral("DICOMDIR"), QStringLiteral("-print")},
+                             .folder = folder,
+                             .pipeOutput = true});
+    const QString printed = decodeUtf8(search.output).value_or(QString());
     QStringList paths;
-    for (const QStringView line : lines(printed)) {
+    forEachLine(printed, [&paths](QStringView line) {
         if (line.endsWith(QStringLiteral("DICOMDIR")))
             paths.append(line.toString());
-    }
+    });
     return paths;
 }
 
-QString workingText(const RunContext &context)
+void tellFolders(const RunContext &context, Progress::Event event)
 {
-    return Texts::tr("\nWorking... %1/%2 folders")
-        .arg(QString::number(context.state.get(&RunState::folderCount)),
-             QString::number(context.state.get(&RunState::totalFolders)));
+    context.host.progress(context.state.update([event](const RunState &state) {
+        return Progress{event, state.folderCount, state.totalFolders};
+    }));
 }
 
 } // namespace dravolin

@@ -3,7 +3,7 @@
 #include "base/Files.h"
 #include "base/Lines.h"
 #include "base/SystemLog.h"
-#include "run/jobs/ScriptJob.h"
+#include "processing/CountedJobs.h"
 
 #include <QCollator>
 
@@ -14,29 +14,35 @@ namespace dravolin {
 
 namespace {
 
-QString constructionCommands(const RunContext &context, const QString &tag, const QStringList &files,
-                             bool wholeFolder)
-{
-    const QString prefix = constructionPrefix(context.paths.dcmdump(), tag);
-    if (wholeFolder)
-        return prefix + constructionRedirections().only;
-    return commandLines(prefix, fileArguments(files), constructionRedirections(),
-                        context.state.get(&RunState::max_arg_len));
-}
-
 void addValues(SharedRunState &shared, const QString &output)
 {
     QSet<QString> found;
-    for (const QStringView line : lines(output)) {
+    forEachLine(output, [&found](QStringView line) {
         if (!line.isEmpty())
             found.insert(line.toString());
-    }
+    });
     shared.update([&found](RunState &state) {
         if (state.LUTtagSet.isEmpty())
             state.LUTtagSet.swap(found);
         else
             state.LUTtagSet.unite(found);
     });
+}
+
+// Runs the search in `folder`; `commandsFor` makes the commands from their prefix.
+template <typename CommandsFor>
+quint64 collect(const RunContext &context, const QString &folder, CommandsFor &&commandsFor)
+{
+    const QString tag = context.state.get(&RunState::LUTconstructionTag);
+    if (tag.size() != tagLength) {
+        logMessage(QStringLiteral("Malformed LUT tag: %1").arg(tag));
+        return 1;
+    }
+    removeOutputBeside(folder);
+    const ScriptJobResult result =
+        runScriptCounted(context, folder, commandsFor(constructionPrefix(context.paths.dcmdump(), tag)));
+    addValues(context.state, result.output);
+    return result.ran ? 0 : 1;
 }
 
 QString freeLutPath(const QString &folder, const QString &name)
@@ -91,31 +97,32 @@ QString constructionPrefix(const QString &tool, const QString &tag)
 const Redirections &constructionRedirections()
 {
     static const QString filter = QStringLiteral("| awk -F [][] '{print $2}' ");
-    static const QString append = QStringLiteral(">>.noxTemp.out");
+    static const QString append = u'>' + (u'>' + outputFileName);
+    static const QString truncate = u'>' + outputFileName;
     // intended: "*" directly behind the last name, which then stands for all names that begin with it; and a
     // last line that truncates, so that of a split list only the last line's values survive
-    static const Redirections redirections = {
-        u'*' + (u' ' + filter) + QStringLiteral(">.noxTemp.out"), u' ' + filter + append + u'\n',
-        u' ' + filter + QStringLiteral(">.noxTemp.out"), filter.size() + append.size()};
+    static const Redirections redirections = {.only = u'*' + (u' ' + filter) + truncate,
+                                              .more = u' ' + filter + append + u'\n',
+                                              .last = u' ' + filter + truncate,
+                                              .counted = filter.size() + append.size()};
     return redirections;
 }
 
-quint64 collectLutValues(const RunContext &context, const QStringList &files, const QString &folder)
+quint64 collectFromTree(const RunContext &context, const QString &folder)
 {
-    if (folder.isEmpty() && files.isEmpty())
+    if (folder.isEmpty())
         return 0;
-    const QString tag = context.state.get(&RunState::LUTconstructionTag);
-    if (tag.size() != tagLength) {
-        logMessage(QStringLiteral("Malformed LUT tag: %1").arg(tag));
-        return 1;
-    }
-    const bool wholeFolder = !folder.isEmpty();
-    const QString workingFolder = wholeFolder ? folder : parentPath(files.first());
-    removeOutputBeside(workingFolder);
-    const ScriptJobResult result = runScriptJob(context.jobs, context.paths, workingFolder,
-                                                constructionCommands(context, tag, files, wholeFolder));
-    addValues(context.state, result.output);
-    return result.ran ? 0 : 1;
+    return collect(context, folder,
+                   [](const QString &prefix) { return prefix + constructionRedirections().only; });
+}
+
+quint64 collectFromFiles(const RunContext &context, const QStringList &files)
+{
+    if (files.isEmpty())
+        return 0;
+    return collect(context, parentPath(files.first()), [&](const QString &prefix) {
+        return commandLines(prefix, fileArguments(files), constructionRedirections(), context.max_arg_len);
+    });
 }
 
 QStringList sortedLutValues(const QSet<QString> &values, const QLocale &locale)

@@ -19,12 +19,14 @@ namespace dravolin {
 // What stands behind the file arguments: the filter that keeps the text between the brackets of a line.
 [[nodiscard]] const Redirections &constructionRedirections();
 
-// Adds the values of LUTconstructionTag in the whole tree under `folder`, or without a folder in `files`, to
-// LUTtagSet; one tool process covers a tree. The files are looked for by their names in the folder of the
-// first. 1 when the tag has not nine characters (which is logged) or the job could not be started, else 0,
-// whatever the tool printed.
-[[nodiscard]] quint64 collectLutValues(const RunContext &context, const QStringList &files,
-                                       const QString &folder);
+// Adds the values of LUTconstructionTag in the whole tree under `folder` to LUTtagSet; one tool process
+// covers the tree. 1 when the tag has not nine characters (which is logged) or the job could not be started,
+// else 0, whatever the tool printed; 0 at once when `folder` is empty.
+[[nodiscard]] quint64 collectFromTree(const RunContext &context, const QString &folder);
+
+// The same for `files`, which are looked for by their names in the folder of the first; 0 at once without
+// any.
+[[nodiscard]] quint64 collectFromFiles(const RunContext &context, const QStringList &files);
 
 // `values` in the alphabetical order of `locale`, upper and lower case not distinguished.
 [[nodiscard]] QStringList sortedLutValues(const QSet<QString> &values, const QLocale &locale);

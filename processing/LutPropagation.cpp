@@ -2,10 +2,10 @@
 
 #include "base/Files.h"
 #include "base/SystemLog.h"
-#include "base/Texts.h"
+#include "processing/CountedJobs.h"
 #include "processing/Edits.h"
+#include "processing/FolderTree.h"
 #include "run/jobs/Script.h"
-#include "run/jobs/ScriptJob.h"
 
 namespace dravolin {
 
@@ -35,32 +35,26 @@ bool isToBeProcessed(const QString &folder, const QString &name)
 JobResult search(const FolderPass &pass, const QString &name)
 {
     const AppPaths &paths = pass.context.paths;
-    return pass.context.jobs.run({paths.dcmdump(),
-                                  {QStringLiteral("-M"), QStringLiteral("-Un"), QStringLiteral("+E"),
-                                   QStringLiteral("-s"), QStringLiteral("--search"), pass.tag, name},
-                                  pass.folder,
-                                  toolEnvironment(paths),
-                                  true});
+    return runCounted(pass.context,
+                      {.executable = paths.dcmdump(),
+                       .arguments = {QStringLiteral("-M"), QStringLiteral("-Un"), QStringLiteral("+E"),
+                                     QStringLiteral("-s"), QStringLiteral("--search"), pass.tag, name},
+                       .folder = pass.folder,
+                       .environment = toolEnvironment(paths),
+                       .pipeOutput = true});
 }
 
 void tellAboutFileHandles(RunHost &host)
 {
     logMessage(QStringLiteral("Running out of fileHandles"));
-    (void)host.runModalAlert(
-        {Texts::tr("Ran out of file handles!"),
-         Texts::tr(
-             "Please try and process your data in slightly smaller batches.\n\nNevertheless, this should "
-             "not have happened. If it reoccurs, please let me know."),
-         Texts::tr("OK"), Texts::tr("Quit")});
-    host.closeMainWindow(); // intended: whatever was answered
+    host.refuse(Refusal::OutOfFileHandles);
 }
 
 void modify(const FolderPass &pass, const QString &name, const QString &newValue)
 {
     const RunContext &context = pass.context;
-    const ScriptJobResult result =
-        runScriptJob(context.jobs, context.paths, pass.folder,
-                     propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
+    const ScriptJobResult result = runScriptCounted(
+        context, pass.folder, propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
     if (!result.ran)
         return;
     context.state.update([&](RunState &state) {
@@ -88,18 +82,15 @@ bool propagateThroughFile(const FolderPass &pass, const QString &name)
 
 } // namespace
 
-quint64 propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options)
+void propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options)
 {
-    for (const QString &name : listFolderNames(folder)) {
-        const quint64 errors = propagateThroughTree(context, joinPath(folder, name), options);
-        context.state.add(&RunState::errCount, errors);
-    }
-    // listed anew, because the tools may have changed it meanwhile
-    context.state.add(&RunState::errCount,
-                      propagateThroughFiles(context, listNames(folder), folder, options));
-    context.state.add(&RunState::folderCount, 1);
-    context.host.setStatus(propagatingText(context));
-    return 0;
+    forEachFolder(folder, [&](const QString &visited) {
+        // listed now, because the tools may have changed the folder meanwhile
+        context.state.add(&RunState::errCount,
+                          propagateThroughFiles(context, listNames(visited), visited, options));
+        context.state.add(&RunState::folderCount, 1);
+        tellFolders(context, Progress::Event::FoldersPropagated);
+    });
 }
 
 quint64 propagateThroughFiles(const RunContext &context, const QStringList &entries, const QString &folder,
@@ -108,11 +99,15 @@ quint64 propagateThroughFiles(const RunContext &context, const QStringList &entr
     if (entries.isEmpty() || folder.isEmpty())
         return 0;
     // intended: a run that only generates UIDs has no attribute; the search then finds nothing
-    const FolderPass pass = {context, folder, options.theLUTtag.value_or(QString()),
-                             context.state.get(&RunState::selectedLUTdict)};
+    const FolderPass pass = {.context = context,
+                             .folder = folder,
+                             .tag = options.theLUTtag.value_or(QString()),
+                             .table = context.state.get(&RunState::selectedLUTdict)};
     for (qsizetype i = 0; i < entries.size(); ++i) {
         const QString name = lastPathComponent(entries.at(i));
-        context.host.setProgress(static_cast<double>(i + 1) * 100 / static_cast<double>(entries.size()));
+        context.host.progress({.event = Progress::Event::FilesPropagated,
+                               .done = static_cast<quint64>(i + 1),
+                               .all = static_cast<quint64>(entries.size())});
         if (isToBeProcessed(folder, name) && !propagateThroughFile(pass, name)) {
             tellAboutFileHandles(context.host);
             return 1;
@@ -143,15 +138,8 @@ QString propagatedValue(const LutTable &table, const QString &value)
 QString propagationCommand(const QString &tool, const QString &tag, const QString &newValue,
                            const QString &name)
 {
-    return quoted(tool) + QStringLiteral(" -ie -nb") + shellText({{Edit::Kind::Modify, tag, newValue}}) + u' ' +
-           quoted(name) + QStringLiteral("  >.noxTemp.out 2>&1");
-}
-
-QString propagatingText(const RunContext &context)
-{
-    return Texts::tr("\nPropagating LUT tag... %1/%2 folders")
-        .arg(QString::number(context.state.get(&RunState::folderCount)),
-             QString::number(context.state.get(&RunState::totalFolders)));
+    return quoted(tool) + QStringLiteral(" -ie -nb") + shellText({{Edit::Kind::Modify, tag, newValue}}) +
+           u' ' + quoted(name) + QStringLiteral("  >%1 2>&1").arg(outputFileName);
 }
 
 } // namespace dravolin

@@ -13,13 +13,12 @@
 namespace dravolin {
 
 // The tree under `folder`, every subfolder before its parent; a folder is a directory by its own attributes.
-// Adds errors to errCount and advances folderCount and the status text after each folder. Always 0.
-quint64 propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options);
+// Adds errors to errCount, advances folderCount and tells the progress after each folder.
+void propagateThroughTree(const RunContext &context, const QString &folder, const RunOptions &options);
 
 // The regular files among `entries` (names or paths, of which the names count) in `folder`; hidden ones and
-// backups ("bak") are passed over. Counts into numLUTadaptedFiles and numLUTskippedFiles, and moves the
-// progress bar. 1 when no pipe could be created: the user has then been told, and the main window is closed;
-// else 0.
+// backups ("bak") are passed over. Counts into numLUTadaptedFiles and numLUTskippedFiles, and tells the
+// progress before each. 1 when no pipe could be created, which the user has then been told; else 0.
 [[nodiscard]] quint64 propagateThroughFiles(const RunContext &context, const QStringList &entries,
                                             const QString &folder, const RunOptions &options);
 
@@ -32,8 +31,5 @@ quint64 propagateThroughTree(const RunContext &context, const QString &folder, c
 // The command that gives `tag` of the file `name` the value `newValue`. Pure; nothing is escaped.
 [[nodiscard]] QString propagationCommand(const QString &tool, const QString &tag, const QString &newValue,
                                          const QString &name);
-
-// The progress text with `folderCount` of `totalFolders`.
-[[nodiscard]] QString propagatingText(const RunContext &context);
 
 } // namespace dravolin

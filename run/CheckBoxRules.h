@@ -1,7 +1,5 @@
 #pragma once
 
-#include "run/jobs/RunHost.h"
-
 #include <optional>
 
 // How the option check boxes exclude one another. Pure; what a rule sets does not set off another rule.
@@ -14,7 +12,7 @@ struct CheckBoxChanges
     std::optional<bool> prepopulate;
     std::optional<bool> generateSOP;
     std::optional<bool> onlyGenerateSOP;
-    bool selectNoTable = false; // the table pop-up goes back to its first item
+    bool selectNoTable = false; // the table selection goes back to its first item
 
     bool operator==(const CheckBoxChanges &) const = default;
 };

@@ -17,12 +17,8 @@ namespace dravolin {
 // Whether so many individual files call for the question about dropping their folder.
 [[nodiscard]] bool isLargeDrop(const Drop &drop);
 
-// Reads the choices from the window, checks the UID root (replacing a bad one once), and asks, in this order,
-// about an impossible Study Instance UID, a large drop and overwriting. Nothing when the run is not to start.
+// Reads the choices, checks the UID root (replacing a bad one once), refuses an impossible Study Instance UID
+// and asks, in this order, about a large drop and overwriting. Nothing when the run is not to start.
 [[nodiscard]] std::optional<Drop> takeDrop(const RunContext &context, const QStringList &paths);
-
-// Makes the window ready for a run: status text, spinner, disabled controls, tooltip, separator, height.
-// `startRun` is called on the main thread when the window has grown.
-void prepareWindow(const RunContext &context, std::function<void()> startRun);
 
 } // namespace dravolin

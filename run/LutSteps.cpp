@@ -2,9 +2,10 @@
 
 #include "base/PathText.h"
 #include "config/LutDiscovery.h"
-#include "base/Texts.h"
+#include "processing/FolderTree.h"
 #include "processing/LutConstruction.h"
 #include "processing/LutPropagation.h"
+#include "run/Configuration.h"
 
 #include <algorithm>
 
@@ -12,29 +13,21 @@ namespace dravolin {
 
 namespace {
 
-// Always false, for the caller to return.
-bool refuse(const RunContext &context, const QString &message, const QString &informativeText)
+void refuse(const RunContext &context, Refusal refusal, const QString &table)
 {
     context.state.set(&RunState::usingLUT, false);
-    AlertSheet sheet;
-    sheet.message = message;
-    sheet.informativeText = informativeText;
-    sheet.buttons = {Texts::tr("Retry Drop"), Texts::tr("Quit")};
-    sheet.completion = [&host = context.host](int code) {
-        if (code == AlertSheet::secondButton)
-            host.closeMainWindow();
-    };
-    context.host.showSheet(sheet);
-    return false;
-}
-
-bool refuseTable(const RunContext &context, const QString &name, const QString &extraText)
-{
-    return refuse(context, Texts::tr("LUT file found, but not successfully parsed."),
-                  Texts::tr("\nSelected LUT: %1%2\n\n\n").arg(name, extraText));
+    context.host.refuse(refusal, table);
 }
 
 } // namespace
+
+std::optional<QString> prepareConstruction(const RunContext &context)
+{
+    loadTagsToAnonymize(context, selectedConfiguration(context));
+    const std::optional<QString> tag = firstTagWithTableMarker(context.state.get(&RunState::newValueDict));
+    context.state.set(&RunState::LUTconstructionTag, tag.value_or(QString()));
+    return tag;
+}
 
 bool bindTable(const RunContext &context, RunOptions &options)
 {
@@ -42,19 +35,19 @@ bool bindTable(const RunContext &context, RunOptions &options)
     const QString marker = tableMarkerPrefix + name + u'>';
     const NewValueDict values = context.state.get(&RunState::newValueDict);
     const auto bound = std::find(values.cbegin(), values.cend(), marker);
-    if (bound == values.cend())
-        return refuse(context,
-                      Texts::tr("Your configuration file provided no tags matching the selected LUT!"),
-                      Texts::tr("\nSelected LUT: %1\n\n\n").arg(name));
-
-    if (!loadTable(context, options.selectedLUTpath))
-        return refuseTable(context, name, QString());
-    if (!context.state.get(&RunState::selectedLUTdict).contains(missingValue))
-        return refuseTable(context, name,
-                           Texts::tr("\n\nYou should implement the <missing> value for the <old_value> field."
-                                     "\n\n(See the example file in the Application Bundle)"));
-
-    const QString tag = bound.key();
+    if (bound == values.cend()) {
+        refuse(context, Refusal::NoTagForTable, name);
+        return false;
+    }
+    if (!loadTable(context, options.selectedLUTpath)) {
+        refuse(context, Refusal::TableUnreadable, name);
+        return false;
+    }
+    if (!context.state.get(&RunState::selectedLUTdict).contains(missingValue)) {
+        refuse(context, Refusal::TableWithoutMissing, name);
+        return false;
+    }
+    const QString &tag = bound.key();
     context.state.update([&tag](RunState &state) {
         state.usingLUT = true;
         state.newValueDict.remove(tag);
@@ -87,11 +80,11 @@ void constructTable(const RunContext &context, const QStringList &folders, const
         state.LUTtagSet.clear();
     });
     for (const QString &folder : folders) {
-        shared.add(&RunState::errCount, collectLutValues(context, {}, folder));
+        shared.add(&RunState::errCount, collectFromTree(context, folder));
         shared.add(&RunState::folderCount, 1);
     }
     if (!files.isEmpty()) {
-        shared.add(&RunState::errCount, collectLutValues(context, files, QString()));
+        shared.add(&RunState::errCount, collectFromFiles(context, files));
         shared.add(&RunState::folderCount, 1);
     }
     writeConstructedLut(context, options);
@@ -101,27 +94,24 @@ void constructTable(const RunContext &context, const QStringList &folders, const
 void propagateTable(const RunContext &context, const QStringList &folders, const QStringList &files,
                     const RunOptions &options)
 {
-    RunHost &host = context.host;
-    host.setSpinning(false);
-    host.setProgress(0);
-    host.setProgressVisible(true);
+    context.host.progress({.event = Progress::Event::PropagationBegins});
     // intended: files that were skipped add up over the runs, until a table is constructed
     context.state.update([](RunState &state) { state.folderCount = state.numLUTadaptedFiles = 0; });
     for (const QString &folder : folders) {
-        host.setStatus(propagatingText(context));
-        context.state.add(&RunState::errCount, propagateThroughTree(context, folder, options));
+        tellFolders(context, Progress::Event::FoldersPropagated);
+        propagateThroughTree(context, folder, options);
     }
     if (!files.isEmpty())
         context.state.add(&RunState::errCount,
                           propagateThroughFiles(context, files, parentPath(files.first()), options));
-    host.setProgressVisible(false);
+    context.host.progress({.event = Progress::Event::PropagationEnds});
 }
 
 void refreshTables(const RunContext &context)
 {
     const TitleToPath found = findLuts(context.paths);
     context.state.set(&RunState::allLUTsPaths, found);
-    context.host.setLUTTitles(found.keys());
+    context.host.tablesFound(found);
 }
 
 } // namespace dravolin

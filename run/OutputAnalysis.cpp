@@ -4,8 +4,6 @@
 #include "base/Lines.h"
 #include "base/Texts.h"
 
-#include <QThread>
-
 #include <algorithm>
 #include <limits>
 #include <string_view>
@@ -16,7 +14,7 @@ namespace dravolin {
 namespace {
 
 // "%1" and "%2" become the number and its plural suffix.
-QString counted(const QString &text, quint64 number)
+QString withCount(const QString &text, quint64 number)
 {
     return text.arg(QString::number(number), NOXUtils::pluralSuffix(number));
 }
@@ -32,12 +30,12 @@ QString firstSummary(const RunReport &report)
 {
     if (report.errCount != 0)
         return report.constructing
-                   ? counted(
+                   ? withCount(
                          Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
                                    "See messages logged to console."),
                          report.errCount)
-                   : counted(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
-                             report.errCount);
+                   : withCount(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
+                               report.errCount);
     if (report.constructing)
         return Texts::tr("\nDone constructing LUT. File placed on Desktop.");
     if (report.usingLUT)
@@ -92,7 +90,7 @@ public:
     // before a ":" is looked up, so that the number of names does not matter.
     [[nodiscard]] bool beginLowered(QStringView text) const
     {
-        const std::u16string_view all = units(text.first(std::min(text.size(), lookedAt())));
+        const std::u16string_view all = units(text.first(std::min(text.size(), neededCharacters())));
         for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
             if (m_names.contains(all.substr(0, colon)))
                 return true;
@@ -101,7 +99,7 @@ public:
     }
 
     // How many characters of a text beginLowered needs to see.
-    [[nodiscard]] qsizetype lookedAt() const { return m_longest + 1; }
+    [[nodiscard]] qsizetype neededCharacters() const { return m_longest + 1; }
 
 private:
     static std::u16string_view units(QStringView text)
@@ -147,7 +145,7 @@ private:
     // As much of `text` as is looked at for names, in lower case, in memory that is kept from line to line.
     [[nodiscard]] QStringView lowered(QStringView text)
     {
-        const QStringView head = text.first(std::min(text.size(), m_folderNames.lookedAt()));
+        const QStringView head = text.first(std::min(text.size(), m_folderNames.neededCharacters()));
         m_lowered.resize(head.size());
         bool ascii = true;
         std::transform(head.begin(), head.end(), m_lowered.begin(), [&ascii](QChar c) {
@@ -189,28 +187,6 @@ QString logNotes(const RunReport &report)
            report.DICOMDIRpaths.join(u'\n') + QStringLiteral("\n\n");
 }
 
-RunReport reportOf(const RunContext &context)
-{
-    const bool constructing = context.host.checkState(CheckBox::Prepopulate) == Qt::Checked;
-    return context.state.update([constructing](const RunState &state) {
-        return RunReport{state.output,          state.errCount,           constructing,
-                         state.usingLUT,        state.numLUTadaptedFiles, state.numLUTskippedFiles,
-                         state.AllFoldersNames, state.DICOMDIRpaths};
-    });
-}
-
-void restoreControls(const RunContext &context)
-{
-    RunHost &host = context.host;
-    host.setEnabled(Control::OverwriteSource, true);
-    host.setEnabled(Control::SelectLUT, !context.state.get(&RunState::allLUTsPaths).isEmpty());
-    for (const Control control :
-         {Control::Prepopulate, Control::SelectConfig, Control::GenerateSOP, Control::OnlyGenerateSOP})
-        host.setEnabled(control, true);
-    host.setSpinning(false);
-    host.setStatusToolTip(QString());
-}
-
 } // namespace
 
 qint64 closingLineCount(QStringView line)
@@ -228,32 +204,18 @@ RunJudgement judgeOutput(const RunReport &report)
     LineJudge lines(report.AllFoldersNames);
     forEachLine(report.output, [&lines](QStringView line) { lines.judge(NOXUtils::trimmed(line)); });
 
-    RunJudgement judgement{firstSummary(report), lines.logText(), false};
+    RunJudgement judgement;
+    judgement.summary = firstSummary(report);
+    judgement.logText = lines.logText();
+    judgement.refused = report.errCount != 0;
     if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())
         return judgement;
     judgement.wantsLogWindow = true;
     judgement.summary = lines.filesWithErrors() == 0
-                            ? counted(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
-                            : counted(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
+                            ? withCount(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
+                            : withCount(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
     judgement.logText += logNotes(report);
     return judgement;
-}
-
-void parseLog(const RunContext &context)
-{
-    const RunJudgement judgement = judgeOutput(reportOf(context));
-    if (judgement.wantsLogWindow)
-        context.host.scheduleLogWindow(judgement.logText);
-    QThread::msleep(static_cast<unsigned long>(context.delays.beforeSummary));
-    context.host.setStatus(judgement.summary);
-    restoreControls(context);
-    QSet<QString> collected; // destroyed when the state is no longer locked; it may be large
-    context.state.update([&collected](RunState &state) {
-        state.output.clear();
-        state.errCount = state.totalFolders = state.folderCount = 0;
-        state.AllFoldersNames.clear();
-        state.LUTtagSet.swap(collected);
-    });
 }
 
 } // namespace dravolin

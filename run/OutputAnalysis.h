@@ -1,9 +1,10 @@
 #pragma once
 
-#include "run/jobs/RunContext.h"
+#include "run/jobs/RunJudgement.h"
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 // Judging what the tools printed; their exit codes are never asked for.
 namespace dravolin {
@@ -20,23 +21,13 @@ struct RunReport
     QStringList DICOMDIRpaths;
 };
 
-struct RunJudgement
-{
-    QString summary;
-    QString logText;
-    bool wantsLogWindow = false;
-};
-
-// The summary and the log text of a run. Pure; time grows with the output plus the number of folder names.
+// The summary and the log text of a run; without its jobs. Pure; time grows with the output plus the number
+// of folder names.
 [[nodiscard]] RunJudgement judgeOutput(const RunReport &report);
 
 // The count of dcmodify's closing line ("E: There was 1 error", "E: There were 12 errors"), trimmed.
 // intended: it is read from the reversed line, so that 12 gives 21 and 10 gives 1; a line too short for the
 // cuts gives 0.
 [[nodiscard]] qint64 closingLineCount(QStringView line);
-
-// Judges the run in `context`, shows the summary, schedules the log window, enables the controls again and
-// resets the run's counters. Sleeps for the summary's delay; not for the main thread.
-void parseLog(const RunContext &context);
 
 } // namespace dravolin

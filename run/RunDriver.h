@@ -6,26 +6,26 @@
 #include <QString>
 #include <QStringList>
 
-// One run from the sorted drop to its return value. On the run's own thread.
+#include <functional>
+
+// One run from the sorted drop to its judgement. On the run's own thread, unless it says otherwise.
 namespace dravolin {
 
-// Fills allTagsToAnonymize and newValueDict from the file at `path`, nothing of an earlier load surviving,
-// and adds the five attributes whose values come from the window, among them a newly composed Study Instance
-// UID. Any thread.
-void loadTagsToAnonymize(const RunContext &context, const QString &path);
+// Main thread: tells the host that a run begins; `start` is called when everything is ready for it.
+void beginRun(const RunContext &context, std::function<void()> start);
 
-// Takes the values away from all table markers that are left, and keeps the first one's table name for naming
-// a constructed table. Tags that lose their value stay in the list, so that they are erased.
-void dropTableMarkers(SharedRunState &state);
+// A run and its judgement: what the run's thread does. The drop's options get the attribute that a table is
+// bound to.
+RunJudgement performRun(const RunContext &context, Drop &drop);
 
-// True when there is nothing to anonymize; the sheet that says so is then up.
-[[nodiscard]] bool refusesEmptyTagList(const RunContext &context, const QString &configurationPath);
-
-// The whole run over `folders` and `files`. 1 when it was refused before any file was touched, else 0.
+// The steps of a run over `folders` and `files`. 1 when it was refused before any file was touched, else 0.
 [[nodiscard]] quint64 processDroppedItems(const RunContext &context, const QStringList &folders,
                                           const QStringList &files, RunOptions &options);
 
-// A run and its analysis: what the run's thread does. The result replaces errCount.
-void performRun(const RunContext &context, Drop &drop);
+// True when there is nothing to anonymize; the run is then refused.
+[[nodiscard]] bool refusesEmptyTagList(const RunContext &context, const QString &configurationPath);
+
+// Judges what the run has left in the state, ends it at the host, and empties the state's tally.
+RunJudgement parseLog(const RunContext &context);
 
 } // namespace dravolin

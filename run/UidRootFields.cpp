@@ -1,40 +1,28 @@
 #include "run/UidRootFields.h"
 
-#include "identifiers/UidRoot.h"
-
 namespace dravolin {
 
 bool checkUidRoot(RunHost &host)
 {
-    const RootCheck check = checkRoot(host.text(TextField::UidRoot), host.text(TextField::CaseId));
-    host.setText(TextField::UidRoot, check.trimmedRoot);
-    host.setRootValidity(rootValidityText(check.valid));
+    const CaseTexts texts = host.texts();
+    const RootCheck check = checkRoot(texts.uidRoot, texts.caseId);
+    host.setRoot(check);
     return check.valid;
 }
 
 void createUidRoot(RunHost &host, NOXUtils::UuidSource &uuids)
 {
-    host.setText(TextField::UidRoot, generatedRoot(uuids.uniqueString()));
-    checkUidRoot(host);
+    host.setRoot(checkRoot(generatedRoot(uuids.uniqueString()), host.texts().caseId));
 }
 
-void filterUidField(RunHost &host, TextField field)
+QString composeStudyInstanceUid(RunHost &host, const CaseTexts &texts, NOXUtils::UuidSource &uuids)
 {
-    const QString text = host.text(field);
-    const QString filtered = filterTypedIdentifier(text);
-    if (filtered.size() < text.size())
-        host.setText(field, filtered);
-    checkUidRoot(host);
-}
-
-QString composeStudyInstanceUid(RunHost &host, NOXUtils::UuidSource &uuids)
-{
-    const QString caseId = host.text(TextField::CaseId);
-    if (!checkUidRoot(host))
-        return studyInstanceUid(generatedRoot(uuids.uniqueString()), caseId);
-    const QString root = withoutTrailingDot(host.text(TextField::UidRoot));
-    host.setText(TextField::UidRoot, root);
-    return studyInstanceUid(root, caseId);
+    RootCheck check = checkRoot(texts.uidRoot, texts.caseId);
+    if (check.valid)
+        check.trimmedRoot = withoutTrailingDot(check.trimmedRoot);
+    host.setRoot(check);
+    return studyInstanceUid(check.valid ? check.trimmedRoot : generatedRoot(uuids.uniqueString()),
+                            texts.caseId);
 }
 
 } // namespace dravolin

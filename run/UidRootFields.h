@@ -1,25 +1,22 @@
 #pragma once
 
-#include "run/jobs/RunHost.h"
 #include "identifiers/Uuid.h"
+#include "run/jobs/RunHost.h"
 
 #include <QString>
 
-// The UID root and CaseID fields of the window under the rules of identifiers/UidRoot.h. Any thread; what
-// they touch of the window is read and written on the main thread, and the caller waits for it.
+// The user's UID root and CaseID under the rules of identifiers/UidRoot.h. Any thread.
 namespace dravolin {
 
-// Whether the fields make a valid Study Instance UID. Writes the trimmed root back and sets the label.
+// Whether root and CaseID make a valid Study Instance UID. Shows the trimmed root and whether it is valid.
 bool checkUidRoot(RunHost &host);
 
-// Puts a freshly generated root into the field and checks it. It is not stored as a preference.
+// Shows a freshly generated root. It is not stored as a preference.
 void createUidRoot(RunHost &host, NOXUtils::UuidSource &uuids);
 
-// The typing filter for one of the two fields, then the check.
-void filterUidField(RunHost &host, TextField field);
-
-// The Study Instance UID for one load of a configuration. A valid root's trailing dot is dropped in its
-// field, too; instead of an invalid root a fresh one is used, and the field is left as it is.
-[[nodiscard]] QString composeStudyInstanceUid(RunHost &host, NOXUtils::UuidSource &uuids);
+// The Study Instance UID of `texts` for one load of a configuration. A valid root is shown without its
+// trailing dot; instead of an invalid root a fresh one is used, and the one that is shown is left as it is.
+[[nodiscard]] QString composeStudyInstanceUid(RunHost &host, const CaseTexts &texts,
+                                              NOXUtils::UuidSource &uuids);
 
 } // namespace dravolin

@@ -86,14 +86,16 @@ QByteArray readToEnd(int pipe)
     }
 }
 
-void waitAndTerminate(pid_t child)
+int waitAndTerminate(pid_t child)
 {
     siginfo_t ended = {};
     while (::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT) != 0 && errno == EINTR) {
     }
     ::kill(child, SIGTERM); // it has ended but is not yet reaped, so that the id is still its own
-    while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
+    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
 } // namespace
@@ -102,7 +104,7 @@ JobResult PosixJobRunner::run(const Job &job)
 {
     std::array<int, 2> pipe = {-1, -1};
     if (job.pipeOutput && ::pipe2(pipe.data(), O_CLOEXEC) != 0)
-        return {JobOutcome::NoPipe, {}};
+        return {.outcome = JobOutcome::NoPipe};
 
     const std::optional<pid_t> child = start(job, pipe[1]);
     if (pipe[1] >= 0)
@@ -114,7 +116,7 @@ JobResult PosixJobRunner::run(const Job &job)
     if (pipe[0] >= 0)
         ::close(pipe[0]);
     if (child) {
-        waitAndTerminate(*child);
+        result.exitStatus = waitAndTerminate(*child);
         result.outcome = JobOutcome::Ran;
     }
     return result;

@@ -15,8 +15,8 @@ struct Job
     QString executable;
     QStringList arguments; // without the executable
     QString folder;        // current directory
-    std::optional<QStringList>
-        environment;         // the whole environment, "NAME=value"; nothing: the application's own
+    // The whole environment, "NAME=value"; nothing: the application's own.
+    std::optional<QStringList> environment = std::nullopt;
     bool pipeOutput = false; // collect standard output; else it is the application's own
 };
 
@@ -29,15 +29,17 @@ enum class JobOutcome {
 struct JobResult
 {
     JobOutcome outcome = JobOutcome::CouldNotStart;
-    QByteArray output; // what was piped
+    QByteArray output = {}; // what was piped
+    int exitStatus =
+        0; // of one that ran: what it exited with, or 128 and the number of the signal that ended it
 };
 
-// The seam to child processes. No meaning is given to anything here: exit codes are not looked at.
+// The seam to child processes. No meaning is given to anything here: exit statuses are reported, not judged.
 class JobRunner
 {
 public:
     virtual ~JobRunner() = default;
-    // Starts `job`, waits without a limit until it has ended, and returns. Any thread, not the main one.
+    // Starts `job`, waits without a limit until it has ended, and returns. Any thread; it blocks.
     [[nodiscard]] virtual JobResult run(const Job &job) = 0;
 };
 

@@ -8,16 +8,9 @@
 
 namespace dravolin {
 
-// How long the program waits where it waits, in milliseconds.
-struct Delays
-{
-    int beforeConfigurationScan = 250; // so that the window is on screen first
-    int windowGrowth = 250;
-    int beforeSummary = 500;
-    int beforeLogWindow = 510; // just behind the summary
-};
-
-// All that a run works with: its state and its ports. Everything referred to outlives every run.
+// All that a run works with: its state, its ports and its settings. Everything referred to outlives every
+// run. Runs beside each other in one window share one state; whoever wants cases apart gives each a state of
+// its own.
 struct RunContext
 {
     SharedRunState &state;
@@ -25,7 +18,7 @@ struct RunContext
     RunHost &host;
     JobRunner &jobs;
     NOXUtils::UuidSource &uuids;
-    const Delays &delays;
+    qsizetype max_arg_len = 262144; // characters (UTF-16 units) in one command line
 };
 
 } // namespace dravolin

@@ -1,96 +1,115 @@
 #pragma once
 
+#include "config/ConfigurationDiscovery.h"
+#include "config/ConfigurationFile.h"
+#include "identifiers/UidRoot.h"
+#include "run/jobs/RunJudgement.h"
+
 #include <QString>
-#include <QStringList>
 #include <Qt>
 
 #include <exception>
 #include <functional>
+#include <optional>
 
-// The narrow port through which a run sees the main window.
+// The port between a run and the user: events, questions and choices. How they look is the front end's
+// affair.
 namespace dravolin {
 
-enum class CheckBox { OverwriteSource, Prepopulate, GenerateSOP, OnlyGenerateSOP };
-enum class TextField { UidRoot, CaseId, Diagnosis, Keywords, Credits };
-// The controls that cannot be used during a run, in the order in which they are disabled.
-enum class Control { OverwriteSource, SelectLUT, Prepopulate, SelectConfig, GenerateSOP, OnlyGenerateSOP };
-
-enum class AlertButton { Default, Alternate };
-
-// A question that stops everything until it is answered.
-struct ModalAlert
+// What the user has switched and selected, at the moment of asking.
+struct Choices
 {
-    QString title;
-    QString text;
-    QString defaultButton;
-    QString alternateButton;                   // "" for an alert with one button
-    AlertButton escape = AlertButton::Default; // what Escape and the close button answer
+    Qt::CheckState overwriteSource = Qt::Unchecked;
+    Qt::CheckState prepopulate = Qt::Unchecked; // construct a look-up table
+    Qt::CheckState generateSOP = Qt::Unchecked;
+    Qt::CheckState onlyGenerateSOP = Qt::Unchecked;
+    QString configuration;        // a title; "" when there is none to select
+    std::optional<QString> table; // a title, which may be empty; nothing: no table
+
+    bool operator==(const Choices &) const = default;
 };
 
-// A question in a sheet on the main window.
-struct AlertSheet
-{
-    static constexpr int firstButton = 1000; // codes of the buttons, in the order in which they are added
-    static constexpr int secondButton = 1001;
-    static constexpr int thirdButton = 1002;
+enum class RunKind { Anonymize, Construct, OnlyGenerate };
 
-    QString message;
-    QString informativeText;
-    QStringList buttons;                      // one to three
-    int escape = firstButton;                 // what Escape and the close button answer
-    std::function<void(int code)> completion; // called on the main thread; may be empty
+// The kind of run that the choices ask for; construction comes first.
+[[nodiscard]] inline RunKind kindOf(const Choices &choices)
+{
+    if (choices.prepopulate == Qt::Checked)
+        return RunKind::Construct;
+    return choices.onlyGenerateSOP == Qt::Checked ? RunKind::OnlyGenerate : RunKind::Anonymize;
+}
+
+enum class Question {
+    LargeDrop,      // whether so many individual files are meant
+    OverwriteSource // whether the source data may be overwritten
 };
 
-struct PopupSelection
-{
-    int index = 0;
-    QString title; // "" when the pop-up has no items
+// Why a run does not start or go on. What the detail is stands behind each.
+enum class Refusal {
+    InvalidStudyInstanceUid, // no detail
+    NoTags,                  // the configuration's path
+    NoTagForTable,           // the table's title
+    TableUnreadable,         // the table's title
+    TableWithoutMissing,     // the table's title
+    OutOfFileHandles         // no detail; the user is expected to start again with less
 };
 
-// Thrown by a RunHost off the main thread when the window is closing: the run has to end without another
-// step.
-class WindowClosing : public std::exception
+struct RunBeginning
+{
+    RunKind kind = RunKind::Anonymize;
+    QString constructionTag; // of the attribute that a table is constructed from
+};
+
+struct Progress
+{
+    enum class Event {
+        FoldersAnonymized, // folders of the run
+        PropagationBegins, // without numbers
+        FoldersPropagated, // folders of the run
+        FilesPropagated,   // files of the folder at hand; the last one has only begun
+        PropagationEnds    // without numbers
+    };
+    Event event = Event::FoldersAnonymized;
+    quint64 done = 0;
+    quint64 all = 0;
+
+    bool operator==(const Progress &) const = default;
+};
+
+// Thrown by a RunHost off the main thread: the run has to end without another step.
+class RunCancelled : public std::exception
 {
 public:
-    [[nodiscard]] const char *what() const noexcept override { return "the main window is closing"; }
+    [[nodiscard]] const char *what() const noexcept override { return "the run was cancelled"; }
 };
 
-// Every operation may be called from any thread. It is carried out on the main thread and has happened when
-// it returns, unless it says otherwise; off the main thread it throws WindowClosing once the window is
-// closing.
+// Every operation may be called from any thread and has happened when it returns, unless it says otherwise;
+// off the main thread each may throw RunCancelled.
 class RunHost
 {
 public:
     virtual ~RunHost() = default;
 
-    [[nodiscard]] virtual Qt::CheckState checkState(CheckBox box) = 0;
-    [[nodiscard]] virtual QString text(TextField field) = 0;
-    virtual void setText(TextField field, const QString &text) = 0;
-    virtual void setRootValidity(const QString &label) = 0;
-    [[nodiscard]] virtual QString selectedConfigTitle() = 0;
-    [[nodiscard]] virtual PopupSelection selectedLUT() = 0;
+    // Both are read at the step that needs them, so that they may change during a run.
+    [[nodiscard]] virtual Choices choices() = 0;
+    [[nodiscard]] virtual CaseTexts texts() = 0;
+    // The root as it is now to be shown, and whether it can be used.
+    virtual void setRoot(const RootCheck &root) = 0;
 
-    virtual void setStatus(const QString &text) = 0;
-    virtual void setStatusToolTip(const QString &text) = 0;
-    virtual void setEnabled(Control control, bool enabled) = 0;
-    virtual void setSpinning(bool spinning) = 0;
-    virtual void showSeparator() = 0;
-    virtual void setProgress(double percent) = 0;
-    virtual void setProgressVisible(bool visible) = 0;
-    // Starts to resize the window to `height`, its top edge, x and width unchanged, and returns; `then` is
-    // called on the main thread when it has that height, never when the window was closed before.
-    virtual void growWindow(int height, std::function<void()> then) = 0;
+    // Returns when the user has answered; true to go on.
+    [[nodiscard]] virtual bool ask(Question question) = 0;
+    // May return before the user has taken note.
+    virtual void refuse(Refusal refusal, const QString &detail = {}) = 0;
 
-    // Fills the table pop-up and selects its first item; without titles it says so and is disabled.
-    virtual void setLUTTitles(const QStringList &titles) = 0;
+    // Main thread. Makes ready for a run and returns; `start` is called on the main thread when everything is
+    // ready, never when the user has left before.
+    virtual void runBegins(const RunBeginning &beginning, std::function<void()> start) = 0;
+    virtual void progress(const Progress &progress) = 0;
+    // Not on the main thread: it may wait for a moment.
+    virtual void runEnds(const RunJudgement &judgement) = 0;
 
-    // Returns when the sheet is up, not when it is answered.
-    virtual void showSheet(const AlertSheet &sheet) = 0;
-    // Returns the answer.
-    virtual AlertButton runModalAlert(const ModalAlert &alert) = 0;
-    // Opens the log window some time after this returns.
-    virtual void scheduleLogWindow(const QString &text) = 0;
-    virtual void closeMainWindow() = 0;
+    // The look-up tables that can be selected from now on; none is selected.
+    virtual void tablesFound(const TitleToPath &tables) = 0;
 };
 
 } // namespace dravolin

@@ -3,6 +3,7 @@
 #include "config/ConfigurationDiscovery.h"
 #include "config/ConfigurationFile.h"
 #include "config/LutFile.h"
+#include "run/jobs/RunJudgement.h"
 
 #include <QSet>
 #include <QString>
@@ -13,27 +14,35 @@
 
 namespace dravolin {
 
-// Everything that a run counts and collects. It lives as long as the application.
-struct RunState
+// What belongs to one run; empty again when it has ended. Two runs beside each other share it.
+struct RunTally
 {
     quint64 errCount = 0;
-    quint64 totalFolders = 0; // denominator of the progress texts
-    quint64 folderCount = 0;  // numerator of the progress texts
-    bool usingLUT = false;    // the run propagates a table after anonymizing
-    quint64 numLUTadaptedFiles = 0;
-    quint64 numLUTskippedFiles = 0;
+    quint64 totalFolders = 0;    // denominator of the progress texts
+    quint64 folderCount = 0;     // numerator of the progress texts
     QSet<QString> LUTtagSet;     // values collected by table construction
     QStringList AllFoldersNames; // lower-cased; the tool complains about them and need not be believed
-    QStringList DICOMDIRpaths;   // intended: never emptied while the program runs
     QString output;              // what the tools of this run printed
-    QStringList allTagsToAnonymize;
-    NewValueDict newValueDict;
+    JobTally jobs;
+};
+
+// What is kept from run to run while the program runs.
+struct SessionState
+{
+    bool usingLUT = false; // the run propagates a table after anonymizing
+    quint64 numLUTadaptedFiles = 0;
+    quint64 numLUTskippedFiles = 0;
+    QStringList DICOMDIRpaths; // intended: never emptied while the program runs
     LutTable selectedLUTdict;
     QString firstFoundLUTtagInNewValueDict; // intended: set once, then kept while the program runs
     QString LUTconstructionTag;
     TitleToPath allConfigPaths;
     TitleToPath allLUTsPaths;
-    qsizetype max_arg_len = 262144; // characters (UTF-16 units) in one command line; never changes
+};
+
+// All of it, with the tags and new values of the configuration that was loaded last.
+struct RunState : TagRules, SessionState, RunTally
+{
 };
 
 // The one RunState, shared by the main thread and by every run. Each access is safe by itself, so that two
@@ -41,24 +50,45 @@ struct RunState
 class SharedRunState
 {
 public:
-    template <typename Field>
-    [[nodiscard]] Field get(Field RunState::*field) const
+    template <typename Part, typename Field>
+    [[nodiscard]] Field get(Field Part::*field) const
     {
         const std::lock_guard lock(m_mutex);
         return m_state.*field;
     }
 
-    template <typename Field, typename Value>
-    void set(Field RunState::*field, Value &&value)
+    // The tags and their new values, of one moment.
+    [[nodiscard]] TagRules rules() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_state;
+    }
+
+    template <typename Part, typename Field, typename Value>
+    void set(Field Part::*field, Value &&value)
     {
         const std::lock_guard lock(m_mutex);
         m_state.*field = std::forward<Value>(value);
     }
 
-    void add(quint64 RunState::*counter, quint64 amount)
+    void setRules(TagRules rules)
+    {
+        const std::lock_guard lock(m_mutex);
+        static_cast<TagRules &>(m_state) = std::move(rules);
+    }
+
+    template <typename Part>
+    void add(quint64 Part::*counter, quint64 amount)
     {
         const std::lock_guard lock(m_mutex);
         m_state.*counter += amount;
+    }
+
+    // Ends the run's part and gives what it was.
+    RunTally takeTally()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(static_cast<RunTally &>(m_state), RunTally());
     }
 
     // Several fields in one step. `change` gets the state; it must not call back into this object.

@@ -6,15 +6,6 @@
 
 namespace dravolin {
 
-const Redirections &appendingRedirections()
-{
-    // intended: "2>>&1" is what these lines say, though no shell accepts it
-    static const QString last = QStringLiteral(" >>.noxTemp.out 2>>&1");
-    static const Redirections redirections = {QStringLiteral(" >.noxTemp.out 2>&1"), last + u'\n', last,
-                                              last.size()};
-    return redirections;
-}
-
 QString quoted(const QString &path)
 {
     return u'"' + path + u'"';

@@ -15,9 +15,6 @@ struct Redirections
     qsizetype counted; // length that a redirection counts for when the length of a line is judged
 };
 
-// The redirections of anonymization.
-[[nodiscard]] const Redirections &appendingRedirections();
-
 // `path` between two double quotes; nothing in it is escaped.
 [[nodiscard]] QString quoted(const QString &path);
 

@@ -11,7 +11,7 @@ bool placeScript(const QString &path, const QString &text)
 {
     const std::lock_guard lock(processStartMutex());
     // a link of that name is somebody else's, and what it points to must not become a script
-    return writeText(path, text, Links::Refuse) && pathExists(path) && makeExecutable(path);
+    return writeText(path, text, Links::Refuse) && makeExecutable(path);
 }
 
 } // namespace
@@ -22,17 +22,16 @@ ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QStri
     const QString script = joinPath(folder, scriptFileName);
     if (!placeScript(script, scriptText(commands)))
         return {};
-    const JobResult job = jobs.run({QStringLiteral("/bin/sh"),
-                                    {QStringLiteral("-c"), quoted(script)},
-                                    folder,
-                                    toolEnvironment(paths),
-                                    false});
+    const JobResult job = jobs.run({.executable = QStringLiteral("/bin/sh"),
+                                    .arguments = {QStringLiteral("-c"), quoted(script)},
+                                    .folder = folder,
+                                    .environment = toolEnvironment(paths)});
     removeFile(script);
     if (job.outcome != JobOutcome::Ran)
         return {};
     const QString output = readText(joinPath(folder, outputFileName)).value_or(QString());
     removeOutputBeside(folder);
-    return {true, output};
+    return {.ran = true, .output = output, .exitStatus = job.exitStatus};
 }
 
 QStringList toolEnvironment(const AppPaths &paths)

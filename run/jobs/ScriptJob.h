@@ -13,8 +13,9 @@ inline const QString outputFileName = QStringLiteral(".noxTemp.out");
 
 struct ScriptJobResult
 {
-    bool ran = false; // false: the script could not be written or made executable, or no process started
-    QString output;   // text of the output file; "" when there is none or when it is not UTF-8
+    bool ran = false;   // false: the script could not be written or made executable, or no process started
+    QString output;     // text of the output file; "" when there is none or when it is not UTF-8
+    int exitStatus = 0; // of the shell, when it ran
 };
 
 // Writes `commands` with the script header into `folder`, runs it through /bin/sh there with DCMDICTPATH as

@@ -42,8 +42,7 @@ TestApp::~TestApp() = default;
 
 void TestApp::start()
 {
-    controller =
-        std::make_unique<MainController>(AppPorts{run.paths, *jobs, run.uuids, presenter, run.delays});
+    controller = std::make_unique<MainController>(AppPorts{run.paths, *jobs, run.uuids, presenter, delays});
     controls = &controller->controls();
     controller->initAndShow();
     QTRY_VERIFY(controls->selectConfigPopupButton->count() > 0);

@@ -45,6 +45,7 @@ public:
     [[nodiscard]] QString configurationPath() const;
 
     TestRun run; // its host is not used
+    Delays delays{0, 0, 0, 0};
     ScriptedPresenter presenter;
     JobRunner *jobs = &run.jobs; // set another one before start()
     std::unique_ptr<MainController> controller;

@@ -121,7 +121,7 @@ void TestFileHandles::tellsTheUserAndClosesTheWindow()
     const LogCatcher log;
     ScarceJobRunner jobs;
     MessageBoxPresenter presenter;
-    MainController controller(AppPorts{run.paths, jobs, run.uuids, presenter, run.delays});
+    MainController controller(AppPorts{run.paths, jobs, run.uuids, presenter, Delays{0, 0, 0, 0}});
     Ui::MainWindow &controls = controller.controls();
     const QSignalSpy closed(&controller, &MainController::closed);
     connect(&controller, &MainController::closed, this, [&controller] { controller.closeGate(); });

@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString header = QStringLiteral(
+    "#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading this, the file is "
+    "garbage that can safely be deleted.\n");
 const QString enabledList = QStringLiteral("overwrite table construct config generate only");
 
 // A run from the drop to the summary, in the real window.
@@ -24,7 +27,11 @@ class MainControllerTest : public QObject
 private Q_SLOTS:
     void initTestCase() { useHome(m_home.path()); }
     void init();
-    void cleanup() { m_app.reset(); }
+    void cleanup()
+    {
+        m_jobMayEnd.release(1000); // a check that failed must not leave a job waiting
+        m_app.reset();
+    }
 
     void dropBecomesARun();
     void windowDuringARun();
@@ -355,14 +362,28 @@ void MainControllerTest::operationsForwardToTheCore()
              (TitleToPath{{QStringLiteral("Test"), m_app->configurationPath()}}));
     QCOMPARE(controller.getLUTsAtPath(m_app->run.paths.desktopFolder), TitleToPath());
     QCOMPARE(controller.recursivelyCountOfFolderInFolderTree(folder), 1);
-    QCOMPARE(controller.anonymizeTagsForDICOMFilesInFolderWithOptions({}, folder, {}), 0);
-    QCOMPARE(controller.anonymizeTagsInDICOMFilesInFolderWithOptions({}, {}, folder, {}), 0);
-    QCOMPARE(controller.recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions({}, folder, {}), 0);
-    QCOMPARE(controller.findDICOMDIRsAtPath(folder), QStringList());
+    const QStringList tags = {QStringLiteral("0010,0010"), QStringLiteral("0010,0030")};
+    controller.state().set(&RunState::newValueDict, NewValueDict{{tags.first(), QStringLiteral("ANON")}});
+    const QString prefix = header + u'"' + m_app->run.paths.dcmodify() +
+                           u"\" -ie -imt -nb -i \"(0010,0010)=ANON\" -ea \"(0010,0030)\""_s;
+    QCOMPARE(controller.anonymizeTagsForDICOMFilesInFolderWithOptions(tags, folder, {}), 0);
+    QCOMPARE(m_app->run.jobs.jobs.last().script, prefix + u" * >.noxTemp.out 2>&1"_s);
+    QCOMPARE(controller.anonymizeTagsInDICOMFilesInFolderWithOptions(tags, {u"/d/a"_s}, folder, {}), 0);
+    QCOMPARE(m_app->run.jobs.jobs.last().script, prefix + u" \"a\" >.noxTemp.out 2>&1"_s);
+    QCOMPARE(controller.recursivelyAnonymizeTagsForDICOMFilesInFolderTreeWithOptions(tags, folder, {}), 0);
+    QCOMPARE(m_app->run.jobs.jobs.last().script, prefix + u" * >.noxTemp.out 2>&1"_s);
+    const QString missing = folder + u"/missing"_s;
+    QCOMPARE(controller.anonymizeTagsForDICOMFilesInFolderWithOptions(tags, missing, {}), 1);
+    QCOMPARE(controller.anonymizeTagsInDICOMFilesInFolderWithOptions(tags, {u"/d/a"_s}, missing, {}), 1);
+    m_app->run.jobs.answer = [](const Job &) { return JobResult{JobOutcome::Ran, "./DICOMDIR\n"}; };
+    QCOMPARE(controller.findDICOMDIRsAtPath(folder), QStringList(u"./DICOMDIR"_s));
     RunOptions options;
-    QCOMPARE(controller.processDICOMfoldersAndIndividualFilesWithOptions({}, {}, options), 0);
+    options.selectedLUT = QStringLiteral("None"); // no marker: refused
+    QCOMPARE(controller.processDICOMfoldersAndIndividualFilesWithOptions({}, {}, options), 1);
+    controller.state().set(&RunState::errCount, quint64(2));
     controller.parseLog();
-    QCOMPARE(m_app->status(), QStringLiteral("\nDone!"));
+    QCOMPARE(m_app->status(),
+             QStringLiteral("Done...\nEncountered 2 errors.\nSee messages logged to console."));
 }
 
 } // namespace

@@ -98,20 +98,22 @@ void TestFixedTags::fixedTagsAreThereWithoutAFile()
 void TestFixedTags::findsTheFirstTableMarker_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("index");
-    QTest::newRow("no values") << QString() << -1;
-    QTest::newRow("none") << QStringLiteral("a\t\tx\nb\t\ty") << -1;
-    QTest::newRow("first by tag, not by line") << QStringLiteral("c\t\t<LUT_1>\nb\t\t<LUT_2>\na\t\tx") << 1;
-    QTest::newRow("other case") << QStringLiteral("a\t\t<lut_1>\nb\t\t<LUT_2>") << 1;
-    QTest::newRow("not in front") << QStringLiteral("a\t\tx<LUT_1>") << -1;
-    QTest::newRow("nothing behind it") << QStringLiteral("a\t\t<LUT_") << 0;
+    QTest::addColumn<QString>("tag"); // null: none
+    QTest::newRow("no values") << QString() << QString();
+    QTest::newRow("none") << QStringLiteral("a\t\tx\nb\t\ty") << QString();
+    QTest::newRow("first by tag, not by line")
+        << QStringLiteral("c\t\t<LUT_1>\nb\t\t<LUT_2>\na\t\tx") << QStringLiteral("b");
+    QTest::newRow("other case") << QStringLiteral("a\t\t<lut_1>\nb\t\t<LUT_2>") << QStringLiteral("b");
+    QTest::newRow("not in front") << QStringLiteral("a\t\tx<LUT_1>") << QString();
+    QTest::newRow("nothing behind it") << QStringLiteral("a\t\t<LUT_") << QStringLiteral("a");
 }
 
 void TestFixedTags::findsTheFirstTableMarker()
 {
     QFETCH(const QString, text);
-    QFETCH(const int, index);
-    QCOMPARE(indexOfFirstTableMarker(parseConfiguration(text).newValueDict), index);
+    QFETCH(const QString, tag);
+    const std::optional<QString> expected = tag.isNull() ? std::nullopt : std::optional(tag);
+    QVERIFY(firstTagWithTableMarker(parseConfiguration(text).newValueDict) == expected);
 }
 
 DRAVOLIN_TEST(TestFixedTags)

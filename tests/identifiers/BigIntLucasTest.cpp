@@ -168,6 +168,54 @@ private Q_SLOTS:
         QCOMPARE(k.dataLength(), 1);
     }
 
+    void passesTwoPseudoprimesOfTheLucasTest()
+    {
+        for (qint32 value = 0; value < 30000; ++value) {
+            const bool expected = isPrime(number(value)) || value == 5777 || value == 10877;
+            QCOMPARE(BigInt::lucasStrongTest(number(value)), expected);
+        }
+        QVERIFY(!BigInt::lucasStrongTest(withLength(BigInt(), 0)));
+        QVERIFY(BigInt::lucasStrongTest(number(-7)));
+    }
+
+    void keepsRefusingManyPrimesOfSomeSizes_data()
+    {
+        // Of the primes less than 2000 below 2^bits; with D = 5 all pass.
+        QTest::addColumn<qint32>("bits");
+        QTest::addColumn<qint32>("withOtherD");
+        QTest::addColumn<qint32>("refused");
+        QTest::newRow("24 bits") << 24 << 72 << 0;
+        QTest::newRow("32 bits") << 32 << 40 << 40;
+        QTest::newRow("48 bits") << 48 << 36 << 0;
+        QTest::newRow("64 bits") << 64 << 21 << 21;
+    }
+    void keepsRefusingManyPrimesOfSomeSizes()
+    {
+        QFETCH(qint32, bits);
+        qint32 withOtherD = 0;
+        qint32 refused = 0;
+        for (qint32 difference = 1; difference < 2000; difference += 2) {
+            const BigInt value = powerOfTwo(bits).subtract(number(difference));
+            if (!isPrime(value))
+                continue;
+            const bool passes = BigInt::lucasStrongTest(value);
+            QCOMPARE(value.isProbablePrime(), passes);
+            const bool hasOtherD = BigInt::jacobiAndB(number(5), value) != -1;
+            QVERIFY(passes || hasOtherD);
+            withOtherD += hasOtherD ? 1 : 0;
+            refused += passes ? 0 : 1;
+        }
+        QTEST(withOtherD, "withOtherD");
+        QTEST(refused, "refused");
+    }
+
+    void keepsSquaringThePowerOfQAfterPassing()
+    {
+        // 179 + 1 = 4 * 45, D = -15, Q = 4: V(45) is 0 at once, with Q^45 = 177. The last check needs Q^90
+        // = 4.
+        QVERIFY(BigInt::lucasStrongTest(number(179)));
+    }
+
 private:
     static void compareWithDefinition(const BigInt &P, const BigInt &Q, qint32 k, const BigInt &n, qint32 s)
     {

@@ -54,6 +54,11 @@ qint32 Reference::bits() const
     return mpz_sgn(m_value) == 0 ? 0 : static_cast<qint32>(mpz_sizeinbase(m_value, 2));
 }
 
+bool isPrime(const BigInt &value)
+{
+    return mpz_probab_prime_p(Reference(value).get(), 25) != 0;
+}
+
 QByteArray image(const BigInt &value)
 {
     return QByteArray::number(value.dataLength()) + ':' + hexDigits(Reference(value).get());

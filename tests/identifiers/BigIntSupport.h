@@ -23,6 +23,7 @@ namespace dravolin::test {
 [[nodiscard]] BigInt mostNegative();
 [[nodiscard]] BigInt mostPositive();
 [[nodiscard]] BigInt withLength(const BigInt &value, qint32 length);
+[[nodiscard]] bool isPrime(const BigInt &value); // by the reference library
 
 // "name / reason" of what the operation raises, or "nothing raised".
 template <typename Operation>

@@ -27,7 +27,6 @@ private Q_SLOTS:
     void checksRootAndCaseId();
     void givesTheRootWithoutBlanksAtItsEnds_data();
     void givesTheRootWithoutBlanksAtItsEnds();
-    void namesTheResult();
     void filtersWhatIsTyped_data();
     void filtersWhatIsTyped();
     void generatesRoots_data();
@@ -112,12 +111,6 @@ void TestUidRoot::givesTheRootWithoutBlanksAtItsEnds()
     QFETCH(const QString, expected);
     QCOMPARE(checkRoot(root, QString()).trimmedRoot, expected);
     QCOMPARE(checkRoot(root, QStringLiteral("x")).trimmedRoot, expected);
-}
-
-void TestUidRoot::namesTheResult()
-{
-    QCOMPARE(rootValidityText(true), QStringLiteral("UID may be valid"));
-    QCOMPARE(rootValidityText(false), QStringLiteral("Root is invalid, will be replaced"));
 }
 
 void TestUidRoot::filtersWhatIsTyped_data()

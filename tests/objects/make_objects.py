@@ -33,7 +33,7 @@ modality, transfer_syntax, character_set, undefined_lengths) and in `planted` ea
     value_class         person, identifier, date, place, contact, device, institution, free text, UID
     spelling, encoding  how the text differs from the original's; the character set of the bytes
 
-The same set, options and seed give the same bytes; another seed gives other UIDs and values. A program can
+The same set, options and seed give the same bytes; another seed gives other UIDs and numbers. A program can
 take the package itself: `from generator.sets import mixed`, `from generator.kinds import KINDS`.
 """
 import argparse

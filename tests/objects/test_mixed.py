@@ -1,5 +1,6 @@
 #!/usr/bin/python3
 """Objects of all kinds, written in all ways."""
+import collections
 import json
 import unittest
 
@@ -40,6 +41,15 @@ class MixedTest(SetTests, unittest.TestCase):
             self.assertLessEqual({"implicit", "explicit", "big endian", "deflated"}, syntaxes, kind.name)
             self.assertEqual({"RLE", "JPEG", "JPEG 2000"} <= syntaxes, kind.has_pixels, kind.name)
         self.assertEqual(len({json.dumps(file["undefined_lengths"]) for file in self.objects().values()}), 4)
+
+    def test_names_and_uids_stand_nowhere_but_where_they_are_told(self):
+        for path, file in self.files.items():
+            data_set = split((self.folder / path).read_bytes())[2]
+            told = collections.Counter(plant["bytes"] for plant in file["planted"]
+                                       if plant["value_class"] in ("person", "UID"))
+            found = {written: data_set.count(bytes.fromhex(written)) for written in told}
+            self.assertEqual(found, dict(told), path)
+            self.assertGreater(len(told), 3, path)
 
     def test_references_lead_to_objects_of_the_same_study(self):
         objects = {value(self.dumps[path], "(0008,0018)"): self.dumps[path] for path in self.objects()}

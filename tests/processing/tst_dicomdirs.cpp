@@ -31,8 +31,7 @@ private:
     {
         PosixJobRunner jobs;
         const RunContext &context = m_run->context;
-        return findDicomdirs(
-            {context.state, context.paths, context.host, jobs, context.uuids, context.delays}, folder);
+        return findDicomdirs({context.state, context.paths, context.host, jobs, context.uuids}, folder);
     }
     std::unique_ptr<TestRun> m_run;
 };

@@ -36,7 +36,7 @@ private Q_SLOTS:
     void fewFilesBehindALongPrefixLandOnTheLastLine();
     void noFilesOrNoFolderIsNoJob_data();
     void noFilesOrNoFolderIsNoJob();
-    void readsTheCheckBoxesAtTheStartOfEachCall();
+    void readsTheChoicesAtTheStartOfEachCall();
     void onlyGenerateLeavesTagsAndTheirLogOut();
     void logsAndCountsMalformedTagsInEveryCall();
     void appendsTheToolsTextUnchanged();
@@ -47,6 +47,11 @@ private:
     [[nodiscard]] QString prefix() const
     {
         return u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt -nb");
+    }
+    // The tags with the new values in the state.
+    [[nodiscard]] TagRules rules(const QStringList &listed) const
+    {
+        return {listed, m_run->state.get(&RunState::newValueDict)};
     }
     [[nodiscard]] QString script() const { return m_run->jobs.jobs.last().script; }
     std::unique_ptr<TestRun> m_run;
@@ -63,14 +68,14 @@ void TestFolderAnonymization::init()
 
 void TestFolderAnonymization::folderJobTakesEveryEntryByAGlob()
 {
-    QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(), header + prefix() + tagArguments + QStringLiteral(" * >.noxTemp.out 2>&1"));
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
 
     RunOptions options;
     options.createBAKfiles = true;
-    QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, options), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, options), 0U);
     QCOMPARE(script(), header + u'"' + m_run->paths.dcmodify() + QStringLiteral("\" -ie -imt") +
                            tagArguments + QStringLiteral(" * >.noxTemp.out 2>&1"));
 }
@@ -79,7 +84,7 @@ void TestFolderAnonymization::folderJobIsNeverSplit()
 {
     const QString value(300000, u'x');
     m_run->state.set(&RunState::newValueDict, NewValueDict{{tags.first(), value}});
-    QCOMPARE(anonymizeFolder(m_run->context, {tags.first()}, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules({tags.first()}), m_folder, m_noBackups), 0U);
     QCOMPARE(script(), header + prefix() + QStringLiteral(" -i \"(0010,0010)=") + value +
                            QStringLiteral("\" * >.noxTemp.out 2>&1"));
 }
@@ -96,7 +101,7 @@ void TestFolderAnonymization::filesAreNamedOneByOne()
     const QStringList files = {joinPath(m_folder, QStringLiteral("b.dcm")),
                                joinPath(m_folder, QStringLiteral("a 1")),
                                joinPath(m_folder, QStringLiteral("c\"$`\\.dcm"))};
-    QCOMPARE(anonymizeFiles(m_run->context, tags, files, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), files, m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(), header + prefix() + tagArguments +
                            QStringLiteral(" \"b.dcm\" \"a 1\" \"c\"$`\\.dcm\" >.noxTemp.out 2>&1"));
@@ -141,7 +146,7 @@ void TestFolderAnonymization::oneCharacterDecidesWhetherAListIsSplit()
     const QString twoLines = start + arguments.mid(0, 500).join(QString()) +
                              QStringLiteral(" >>.noxTemp.out 2>>&1\n") + start +
                              arguments.mid(500).join(QString()) + QStringLiteral(" >>.noxTemp.out 2>>&1");
-    QCOMPARE(anonymizeFiles(m_run->context, tags, files, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), files, m_folder, m_noBackups), 0U);
     QVERIFY(script() == header + (split ? twoLines : oneLine));
 }
 
@@ -150,8 +155,8 @@ void TestFolderAnonymization::fewFilesBehindALongPrefixLandOnTheLastLine()
     const QString value(393216, u'x'); // three times half the limit
     m_run->state.set(&RunState::newValueDict, NewValueDict{{tags.first(), value}});
     const QString start = prefix() + QStringLiteral(" -i \"(0010,0010)=") + value + u'"';
-    QCOMPARE(anonymizeFiles(m_run->context, {tags.first()}, {QStringLiteral("/d/a"), QStringLiteral("/d/b")},
-                            m_folder, m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, rules({tags.first()}),
+                            {QStringLiteral("/d/a"), QStringLiteral("/d/b")}, m_folder, m_noBackups),
              0U);
     const QString empty = start + QStringLiteral(" >>.noxTemp.out 2>>&1\n");
     QVERIFY(script() == header + empty + empty + start + QStringLiteral(" \"a\" \"b\" >>.noxTemp.out 2>>&1"));
@@ -173,7 +178,8 @@ void TestFolderAnonymization::noFilesOrNoFolderIsNoJob()
     m_run->host.recordReads = true;
     const LogCatcher log;
     const QStringList malformed = {QStringLiteral("malformed")};
-    QCOMPARE(anonymizeFiles(m_run->context, malformed, files, withFolder ? m_folder : QString(), m_noBackups),
+    QCOMPARE(anonymizeFiles(m_run->context, rules(malformed), files, withFolder ? m_folder : QString(),
+                            m_noBackups),
              0U);
     QVERIFY(m_run->jobs.jobs.isEmpty());
     QCOMPARE(listNames(m_folder), QStringList());
@@ -182,17 +188,16 @@ void TestFolderAnonymization::noFilesOrNoFolderIsNoJob()
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
 }
 
-void TestFolderAnonymization::readsTheCheckBoxesAtTheStartOfEachCall()
+void TestFolderAnonymization::readsTheChoicesAtTheStartOfEachCall()
 {
     m_run->host.recordReads = true;
     m_run->jobs.answer = [this](const Job &) {
         m_run->host.calls.append(QStringLiteral("job"));
         return JobResult{JobOutcome::Ran, {}};
     };
-    const QStringList once = {QStringLiteral("read generateSOP"), QStringLiteral("read onlyGenerateSOP"),
-                              QStringLiteral("job")};
+    const QStringList once = {QStringLiteral("read choices"), QStringLiteral("job")};
     QCOMPARE(anonymizeFolder(m_run->context, {}, m_folder, m_noBackups), 0U);
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked}};
+    m_run->host.chosen.generateSOP = Qt::Checked;
     QCOMPARE(anonymizeFiles(m_run->context, {}, {QStringLiteral("/d/a")}, m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->host.calls, once + once);
     QCOMPARE(script(), header + prefix() + QStringLiteral(" -gin \"a\" >.noxTemp.out 2>&1"));
@@ -201,17 +206,16 @@ void TestFolderAnonymization::readsTheCheckBoxesAtTheStartOfEachCall()
 void TestFolderAnonymization::onlyGenerateLeavesTagsAndTheirLogOut()
 {
     const LogCatcher log;
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked},
-                               {CheckBox::OnlyGenerateSOP, Qt::Checked}};
-    QCOMPARE(anonymizeFolder(m_run->context, tags + QStringList{QStringLiteral("malformed")}, m_folder,
+    m_run->host.chosen.generateSOP = m_run->host.chosen.onlyGenerateSOP = Qt::Checked;
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags + QStringList{QStringLiteral("malformed")}), m_folder,
                              m_noBackups),
              0U);
     QCOMPARE(script(), header + prefix() + QStringLiteral(" -gin * >.noxTemp.out 2>&1"));
     QCOMPARE(log.messages(), QStringList());
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
 
-    m_run->host.checkStates = {{CheckBox::OnlyGenerateSOP, Qt::Checked}};
-    QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, m_noBackups), 0U);
+    m_run->host.chosen.generateSOP = Qt::Unchecked;
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, m_noBackups), 0U);
     QCOMPARE(script(), header + prefix() + QStringLiteral(" * >.noxTemp.out 2>&1"));
 }
 
@@ -221,11 +225,13 @@ void TestFolderAnonymization::logsAndCountsMalformedTagsInEveryCall()
     const QStringList malformed = {QString(), QStringLiteral(" 0010,0010x "), QStringLiteral("100% %1")};
     const QStringList once = {QStringLiteral("Ignoring malformed tag: 0010,0010x"),
                               QStringLiteral("Ignoring malformed tag: 100% %1")};
-    QCOMPARE(anonymizeFolder(m_run->context, malformed, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(malformed), m_folder, m_noBackups), 0U);
     QCOMPARE(log.messages(), once);
     QCOMPARE(m_run->state.get(&RunState::errCount), 2U);
-    QCOMPARE(anonymizeFolder(m_run->context, malformed, m_folder, m_noBackups), 0U);
-    QCOMPARE(anonymizeFiles(m_run->context, malformed, {QStringLiteral("/d/a")}, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(malformed), m_folder, m_noBackups), 0U);
+    QCOMPARE(
+        anonymizeFiles(m_run->context, rules(malformed), {QStringLiteral("/d/a")}, m_folder, m_noBackups),
+        0U);
     QCOMPARE(log.messages(), once + once + once);
     QCOMPARE(m_run->state.get(&RunState::errCount), 6U);
     QCOMPARE(m_run->host.calls, QStringList()); // nothing in the window
@@ -239,9 +245,10 @@ void TestFolderAnonymization::appendsTheToolsTextUnchanged()
             QTest::qFail("no output file", __FILE__, __LINE__);
         return JobResult{JobOutcome::Ran, "what a pipe would have given"};
     };
-    QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->state.get(&RunState::output), QStringLiteral("before E: x\r\n \n"));
-    QCOMPARE(anonymizeFiles(m_run->context, tags, {QStringLiteral("/d/a")}, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), {QStringLiteral("/d/a")}, m_folder, m_noBackups),
+             0U);
     QCOMPARE(m_run->state.get(&RunState::output), QStringLiteral("before E: x\r\n \n E: x\r\n \n"));
     QVERIFY(pathExists(joinPath(m_folder, QStringLiteral(".noxTemp.out"))));
 }
@@ -249,7 +256,7 @@ void TestFolderAnonymization::appendsTheToolsTextUnchanged()
 void TestFolderAnonymization::toolsErrorsAreNotItsOwn()
 {
     m_run->writeFile(QStringLiteral("data/s1/.noxTemp.out"), QStringLiteral("E: There was 1 error\n"));
-    QCOMPARE(anonymizeFolder(m_run->context, tags, m_folder, m_noBackups), 0U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), m_folder, m_noBackups), 0U);
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
 }
 
@@ -257,8 +264,8 @@ void TestFolderAnonymization::jobThatCannotStartIsOneError()
 {
     const LogCatcher log;
     const QString missing = m_run->path(QStringLiteral("missing"));
-    QCOMPARE(anonymizeFolder(m_run->context, tags, missing, m_noBackups), 1U);
-    QCOMPARE(anonymizeFiles(m_run->context, tags, {QStringLiteral("/d/a")}, missing, m_noBackups), 1U);
+    QCOMPARE(anonymizeFolder(m_run->context, rules(tags), missing, m_noBackups), 1U);
+    QCOMPARE(anonymizeFiles(m_run->context, rules(tags), {QStringLiteral("/d/a")}, missing, m_noBackups), 1U);
     QVERIFY(m_run->jobs.jobs.isEmpty());
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U); // the caller counts
     QCOMPARE(m_run->state.get(&RunState::output), QString());

@@ -114,7 +114,7 @@ void TestFolderTree::countsFoldersByTheirOwnAttributes()
                                  QStringLiteral("package.app")}));
     QCOMPARE(m_run->state.get(&RunState::totalFolders), 4U);
 
-    (void)anonymizeFolderTree(m_run->context, {}, path(u"Top"), {});
+    anonymizeFolderTree(m_run->context, path(u"Top"), {});
     QStringList folders = m_run->jobs.folders();
     QCOMPARE(folders.takeLast(), path(u"Top"));
     folders.sort();
@@ -170,16 +170,17 @@ void TestFolderTree::anonymizesSubfoldersBeforeTheirParents()
                                                  : QStringList{path(u"Top/Ya")};
     RunOptions options;
     options.createBAKfiles = true;
-    QCOMPARE(anonymizeFolderTree(m_run->context, {QStringLiteral("0010,0030")}, path(u"Top"), options), 0U);
+    m_run->state.set(&RunState::allTagsToAnonymize, QStringList{QStringLiteral("0010,0030")});
+    anonymizeFolderTree(m_run->context, path(u"Top"), options);
     QCOMPARE(m_run->jobs.folders(), expected + QStringList{path(u"Top")});
     for (const auto &recorded : m_run->jobs.jobs)
         QCOMPARE(recorded.script.section(u'\n', 2),
                  u'"' + m_run->paths.dcmodify() +
                      QStringLiteral("\" -ie -imt -ea \"(0010,0030)\" * >.noxTemp.out 2>&1"));
-    QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("setStatus: \nWorking... 1/4 folders"),
-                                             QStringLiteral("setStatus: \nWorking... 2/4 folders"),
-                                             QStringLiteral("setStatus: \nWorking... 3/4 folders"),
-                                             QStringLiteral("setStatus: \nWorking... 4/4 folders")}));
+    QCOMPARE(
+        m_run->host.calls,
+        QStringList({QStringLiteral("anonymized 1/4 folders"), QStringLiteral("anonymized 2/4 folders"),
+                     QStringLiteral("anonymized 3/4 folders"), QStringLiteral("anonymized 4/4 folders")}));
     QCOMPARE(m_run->state.get(&RunState::folderCount), 4U);
     QCOMPARE(m_run->state.get(&RunState::AllFoldersNames), QStringList());
 }
@@ -188,16 +189,16 @@ void TestFolderTree::emptyFolderIsAJobAndAStep()
 {
     make({u"Empty"});
     (void)count(path(u"Empty"));
-    QCOMPARE(anonymizeFolderTree(m_run->context, {}, path(u"Empty"), {}), 0U);
+    anonymizeFolderTree(m_run->context, path(u"Empty"), {});
     QCOMPARE(m_run->jobs.folders(), QStringList{path(u"Empty")});
-    QCOMPARE(m_run->host.calls, QStringList{QStringLiteral("setStatus: \nWorking... 1/1 folders")});
+    QCOMPARE(m_run->host.calls, QStringList{QStringLiteral("anonymized 1/1 folders")});
 }
 
 void TestFolderTree::anonymizingDeletesNothing()
 {
     make({u"Top/a"});
     m_run->writeFile(QStringLiteral("Top/a/.noxTemp.out"), QStringLiteral("old"));
-    QCOMPARE(anonymizeFolderTree(m_run->context, {}, path(u"Top"), {}), 0U);
+    anonymizeFolderTree(m_run->context, path(u"Top"), {});
     QCOMPARE(readText(path(u"Top/a/.noxTemp.out")), std::optional(QStringLiteral("old")));
 }
 
@@ -209,7 +210,7 @@ void TestFolderTree::failedJobIsCountedAndTheWalkGoesOn()
     m_run->jobs.answer = [this](const Job &job) {
         return JobResult{job.folder == path(u"Top/a") ? JobOutcome::CouldNotStart : JobOutcome::Ran, {}};
     };
-    QCOMPARE(anonymizeFolderTree(m_run->context, {}, path(u"Top"), {}), 0U);
+    anonymizeFolderTree(m_run->context, path(u"Top"), {});
     QCOMPARE(m_run->jobs.folders(), QStringList({path(u"Top/a"), path(u"Top")}));
     QCOMPARE(m_run->state.get(&RunState::errCount), 2U);
     QCOMPARE(m_run->state.get(&RunState::folderCount), 3U);
@@ -230,7 +231,7 @@ void TestFolderTree::walksFoldersWithOddNames()
     names.sort();
     expectedNames.sort();
     QCOMPARE(names, expectedNames);
-    QCOMPARE(anonymizeFolderTree(m_run->context, {}, path(u"Top"), {}), 0U);
+    anonymizeFolderTree(m_run->context, path(u"Top"), {});
     QStringList folders = m_run->jobs.folders();
     QCOMPARE(folders.takeLast(), path(u"Top"));
     folders.sort();
@@ -243,10 +244,12 @@ void TestFolderTree::walksFoldersWithOddNames()
 
 void TestFolderTree::tellsTheProgress()
 {
-    QCOMPARE(workingText(m_run->context), QStringLiteral("\nWorking... 0/0 folders"));
+    tellFolders(m_run->context, Progress::Event::FoldersAnonymized);
     m_run->state.set(&RunState::folderCount, quint64{1234567});
     m_run->state.set(&RunState::totalFolders, quint64{98765432});
-    QCOMPARE(workingText(m_run->context), QStringLiteral("\nWorking... 1234567/98765432 folders"));
+    tellFolders(m_run->context, Progress::Event::FoldersPropagated);
+    QCOMPARE(m_run->host.calls, QStringList({QStringLiteral("anonymized 0/0 folders"),
+                                             QStringLiteral("propagated 1234567/98765432 folders")}));
 }
 
 DRAVOLIN_TEST(TestFolderTree)

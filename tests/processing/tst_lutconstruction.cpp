@@ -31,7 +31,7 @@ private Q_SLOTS:
     void folderIsOneJobThatRecursesItself();
     void filesAreNamedOneByOne();
     void filesOfOtherFoldersAreNamedInTheFirst();
-    void folderCountsBeforeFiles();
+    void aTreeIsSearchedFromItsTop();
     void oneCharacterDecidesWhetherAListIsSplit_data();
     void oneCharacterDecidesWhetherAListIsSplit();
     void keepsOnlyTheLastLineTruncating();
@@ -77,7 +77,7 @@ void TestLutConstruction::redirectionsAreTheseFour()
 void TestLutConstruction::folderIsOneJobThatRecursesItself()
 {
     m_run->makeFolder(QStringLiteral("data/A/sub/sub"));
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(m_run->jobs.jobs.size(), 1);
     const Job &job = m_run->jobs.jobs.first().job;
     QCOMPARE(job.executable, QStringLiteral("/bin/sh"));
@@ -93,7 +93,7 @@ void TestLutConstruction::filesAreNamedOneByOne()
 {
     const QStringList files = {joinPath(m_folder, QStringLiteral("b.dcm")),
                                joinPath(m_folder, QStringLiteral("a $HOME \".dcm"))};
-    QCOMPARE(collectLutValues(m_run->context, files, QString()), 0U);
+    QCOMPARE(collectFromFiles(m_run->context, files), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(), header + prefix() +
                            QStringLiteral(" \"b.dcm\" \"a $HOME \".dcm\"* | awk -F [][] "
@@ -103,15 +103,15 @@ void TestLutConstruction::filesAreNamedOneByOne()
 void TestLutConstruction::filesOfOtherFoldersAreNamedInTheFirst()
 {
     const QStringList files = {joinPath(m_folder, QStringLiteral("a")), QStringLiteral("/elsewhere/b")};
-    QCOMPARE(collectLutValues(m_run->context, files, QString()), 0U);
+    QCOMPARE(collectFromFiles(m_run->context, files), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(),
              header + prefix() + QStringLiteral(" \"a\" \"b\"* | awk -F [][] '{print $2}' >.noxTemp.out"));
 }
 
-void TestLutConstruction::folderCountsBeforeFiles()
+void TestLutConstruction::aTreeIsSearchedFromItsTop()
 {
-    QCOMPARE(collectLutValues(m_run->context, {QStringLiteral("/elsewhere/b")}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(m_run->jobs.folders(), QStringList{m_folder});
     QCOMPARE(script(), header + prefix() + QStringLiteral("* | awk -F [][] '{print $2}' >.noxTemp.out"));
 }
@@ -134,7 +134,7 @@ void TestLutConstruction::oneCharacterDecidesWhetherAListIsSplit()
     const QString a = QStringLiteral(" \"") + first + u'"';
     const QString b = QStringLiteral(" \"") + second + u'"';
     const QStringList files = {joinPath(m_folder, first), joinPath(m_folder, second)};
-    QCOMPARE(collectLutValues(m_run->context, files, QString()), 0U);
+    QCOMPARE(collectFromFiles(m_run->context, files), 0U);
     const QString expected =
         split ? prefix() + a + u' ' + filter + QStringLiteral(">>.noxTemp.out\n") + prefix() + b + u' ' +
                     filter + QStringLiteral(">.noxTemp.out")
@@ -144,9 +144,9 @@ void TestLutConstruction::oneCharacterDecidesWhetherAListIsSplit()
 
 void TestLutConstruction::keepsOnlyTheLastLineTruncating()
 {
-    m_run->state.set(&RunState::max_arg_len, qsizetype(4));
+    m_run->context.max_arg_len = 4;
     const QStringList files = {joinPath(m_folder, QStringLiteral("a"))};
-    QCOMPARE(collectLutValues(m_run->context, files, QString()), 0U);
+    QCOMPARE(collectFromFiles(m_run->context, files), 0U);
     const QStringList lines = script().sliced(header.size()).split(u'\n');
     const qsizetype parts = (prefix().size() + 4 + countedSuffix) / 2;
     QCOMPARE(lines.size(), parts);
@@ -161,8 +161,8 @@ void TestLutConstruction::tenFilesInThreeParts()
     for (int i = 0; i < 10; ++i)
         files.append(joinPath(m_folder, QString::number(i)));
     const qsizetype total = prefix().size() + 40 + countedSuffix;
-    m_run->state.set(&RunState::max_arg_len, 2 * (total / 3));
-    QCOMPARE(collectLutValues(m_run->context, files, QString()), 0U);
+    m_run->context.max_arg_len = 2 * (total / 3);
+    QCOMPARE(collectFromFiles(m_run->context, files), 0U);
     QCOMPARE(script(),
              header + prefix() +
                  QStringLiteral(" \"0\" \"1\" \"2\" | awk -F [][] '{print $2}' >>.noxTemp.out\n") + prefix() +
@@ -174,7 +174,7 @@ void TestLutConstruction::nothingToDoComesBeforeTheTag()
 {
     m_run->state.set(&RunState::LUTconstructionTag, QString());
     const LogCatcher log;
-    QCOMPARE(collectLutValues(m_run->context, {}, QString()), 0U);
+    QCOMPARE(collectFromTree(m_run->context, QString()), 0U);
     QCOMPARE(LogCatcher::messages(), QStringList());
     QVERIFY(m_run->jobs.jobs.isEmpty());
 }
@@ -196,8 +196,8 @@ void TestLutConstruction::malformedTagsAreRefused()
     m_run->state.set(&RunState::LUTconstructionTag, malformed);
     const QString beside = m_run->writeFile(QStringLiteral("data/A.noxTemp.out"));
     const LogCatcher log;
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 1U);
-    QCOMPARE(collectLutValues(m_run->context, {joinPath(m_folder, QStringLiteral("a"))}, QString()), 1U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 1U);
+    QCOMPARE(collectFromFiles(m_run->context, {joinPath(m_folder, QStringLiteral("a"))}), 1U);
     QCOMPARE(LogCatcher::messages(), QStringList(2, QStringLiteral("Malformed LUT tag: ") + malformed));
     QVERIFY(m_run->jobs.jobs.isEmpty());
     QVERIFY(pathExists(beside));
@@ -206,7 +206,7 @@ void TestLutConstruction::malformedTagsAreRefused()
 void TestLutConstruction::anyNineCharactersAreATag()
 {
     m_run->state.set(&RunState::LUTconstructionTag, QStringLiteral("abcdefghi"));
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(script(), header + u'"' + m_run->paths.dcmdump() +
                            QStringLiteral("\" -M -Un +E +F -q +sd +r +s --search abcdefghi * | awk -F [][] "
                                           "'{print $2}' >.noxTemp.out"));

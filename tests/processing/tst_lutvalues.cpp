@@ -77,43 +77,43 @@ void TestLutValues::valuesAreTheLinesAsTheyAre()
     QFETCH(QByteArray, text);
     QFETCH(QStringList, collected);
     printed(text);
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(sortedList(values()), collected);
 }
 
 void TestLutValues::valuesAddUpOverCalls()
 {
     printed("A\nB\n");
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     printed("B\nC\n");
-    QCOMPARE(collectLutValues(m_run->context, {joinPath(m_folder, QStringLiteral("f"))}, QString()), 0U);
+    QCOMPARE(collectFromFiles(m_run->context, {joinPath(m_folder, QStringLiteral("f"))}), 0U);
     QCOMPARE(values(), (QSet<QString>{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
 }
 
 void TestLutValues::outputThatIsNotUtf8HasNoValues()
 {
     printed("A\nM\xFCller\n");
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(values(), QSet<QString>());
 }
 
 void TestLutValues::noOutputFileIsNoValue()
 {
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(values(), QSet<QString>());
 }
 
 void TestLutValues::keepsValuesOfAnOutputFileThatNobodyReplaced()
 {
     m_run->writeFile(QStringLiteral("data/A/.noxTemp.out"), QStringLiteral("old\n"));
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(values(), QSet<QString>{QStringLiteral("old")});
 }
 
 void TestLutValues::toolsTextIsNotCollected()
 {
     printed("E: There was 1 error\n");
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(m_run->state.get(&RunState::output), QString());
     QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
 }
@@ -129,7 +129,7 @@ void TestLutValues::keepsTheOutputInsideAndDeletesTheOneBeside()
         m_run->writeFile(QStringLiteral("data/A.noxTemp.out"));
         return JobResult{JobOutcome::Ran, {}};
     };
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 0U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 0U);
     QCOMPARE(seen, (QStringList{QString(), QStringLiteral("inside")}));
     QVERIFY(!pathExists(beside));
     QVERIFY(pathExists(inside));
@@ -138,13 +138,13 @@ void TestLutValues::keepsTheOutputInsideAndDeletesTheOneBeside()
 
 void TestLutValues::jobThatCannotStartIsOneError()
 {
-    QCOMPARE(collectLutValues(m_run->context, {}, m_run->path(QStringLiteral("data/missing"))), 1U);
-    QCOMPARE(collectLutValues(m_run->context, {QStringLiteral("/dev/null/file")}, QString()), 1U);
+    QCOMPARE(collectFromTree(m_run->context, m_run->path(QStringLiteral("data/missing"))), 1U);
+    QCOMPARE(collectFromFiles(m_run->context, {QStringLiteral("/dev/null/file")}), 1U);
     QVERIFY(m_run->jobs.jobs.isEmpty());
 
     m_run->writeFile(QStringLiteral("data/A/.noxTemp.out"), QStringLiteral("old\n"));
     m_run->jobs.answer = [](const Job &) { return JobResult{JobOutcome::CouldNotStart, {}}; };
-    QCOMPARE(collectLutValues(m_run->context, {}, m_folder), 1U);
+    QCOMPARE(collectFromTree(m_run->context, m_folder), 1U);
     QCOMPARE(values(), QSet<QString>());
 }
 

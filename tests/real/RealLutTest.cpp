@@ -10,8 +10,8 @@ namespace dravolin::test {
 void RealLutTest::setUp()
 {
     m_run = std::make_unique<RealRun>();
-    m_run->host.texts[TextField::UidRoot] = QStringLiteral("1.2.826.0.1.3680043.10.1234");
-    m_run->host.configTitle = QStringLiteral("CT");
+    m_run->host.fields.uidRoot = QStringLiteral("1.2.826.0.1.3680043.10.1234");
+    m_run->host.chosen.configuration = QStringLiteral("CT");
     bind(tag);
 }
 
@@ -45,14 +45,14 @@ QString RealLutTest::run(const QStringList &folders, const QStringList &files, c
             m_run->writeFile(QStringLiteral("home/Desktop/AnonymizationLUT_Site.txt"), table);
     }
     performRun(m_run->context, drop);
-    return m_run->host.calls.filter(QStringLiteral("setStatus: ")).last().sliced(11);
+    return m_run->host.judgements.last().summary;
 }
 
 QString RealLutTest::construct(const QStringList &folders, const QStringList &files)
 {
-    m_run->host.checkStates[CheckBox::Prepopulate] = Qt::Checked;
+    m_run->host.chosen.prepopulate = Qt::Checked;
     const QString summary = run(folders, files, QString());
-    m_run->host.checkStates[CheckBox::Prepopulate] = Qt::Unchecked;
+    m_run->host.chosen.prepopulate = Qt::Unchecked;
     return summary;
 }
 

@@ -17,10 +17,15 @@ public:
     // The tool's lines for a tag in a file, at every nesting level, as "(gggg,eeee).(gggg,eeee) VR [value]";
     // without a tag the whole content of the file.
     [[nodiscard]] QStringList lines(const QString &path, const char *tag = nullptr) const;
+    // The tags with the new values in the state.
+    [[nodiscard]] TagRules rules(const QStringList &tags) const
+    {
+        return {tags, state.get(&RunState::newValueDict)};
+    }
     [[nodiscard]] QString resultingOutput() const { return state.get(&RunState::output); }
 
     PosixJobRunner tools;
-    RunContext context{state, paths, host, tools, uuids, delays}; // instead of the one with recorded jobs
+    RunContext context{state, paths, host, tools, uuids}; // instead of the one with recorded jobs
 };
 
 } // namespace dravolin::test

@@ -2,7 +2,7 @@
 #include "processing/FolderAnonymization.h"
 #include "real/PlantedObjects.h"
 #include "real/RealRun.h"
-#include "run/RunDriver.h"
+#include "run/Configuration.h"
 #include "support/TestEntry.h"
 
 #include <QDir>
@@ -208,7 +208,10 @@ void TestConfigurations::anonymizeCopies(RealRun &run, const QString &configurat
         QVERIFY(createFolder(copy(run, kind)));
         for (const QString &file : QDir(original(kind)).entryList(filesToChange(configuration, kind)))
             QVERIFY(copyFile(original(kind + u'/' + file), copy(run, kind + u'/' + file)));
-        QCOMPARE(anonymizeFolder(run.context, rules.allTagsToAnonymize, copy(run, kind), {}), 0U);
+        QCOMPARE(anonymizeFolder(run.context,
+                                 {rules.allTagsToAnonymize, run.state.get(&RunState::newValueDict)},
+                                 copy(run, kind), {}),
+                 0U);
     }
     QCOMPARE(run.resultingOutput(), QString());
     QCOMPARE(log.messages(), QStringList());

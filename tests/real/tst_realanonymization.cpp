@@ -53,7 +53,9 @@ private:
     void anonymize(const QStringList &tags, const NewValueDict &values = {})
     {
         m_run->state.set(&RunState::newValueDict, values);
-        QCOMPARE(anonymizeFolder(m_run->context, tags, m_run->path(QStringLiteral("study")), {}), 0U);
+        QCOMPARE(
+            anonymizeFolder(m_run->context, m_run->rules(tags), m_run->path(QStringLiteral("study")), {}),
+            0U);
     }
     [[nodiscard]] QStringList lines(const char *tag = nullptr) const { return m_run->lines(m_image, tag); }
     std::unique_ptr<RealRun> m_run;
@@ -141,7 +143,7 @@ void TestRealAnonymization::emptyValueErases()
 void TestRealAnonymization::generatesNewInstanceUids()
 {
     const QString second = m_run->makeImage(QStringLiteral("study/second.dcm"));
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked}};
+    m_run->host.chosen.generateSOP = Qt::Checked;
     anonymize({QStringLiteral("0010,0010")}, {{QStringLiteral("0010,0010"), QStringLiteral("ANON")}});
     QSet<QString> uids;
     for (const QString &path : {m_image, second}) {
@@ -163,8 +165,7 @@ void TestRealAnonymization::leavesInstanceUidsAlone()
 
 void TestRealAnonymization::onlyGeneratesInstanceUids()
 {
-    m_run->host.checkStates = {{CheckBox::GenerateSOP, Qt::Checked},
-                               {CheckBox::OnlyGenerateSOP, Qt::Checked}};
+    m_run->host.chosen.generateSOP = m_run->host.chosen.onlyGenerateSOP = Qt::Checked;
     QStringList before = lines();
     anonymize({QStringLiteral("0010,0010"), QStringLiteral("0010,0020")});
     QStringList after = lines();
@@ -181,7 +182,7 @@ void TestRealAnonymization::onlyGeneratesInstanceUids()
 void TestRealAnonymization::changesNothingWhenNothingIsAsked()
 {
     const QStringList before = lines();
-    m_run->host.checkStates = {{CheckBox::OnlyGenerateSOP, Qt::Checked}};
+    m_run->host.chosen.onlyGenerateSOP = Qt::Checked;
     anonymize({QStringLiteral("0010,0010"), QStringLiteral("0010,0020")});
     QCOMPARE(lines(), before);
     QCOMPARE(m_run->resultingOutput(), QString());

@@ -72,7 +72,7 @@ void TestRealLutConstruction::constructionOfALongListKeepsTheLastCommandsValues(
     for (int i = 0; i < 4; ++i)
         files.append(image(QStringLiteral("in/%1").arg(i), QString::number(i)));
     const qsizetype length = constructionPrefix(m_run->paths.dcmdump(), tag).size() + 4 * 4 + 41;
-    m_run->state.set(&RunState::max_arg_len, length); // two commands with two files each
+    m_run->context.max_arg_len = length; // two commands with two files each
     construct({}, files);
     QCOMPARE(table(), lutText(tag, {QStringLiteral("2"), QStringLiteral("3")}));
 }

@@ -163,7 +163,7 @@ void TestRealLutPropagation::keepsAskingWithoutATagAfterwards()
 {
     const QString file = image(QStringLiteral("in/a"), QStringLiteral("A"));
     run({path("in")}, {}, rows(QStringLiteral("A\t<skip>\n")));
-    m_run->host.checkStates[CheckBox::OnlyGenerateSOP] = Qt::Checked;
+    m_run->host.chosen.onlyGenerateSOP = Qt::Checked;
     const std::optional<QByteArray> before = readBytes(file);
     QCOMPARE(run({path("in")}, {}, QString()),
              QStringLiteral("Done!\nLUT tag propagated to 0 files.\nSkipped 1 DICOM file."));

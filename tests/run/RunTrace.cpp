@@ -17,8 +17,8 @@ const QString header =
 
 TracedRun::TracedRun()
 {
-    host.texts[TextField::UidRoot] = validRoot;
-    host.configTitle = QStringLiteral("CT");
+    host.fields.uidRoot = validRoot;
+    host.chosen.configuration = QStringLiteral("CT");
     jobs.answer = [this](const Job &job) { return answerJob(job); };
 }
 
@@ -31,7 +31,7 @@ void TracedRun::configure(const QString &text)
 Drop TracedRun::drop(const QStringList &folders, const QStringList &files)
 {
     Drop dropped{folders, files, {}};
-    dropped.options.createBAKfiles = host.checkStates.value(CheckBox::OverwriteSource) != Qt::Checked;
+    dropped.options.createBAKfiles = host.chosen.overwriteSource != Qt::Checked;
     return dropped;
 }
 
@@ -85,19 +85,6 @@ QString TracedRun::findJob(const QString &folder)
 {
     return QStringLiteral("/usr/bin/find . -name DICOMDIR -print\nin %1\nits own environment\npiped")
         .arg(folder);
-}
-
-QStringList endCalls(const QString &summary, bool tablesExist)
-{
-    return {QStringLiteral("setStatus: ") + summary,
-            QStringLiteral("enable overwriteSource"),
-            tablesExist ? QStringLiteral("enable selectLUT") : QStringLiteral("disable selectLUT"),
-            QStringLiteral("enable prepopulate"),
-            QStringLiteral("enable selectConfig"),
-            QStringLiteral("enable generateSOP"),
-            QStringLiteral("enable onlyGenerateSOP"),
-            QStringLiteral("stop spinning"),
-            QStringLiteral("setStatusToolTip: ")};
 }
 
 } // namespace dravolin::test

@@ -16,17 +16,19 @@ inline QString str(const char *text)
 // The progress text as the host writes it down.
 inline QString status(int done, int all)
 {
-    return QStringLiteral("setStatus: \nWorking... %1/%2 folders").arg(done).arg(all);
+    return QStringLiteral("anonymized %1/%2 folders").arg(done).arg(all);
 }
 
 inline const QString validRoot = QStringLiteral("1.2.826.0.1.3680043.10.1234");
 
-// What a check of the valid root leaves among the host's calls.
-inline const QStringList validCheck = {QStringLiteral("setText uidRoot: ") + validRoot,
-                                       QStringLiteral("setRootValidity: UID may be valid")};
-// What loading a configuration with it leaves.
-inline const QStringList loadCalls =
-    validCheck + QStringList(QStringLiteral("setText uidRoot: ") + validRoot);
+// What a check of the valid root, or loading a configuration with it, leaves among the host's calls.
+inline const QStringList loadCalls = {rootCall(validRoot)};
+
+// The call with which a run ends.
+inline QStringList endCalls(const QString &summary, const QString &logText = {})
+{
+    return {endCall(summary, logText)};
+}
 
 // A complete run over fakes whose jobs stand among the host's calls, so that their order shows: "job" and the
 // folder below the temporary tree. The window holds a valid root and selects the configuration "CT".
@@ -36,7 +38,7 @@ public:
     TracedRun();
 
     void configure(const QString &text); // the text of the configuration "CT"
-    void switchOn(CheckBox box) { host.checkStates[box] = Qt::Checked; }
+    void switchOn(Qt::CheckState Choices::*box) { host.chosen.*box = Qt::Checked; }
     [[nodiscard]] Drop drop(const QStringList &folders, const QStringList &files);
 
     // Everything about the recorded jobs, one text each: "EXECUTABLE ARGUMENTS", "in FOLDER", "with
@@ -56,9 +58,6 @@ private:
     JobResult answerJob(const Job &job);
     [[nodiscard]] QString relative(QString text) const;
 };
-
-// The calls with which the analysis of a run ends, from the final status on.
-[[nodiscard]] QStringList endCalls(const QString &summary, bool tablesExist = false);
 
 // The values that the window's fields and a root without a CaseID give, as a command's arguments.
 inline const QString fixedArguments =

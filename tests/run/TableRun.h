@@ -36,7 +36,7 @@ public:
         found.insert(lastPathComponent(relative), "(0010,1000) LO [" + value + "]   # 6, 1 x\n");
         return writeFile(relative);
     }
-    [[nodiscard]] QString summary() const { return host.calls.filter(str("setStatus: ")).last(); }
+    [[nodiscard]] QString summary() const { return host.judgements.last().summary; }
 
     QHash<QString, QByteArray> found; // by file name: what the search prints
 };

@@ -25,7 +25,7 @@ void ConstructionRunsTest::constructionSetsTheSkippedFilesBack()
 {
     TableRun run;
     run.state.set(&RunState::numLUTskippedFiles, quint64(3));
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     Drop drop = run.drop({}, {});
     performRun(run.context, drop);
     QCOMPARE(run.state.get(&RunState::numLUTskippedFiles), quint64(0));
@@ -34,7 +34,7 @@ void ConstructionRunsTest::constructionSetsTheSkippedFilesBack()
 void ConstructionRunsTest::constructionChangesNoFile()
 {
     TableRun run;
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     run.state.set(&RunState::LUTconstructionTag, str("0010,1000"));
     run.makeFolder(str("in/sub"));
     run.toolOutput[str("~/in")] = str("PAT1\n\nPAT2\n");
@@ -46,8 +46,8 @@ void ConstructionRunsTest::constructionChangesNoFile()
         QStringList(str("/bin/sh -c \"~/in/.noxTemp.sh\"\nin ~/in\n"
                         "with DCMDICTPATH=~/app/resources/dicom.dic\n\"~/app/resources/dcmdump\" -M -Un +E "
                         "+F -q +sd +r +s --search 0010,1000 * | awk -F [][] '{print $2}' >.noxTemp.out")));
-    const QStringList expected = loadCalls + QStringList{str("job ~/in"), str("setLUTTitles: Site")} +
-                                 endCalls(str("\nDone constructing LUT. File placed on Desktop."), true);
+    const QStringList expected = loadCalls + QStringList{str("job ~/in"), str("tables: Site")} +
+                                 endCalls(str("\nDone constructing LUT. File placed on Desktop."));
     QCOMPARE(run.host.calls, expected);
     QCOMPARE(readText(path), lutText(str("0010,1000"), {str("PAT1"), str("PAT2")}));
     QCOMPARE(run.state.get(&RunState::LUTtagSet), QSet<QString>());
@@ -56,26 +56,25 @@ void ConstructionRunsTest::constructionChangesNoFile()
 void ConstructionRunsTest::constructionWithATableBindsButDoesNotPropagate()
 {
     TableRun run;
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     run.state.set(&RunState::LUTconstructionTag, str("0010,1000"));
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
     performRun(run.context, drop);
     QCOMPARE(run.jobs.jobs.size(), 1);
     QCOMPARE(run.state.get(&RunState::usingLUT), true);
-    QCOMPARE(run.summary(), str("setStatus: \nDone constructing LUT. File placed on Desktop."));
+    QCOMPARE(run.summary(), str("\nDone constructing LUT. File placed on Desktop."));
     QVERIFY(pathExists(run.path(str("home/Desktop/AnonymizationLUT_Site1.txt"))));
 }
 
 void ConstructionRunsTest::refusedConstructionStillNamesTheDesktop()
 {
     TableRun run;
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
     removeFile(drop.options.selectedLUTpath);
     performRun(run.context, drop);
-    QCOMPARE(run.summary(),
-             str("setStatus: Done constructing LUT. File placed on Desktop.\nEncountered 1 error."
-                 "\nSee messages logged to console."));
+    QCOMPARE(run.summary(), str("Done constructing LUT. File placed on Desktop.\nEncountered 1 error."
+                                "\nSee messages logged to console."));
     QCOMPARE(listNames(run.paths.desktopFolder), QStringList());
 }
 
@@ -95,7 +94,7 @@ void ConstructionRunsTest::constructionIsNamedAfter()
     QFETCH(QString, name);
     TableRun run;
     run.configure(configuration);
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     Drop drop = run.drop({}, {});
     performRun(run.context, drop);
     QCOMPARE(listNames(run.paths.desktopFolder), QStringList(str("AnonymizationLUT_") + name + str(".txt")));

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "run/DropIntake.h"
+#include "run/RunDriver.h"
 #include "support/TestEntry.h"
 #include "support/TestRun.h"
 
@@ -13,13 +14,6 @@ namespace {
 
 const QString validRoot = QStringLiteral("1.2.826.0.1.3680043.10.1234");
 
-// A window that is closed while it grows.
-class ClosedHost : public RecordingHost
-{
-public:
-    void growWindow(int, std::function<void()>) override {}
-};
-
 } // namespace
 
 class DropIntakeTest : public QObject
@@ -30,9 +24,8 @@ private Q_SLOTS:
     void sortsFoldersFromEverythingElseInDropOrder();
     void takesTheTableOfTheSelectedItem_data();
     void takesTheTableOfTheSelectedItem();
-    void preparesTheWindowInOrder_data();
-    void preparesTheWindowInOrder();
-    void startsNoRunInAWindowThatWasClosed();
+    void tellsWhichKindOfRunBegins_data();
+    void tellsWhichKindOfRunBegins();
 };
 
 void DropIntakeTest::sortsFoldersFromEverythingElseInDropOrder()
@@ -85,8 +78,8 @@ void DropIntakeTest::takesTheTableOfTheSelectedItem()
     QFETCH(int, index);
     QFETCH(QString, title);
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.lut = {index, title};
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.table = index > 0 ? std::optional(title) : std::nullopt;
     run.state.set(&RunState::allLUTsPaths, TitleToPath{{QStringLiteral("Site"), QStringLiteral("/t/site")},
                                                        {QStringLiteral("ID"), QStringLiteral("/t/id")},
                                                        {QString(), QStringLiteral("/t/nameless")}});
@@ -99,53 +92,31 @@ void DropIntakeTest::takesTheTableOfTheSelectedItem()
     QVERIFY(!drop->options.theLUTtag);
 }
 
-void DropIntakeTest::preparesTheWindowInOrder_data()
+void DropIntakeTest::tellsWhichKindOfRunBegins_data()
 {
     QTest::addColumn<Qt::CheckState>("construct");
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QString>("status");
-    const QString tag = QStringLiteral("0010,0020");
-    QTest::newRow("anonymization") << Qt::Unchecked << tag << QStringLiteral("\nWorking...");
-    QTest::newRow("construction") << Qt::Checked << tag
-                                  << QStringLiteral("\nConstructing LUT for tag : (0010,0020)...");
-    QTest::newRow("construction without a tag")
-        << Qt::Checked << QString() << QStringLiteral("\nConstructing LUT for tag : ()...");
-    QTest::newRow("construction, a tag that looks like a place marker")
-        << Qt::Checked << QStringLiteral("%1%2") << QStringLiteral("\nConstructing LUT for tag : (%1%2)...");
+    QTest::addColumn<Qt::CheckState>("onlyGenerate");
+    QTest::addColumn<QString>("call");
+    const QString construction = QStringLiteral("begins Construct: 0010,0020");
+    QTest::newRow("anonymization") << Qt::Unchecked << Qt::Unchecked
+                                   << QStringLiteral("begins Anonymize: 0010,0020");
+    QTest::newRow("construction") << Qt::Checked << Qt::Unchecked << construction;
+    QTest::newRow("only generate") << Qt::Unchecked << Qt::Checked
+                                   << QStringLiteral("begins OnlyGenerate: 0010,0020");
+    QTest::newRow("construction comes first") << Qt::Checked << Qt::Checked << construction;
 }
 
-void DropIntakeTest::preparesTheWindowInOrder()
+void DropIntakeTest::tellsWhichKindOfRunBegins()
 {
     QFETCH(Qt::CheckState, construct);
-    QFETCH(QString, tag);
-    QFETCH(QString, status);
+    QFETCH(Qt::CheckState, onlyGenerate);
+    QFETCH(QString, call);
     TestRun run;
-    run.host.checkStates[CheckBox::Prepopulate] = construct;
-    run.state.set(&RunState::LUTconstructionTag, tag);
-
-    prepareWindow(run.context, [&run] { run.host.calls.append(QStringLiteral("run starts")); });
-
-    QCOMPARE(run.host.calls,
-             QStringList({QStringLiteral("setStatus: ") + status, QStringLiteral("start spinning"),
-                          QStringLiteral("disable overwriteSource"), QStringLiteral("disable selectLUT"),
-                          QStringLiteral("disable prepopulate"), QStringLiteral("disable selectConfig"),
-                          QStringLiteral("disable generateSOP"), QStringLiteral("disable onlyGenerateSOP"),
-                          QStringLiteral("setStatusToolTip: Processing may take a *very* long time...\n\n"
-                                         "The task is running on a background thread\n"
-                                         "so you can continue to use your computer\n(stop watching this)."),
-                          QStringLiteral("show separator"), QStringLiteral("grow to 696"),
-                          QStringLiteral("run starts")}));
-}
-
-void DropIntakeTest::startsNoRunInAWindowThatWasClosed()
-{
-    TestRun run;
-    ClosedHost host;
-    bool started = false;
-    prepareWindow({run.state, run.paths, host, run.jobs, run.uuids, run.delays},
-                  [&started] { started = true; });
-    QVERIFY(!started);
-    QCOMPARE(host.calls.last(), QStringLiteral("show separator"));
+    run.host.chosen.prepopulate = construct;
+    run.host.chosen.onlyGenerateSOP = onlyGenerate;
+    run.state.set(&RunState::LUTconstructionTag, QStringLiteral("0010,0020"));
+    beginRun(run.context, [&run] { run.host.calls.append(QStringLiteral("run starts")); });
+    QCOMPARE(run.host.calls, QStringList({call, QStringLiteral("run starts")}));
 }
 
 } // namespace dravolin::test

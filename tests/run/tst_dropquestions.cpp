@@ -9,22 +9,10 @@ namespace dravolin::test {
 namespace {
 
 const QString validRoot = QStringLiteral("1.2.826.0.1.3680043.10.1234");
-const QString uidAlert = QStringLiteral(
-    "alert: Study Instance UID would be invalid|The combination of the CaseID and the UID root would "
-    "result in the creation of an invalid Study Instance UID.\nThis is now allowed.\n\nOnly digits "
-    "and '.' are allowed, and the total maximum length is 64 characters.\n|OK|");
-const QString largeDropAlert = QStringLiteral("alert: Large number of individual files dropped|You dropped a "
-                                              "large number of individual files: processing is "
-                                              "faster if you drop the enclosing folder.\n\nIf this enclosing "
-                                              "folder contains subfolders that should not be "
-                                              "anonymized, consider temporarily placing the individual files "
-                                              "in a new folder and drop that.\n\nContinue with "
-                                              "dropped files?\n|No, I'll retry|Yes, get on with it!");
-const QString overwriteAlert = QStringLiteral(
-    "alert: About to anonymize your data|Your source data will be overwritten. Continue?|No, Cancel|"
-    "Ok, Overwrite source data");
-const QStringList validCheck = {QStringLiteral("setText uidRoot: ") + validRoot,
-                                QStringLiteral("setRootValidity: UID may be valid")};
+const QString uidAlert = QStringLiteral("refuse InvalidStudyInstanceUid: ");
+const QString largeDropAlert = QStringLiteral("ask LargeDrop");
+const QString overwriteAlert = QStringLiteral("ask OverwriteSource");
+const QStringList validCheck = {rootCall(validRoot)};
 
 QStringList fileNames(qsizetype count)
 {
@@ -38,11 +26,11 @@ QStringList fileNames(qsizetype count)
 class FickleHost : public RecordingHost
 {
 public:
-    AlertButton runModalAlert(const ModalAlert &alert) override
+    [[nodiscard]] bool ask(Question question) override
     {
-        checkStates[CheckBox::OverwriteSource] = Qt::Unchecked;
-        lut = {2, QStringLiteral("Other")};
-        return RecordingHost::runModalAlert(alert);
+        chosen.overwriteSource = Qt::Unchecked;
+        chosen.table = QStringLiteral("Other");
+        return RecordingHost::ask(question);
     }
 };
 
@@ -64,7 +52,6 @@ private Q_SLOTS:
     void stopsWhenTheReplacedRootIsBadToo();
     void asksInOrderAndStopsAtTheFirstNo_data();
     void asksInOrderAndStopsAtTheFirstNo();
-    void everyQuestionIsEscapedByItsDefaultButton();
     void keepsAskingAboutOverwritingWhenConstructing();
     void anEmptyDropIsARunWithItsQuestions();
 };
@@ -87,9 +74,9 @@ void DropQuestionsTest::asksAboutManyFilesOnlyWithoutAFolder()
     QFETCH(bool, withFolder);
     QFETCH(bool, large);
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
+    run.host.fields.uidRoot = validRoot;
     if (large)
-        run.host.answers = {AlertButton::Alternate};
+        run.host.answers = {true};
     QStringList paths = fileNames(files);
     if (withFolder)
         paths.insert(files / 2, run.makeFolder(QStringLiteral("folder")));
@@ -116,10 +103,10 @@ void DropQuestionsTest::backupsAreMadeUnlessTheSourcesAreOverwritten()
     QFETCH(Qt::CheckState, overwrite);
     QFETCH(QStringList, questions);
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = overwrite;
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.overwriteSource = overwrite;
     if (!questions.isEmpty())
-        run.host.answers = {AlertButton::Alternate};
+        run.host.answers = {true};
 
     const std::optional<Drop> drop = takeDrop(run.context, fileNames(1));
 
@@ -132,14 +119,14 @@ void DropQuestionsTest::readsTheChoicesBeforeAnyQuestion()
 {
     TestRun run;
     FickleHost host;
-    host.texts[TextField::UidRoot] = validRoot;
-    host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
-    host.lut = {1, QStringLiteral("Site")};
-    host.answers = {AlertButton::Alternate, AlertButton::Alternate};
+    host.fields.uidRoot = validRoot;
+    host.chosen.overwriteSource = Qt::Checked;
+    host.chosen.table = QStringLiteral("Site");
+    host.answers = {true, true};
     run.state.set(&RunState::allLUTsPaths,
                   TitleToPath{{QStringLiteral("Site"), QStringLiteral("/t/site")},
                               {QStringLiteral("Other"), QStringLiteral("/t/other")}});
-    const RunContext context = {run.state, run.paths, host, run.jobs, run.uuids, run.delays};
+    const RunContext context = {run.state, run.paths, host, run.jobs, run.uuids};
 
     const std::optional<Drop> drop = takeDrop(context, fileNames(513));
 
@@ -152,18 +139,20 @@ void DropQuestionsTest::readsTheChoicesBeforeAnyQuestion()
 
 void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen_data()
 {
-    QTest::addColumn<CheckBox>("box");
-    QTest::newRow("construction") << CheckBox::Prepopulate;
-    QTest::newRow("generate") << CheckBox::GenerateSOP;
-    QTest::newRow("only generate") << CheckBox::OnlyGenerateSOP;
+    QTest::addColumn<int>("kind");
+    QTest::newRow("construction") << 0;
+    QTest::newRow("generate") << 1;
+    QTest::newRow("only generate") << 2;
 }
 
 void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen()
 {
-    QFETCH(CheckBox, box);
+    QFETCH(int, kind);
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[box] = Qt::Checked;
+    run.host.fields.uidRoot = validRoot;
+    constexpr Qt::CheckState Choices::*boxes[] = {&Choices::prepopulate, &Choices::generateSOP,
+                                                  &Choices::onlyGenerateSOP};
+    run.host.chosen.*boxes[kind] = Qt::Checked;
     QVERIFY(takeDrop(run.context, fileNames(1)));
     QCOMPARE(run.host.calls, validCheck);
 }
@@ -171,47 +160,40 @@ void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen()
 void DropQuestionsTest::replacesABadRootOnceAndGoesOn()
 {
     TestRun run;
-    run.host.texts[TextField::UidRoot] = QStringLiteral(" 1.2.3 ");
+    run.host.fields.uidRoot = QStringLiteral(" 1.2.3 ");
     run.uuids.uuids = {QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF")};
     const QString newRoot = QStringLiteral("2.25.340282366920938463463374607431768211455");
 
     QVERIFY(takeDrop(run.context, fileNames(1)));
 
-    const QString set = QStringLiteral("setText uidRoot: ");
-    const QString valid = QStringLiteral("setRootValidity: UID may be valid");
-    QCOMPARE(run.host.calls,
-             QStringList({set + QStringLiteral("1.2.3"),
-                          QStringLiteral("setRootValidity: Root is invalid, will be replaced"), set + newRoot,
-                          set + newRoot, valid, set + newRoot, valid})); // the generation checks, too
+    QCOMPARE(run.host.calls, QStringList({rootCall(QStringLiteral("1.2.3"), false), rootCall(newRoot),
+                                          rootCall(newRoot)})); // the generation checks, too
     QCOMPARE(run.uuids.uuids, QStringList());
 }
 
 void DropQuestionsTest::stopsWhenTheReplacedRootIsBadToo()
 {
     TestRun run;
-    run.host.texts[TextField::CaseId] = QStringLiteral("12a"); // no root fits this one
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
+    run.host.fields.caseId = QStringLiteral("12a"); // no root fits this one
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.overwriteSource = Qt::Checked;
     run.uuids.uuids = {QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF")};
-    run.host.answers = {AlertButton::Default};
 
     QVERIFY(!takeDrop(run.context, fileNames(513)));
 
-    const QString set = QStringLiteral("setText uidRoot: ");
-    const QString invalid = QStringLiteral("setRootValidity: Root is invalid, will be replaced");
     const QString newRoot = QStringLiteral("2.25.340282366920938463463374607431768211455");
-    QCOMPARE(run.host.calls, QStringList({set + validRoot, invalid, set + newRoot, set + newRoot, invalid,
-                                          set + newRoot, invalid, uidAlert}));
+    QCOMPARE(run.host.calls, QStringList({rootCall(validRoot, false), rootCall(newRoot, false),
+                                          rootCall(newRoot, false), uidAlert}));
     QVERIFY(run.jobs.jobs.isEmpty());
 }
 
 void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo_data()
 {
-    QTest::addColumn<QList<AlertButton>>("answers");
+    QTest::addColumn<QList<bool>>("answers");
     QTest::addColumn<QStringList>("questions");
     QTest::addColumn<bool>("starts");
-    const AlertButton no = AlertButton::Default;
-    const AlertButton yes = AlertButton::Alternate;
+    const bool no = false;
+    const bool yes = true;
     QTest::newRow("retry") << QList{no} << QStringList{largeDropAlert} << false;
     QTest::newRow("get on, cancel") << QList{yes, no} << QStringList{largeDropAlert, overwriteAlert} << false;
     QTest::newRow("get on, overwrite")
@@ -221,10 +203,10 @@ void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo_data()
 void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo()
 {
     QFETCH(QStringList, questions);
-    QFETCH(QList<AlertButton>, answers);
+    QFETCH(QList<bool>, answers);
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.overwriteSource = Qt::Checked;
     run.host.answers = answers;
 
     const bool starts = takeDrop(run.context, fileNames(513)).has_value();
@@ -234,29 +216,13 @@ void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo()
     QVERIFY(run.host.answers.isEmpty());
 }
 
-void DropQuestionsTest::everyQuestionIsEscapedByItsDefaultButton()
-{
-    TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
-    run.host.answers = {AlertButton::Alternate, AlertButton::Alternate, AlertButton::Default};
-    run.uuids.uuids = {QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF")};
-    QVERIFY(takeDrop(run.context, fileNames(513)));
-    run.host.texts[TextField::CaseId] = QStringLiteral("12a");
-    QVERIFY(!takeDrop(run.context, fileNames(513)));
-
-    QCOMPARE(run.host.alerts.size(), 3);
-    for (const ModalAlert &alert : std::as_const(run.host.alerts))
-        QCOMPARE(alert.escape, AlertButton::Default);
-}
-
 void DropQuestionsTest::keepsAskingAboutOverwritingWhenConstructing()
 {
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
-    run.host.checkStates[CheckBox::Prepopulate] = Qt::Checked;
-    run.host.answers = {AlertButton::Alternate};
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.overwriteSource = Qt::Checked;
+    run.host.chosen.prepopulate = Qt::Checked;
+    run.host.answers = {true};
     QVERIFY(takeDrop(run.context, fileNames(1)));
     QCOMPARE(run.host.calls, validCheck + QStringList(overwriteAlert));
 }
@@ -264,9 +230,9 @@ void DropQuestionsTest::keepsAskingAboutOverwritingWhenConstructing()
 void DropQuestionsTest::anEmptyDropIsARunWithItsQuestions()
 {
     TestRun run;
-    run.host.texts[TextField::UidRoot] = validRoot;
-    run.host.checkStates[CheckBox::OverwriteSource] = Qt::Checked;
-    run.host.answers = {AlertButton::Alternate};
+    run.host.fields.uidRoot = validRoot;
+    run.host.chosen.overwriteSource = Qt::Checked;
+    run.host.answers = {true};
 
     const std::optional<Drop> drop = takeDrop(run.context, {});
 

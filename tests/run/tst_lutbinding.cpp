@@ -12,14 +12,10 @@ namespace dravolin::test {
 namespace {
 
 const QString tag = QStringLiteral("0010,1000");
-const QString noMarker = str("Your configuration file provided no tags matching the selected LUT!");
-const QString notParsed = str("LUT file found, but not successfully parsed.");
-const QString extraText = str("\n\nYou should implement the <missing> value for the <old_value> field."
-                              "\n\n(See the example file in the Application Bundle)");
 
-QString sheetCall(const QString &message, const QString &informativeText)
+QString refusal(Refusal reason, const QString &table)
 {
-    return QStringLiteral("sheet: ") + message + u'|' + informativeText + QStringLiteral("|Retry Drop|Quit");
+    return QStringLiteral("refuse %1: %2").arg(nameOf(reason), table);
 }
 
 } // namespace
@@ -42,7 +38,6 @@ private Q_SLOTS:
     void filesThatPass_data();
     void filesThatPass();
     void refusalLeavesTheRulesAsTheyAre();
-    void sheetClosesTheWindowOnQuitAlone();
     void namesAreNoPlaceholders();
     void keepsTheOldTableWhenAFileCannotBeRead_data();
     void keepsTheOldTableWhenAFileCannotBeRead();
@@ -125,8 +120,11 @@ void LutBindingTest::marksAreComparedWhole()
     m_values[tag] = marker;
     m_run->state.set(&RunState::newValueDict, m_values);
     select(str("Site"), "<missing>\tX\n");
+    const LutTable old = {{str("old"), str("table")}};
+    m_run->state.set(&RunState::selectedLUTdict, old);
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls, QStringList(sheetCall(noMarker, str("\nSelected LUT: Site\n\n\n"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(Refusal::NoTagForTable, str("Site"))));
+    QCOMPARE(m_run->state.get(&RunState::selectedLUTdict), old); // the file was not read
 }
 
 void LutBindingTest::aMissingMarkerIsReportedBeforeABadFile()
@@ -137,7 +135,7 @@ void LutBindingTest::aMissingMarkerIsReportedBeforeABadFile()
     m_options.selectedLUT = str("Site");
     m_options.selectedLUTpath = m_run->path(str("missing.txt"));
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls, QStringList(sheetCall(noMarker, str("\nSelected LUT: Site\n\n\n"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(Refusal::NoTagForTable, str("Site"))));
     QCOMPARE(m_run->state.get(&RunState::usingLUT), false);
     QCOMPARE(m_run->state.get(&RunState::selectedLUTdict), (LutTable{{str("old"), str("table")}}));
     QCOMPARE(m_options.theLUTtag, std::nullopt);
@@ -146,25 +144,26 @@ void LutBindingTest::aMissingMarkerIsReportedBeforeABadFile()
 void LutBindingTest::filesWithoutATableAreRefused_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("extra");
-    QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("not UTF-8") << QByteArray("<missing>\tX\nM\xFCller\tS1\n") << QString();
-    QTest::newRow("comments alone") << QByteArray("# <missing>\tX\n") << QString();
-    QTest::newRow("one-field lines alone") << QByteArray("<missing>\nA\n") << QString();
-    QTest::newRow("without <missing>") << QByteArray("A\tB\n") << extraText;
-    QTest::newRow("<missing> in another case") << QByteArray("<Missing>\tX\n") << extraText;
-    QTest::newRow("<missing> without a text") << QByteArray("<missing>\nA\tB\n") << extraText;
+    QTest::addColumn<int>("reason");
+    const int unreadable = static_cast<int>(Refusal::TableUnreadable);
+    const int withoutMissing = static_cast<int>(Refusal::TableWithoutMissing);
+    QTest::newRow("empty") << QByteArray() << unreadable;
+    QTest::newRow("not UTF-8") << QByteArray("<missing>\tX\nM\xFCller\tS1\n") << unreadable;
+    QTest::newRow("comments alone") << QByteArray("# <missing>\tX\n") << unreadable;
+    QTest::newRow("one-field lines alone") << QByteArray("<missing>\nA\n") << unreadable;
+    QTest::newRow("without <missing>") << QByteArray("A\tB\n") << withoutMissing;
+    QTest::newRow("<missing> in another case") << QByteArray("<Missing>\tX\n") << withoutMissing;
+    QTest::newRow("<missing> without a text") << QByteArray("<missing>\nA\tB\n") << withoutMissing;
 }
 
 void LutBindingTest::filesWithoutATableAreRefused()
 {
     QFETCH(QByteArray, content);
-    QFETCH(QString, extra);
+    QFETCH(int, reason);
     m_run->state.set(&RunState::usingLUT, true);
     select(str("Site"), content);
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls,
-             QStringList(sheetCall(notParsed, str("\nSelected LUT: Site") + extra + str("\n\n\n"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(static_cast<Refusal>(reason), str("Site"))));
     QCOMPARE(m_run->state.get(&RunState::usingLUT), false);
     QCOMPARE(m_options.theLUTtag, std::nullopt);
 }
@@ -196,32 +195,13 @@ void LutBindingTest::refusalLeavesTheRulesAsTheyAre()
     }
 }
 
-void LutBindingTest::sheetClosesTheWindowOnQuitAlone()
-{
-    select(str("Site"), QByteArray());
-    QVERIFY(!bindTable(m_run->context, m_options));
-    select(str("None"), QByteArray());
-    QVERIFY(!bindTable(m_run->context, m_options));
-    m_run->host.calls.clear();
-    for (const AlertSheet &sheet : std::as_const(m_run->host.sheets)) {
-        QCOMPARE(sheet.escape, AlertSheet::firstButton);
-        sheet.completion(AlertSheet::firstButton);
-        QCOMPARE(m_run->host.calls, QStringList());
-        sheet.completion(AlertSheet::secondButton);
-        QCOMPARE(m_run->host.calls, QStringList(str("close")));
-        m_run->host.calls.clear();
-    }
-    QCOMPARE(m_run->host.sheets.size(), 2);
-}
-
 void LutBindingTest::namesAreNoPlaceholders()
 {
     m_values[tag] = str("<LUT_%2 %1>");
     m_run->state.set(&RunState::newValueDict, m_values);
     select(str("%2 %1"), "A\tB\n");
     QVERIFY(!bindTable(m_run->context, m_options));
-    QCOMPARE(m_run->host.calls,
-             QStringList(sheetCall(notParsed, str("\nSelected LUT: %2 %1") + extraText + str("\n\n\n"))));
+    QCOMPARE(m_run->host.calls, QStringList(refusal(Refusal::TableWithoutMissing, str("%2 %1"))));
 }
 
 void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead_data()

@@ -15,7 +15,7 @@ const QString tag = QStringLiteral("0010,1000");
 
 QString propagating(int done, int all)
 {
-    return QStringLiteral("setStatus: \nPropagating LUT tag... %1/%2 folders").arg(done).arg(all);
+    return QStringLiteral("propagated %1/%2 folders").arg(done).arg(all);
 }
 
 } // namespace
@@ -49,8 +49,8 @@ private:
     {
         return joinPath(m_run->paths.desktopFolder, name);
     }
-    template <typename Field>
-    [[nodiscard]] Field state(Field RunState::*field) const
+    template <typename Part, typename Field>
+    [[nodiscard]] Field state(Field Part::*field) const
     {
         return m_run->state.get(field);
     }
@@ -88,7 +88,7 @@ void LutStepsTest::refreshFillsThePopUp()
                                   {QString(), m_run->writeFile(str("app/AnonymizationLUT_.txt"))}};
     refreshTables(m_run->context);
     QCOMPARE(state(&RunState::allLUTsPaths), expected);
-    QCOMPARE(m_run->host.calls, QStringList(str("setLUTTitles: |A|B")));
+    QCOMPARE(m_run->host.calls, QStringList(str("tables: |A|B")));
 }
 
 void LutStepsTest::refreshWithoutTablesSaysSo()
@@ -96,7 +96,7 @@ void LutStepsTest::refreshWithoutTablesSaysSo()
     m_run->state.set(&RunState::allLUTsPaths, TitleToPath{{str("old"), str("path")}});
     refreshTables(m_run->context);
     QCOMPARE(state(&RunState::allLUTsPaths), TitleToPath());
-    QCOMPARE(m_run->host.calls, QStringList(str("setLUTTitles: ")));
+    QCOMPARE(m_run->host.calls, QStringList(str("tables: ")));
 }
 
 void LutStepsTest::constructionTakesFoldersThenFiles()
@@ -109,7 +109,7 @@ void LutStepsTest::constructionTakesFoldersThenFiles()
                    m_options);
     QCOMPARE(m_run->jobs.folders(), (QStringList{two, one, three}));
     QCOMPARE(state(&RunState::LUTtagSet), (QSet<QString>{str("A"), str("B"), str("C")}));
-    QCOMPARE(m_run->host.calls, QStringList(str("setLUTTitles: XX"))); // no status text, no progress
+    QCOMPARE(m_run->host.calls, QStringList(str("tables: XX"))); // no status text, no progress
 }
 
 void LutStepsTest::constructionCountsWhatWasDropped_data()
@@ -163,7 +163,7 @@ void LutStepsTest::constructionWritesAndOffersTheTable()
     const QString path = desktopPath(str("AnonymizationLUT_Site.txt"));
     QCOMPARE(readText(path), lutText(tag, {str("A"), str("b")}));
     QCOMPARE(state(&RunState::allLUTsPaths), (TitleToPath{{str("Site"), path}}));
-    QCOMPARE(m_run->host.calls, QStringList(str("setLUTTitles: Site")));
+    QCOMPARE(m_run->host.calls, QStringList(str("tables: Site")));
 }
 
 void LutStepsTest::constructionOffersTheNumberedTable()
@@ -174,7 +174,7 @@ void LutStepsTest::constructionOffersTheNumberedTable()
     constructTable(m_run->context, {}, {}, m_options);
     QCOMPARE(state(&RunState::allLUTsPaths).value(str("PatientID2")),
              desktopPath(str("AnonymizationLUT_PatientID2.txt")));
-    QCOMPARE(m_run->host.calls, QStringList(str("setLUTTitles: PatientID|PatientID1|PatientID2")));
+    QCOMPARE(m_run->host.calls, QStringList(str("tables: PatientID|PatientID1|PatientID2")));
 }
 
 void LutStepsTest::constructionWritesAlsoAfterFailures()
@@ -203,11 +203,10 @@ void LutStepsTest::propagationShowsItsProgress()
     m_run->writeFile(str("data/two/b"));
     m_run->state.set(&RunState::totalFolders, quint64(3));
     propagateTable(m_run->context, {one, two}, {}, m_options);
-    QCOMPARE(
-        m_run->host.calls,
-        (QStringList{str("stop spinning"), str("setProgress: 0"), str("show progress"), propagating(0, 3),
-                     str("setProgress: 100"), propagating(1, 3), str("setProgress: 100"), propagating(2, 3),
-                     propagating(2, 3), str("setProgress: 100"), propagating(3, 3), str("hide progress")}));
+    QCOMPARE(m_run->host.calls,
+             (QStringList{str("propagation begins"), propagating(0, 3), str("file 1/1"), propagating(1, 3),
+                          str("file 1/1"), propagating(2, 3), propagating(2, 3), str("file 1/1"),
+                          propagating(3, 3), str("propagation ends")}));
     QCOMPARE(m_run->jobs.folders(), (QStringList{joinPath(one, str("sub")), two}));
     QCOMPARE(state(&RunState::numLUTskippedFiles), 2U);
 }
@@ -220,10 +219,8 @@ void LutStepsTest::propagationTakesFilesInTheFirstOnesFolder()
     m_run->state.set(&RunState::totalFolders, quint64(2));
     propagateTable(m_run->context, {one}, {m_run->path(str("data/two/a")), str("/elsewhere/b")}, m_options);
     QCOMPARE(m_run->jobs.folders(), QStringList(2, m_run->path(str("data/two"))));
-    QCOMPARE(m_run->host.calls,
-             (QStringList{str("stop spinning"), str("setProgress: 0"), str("show progress"),
-                          propagating(0, 2), propagating(1, 2), str("setProgress: 50"),
-                          str("setProgress: 100"), str("hide progress")}));
+    QCOMPARE(m_run->host.calls, (QStringList{str("propagation begins"), propagating(0, 2), propagating(1, 2),
+                                             str("file 1/2"), str("file 2/2"), str("propagation ends")}));
     QCOMPARE(state(&RunState::folderCount), 1U); // the files have no part in it
 }
 
@@ -249,19 +246,17 @@ void LutStepsTest::propagationAddsErrorsAndGoesOn()
     m_run->jobs.answer = [&](const Job &job) {
         return job.folder == one ? JobResult{JobOutcome::NoPipe, {}} : JobResult{JobOutcome::Ran, {}};
     };
-    m_run->host.answers = {AlertButton::Alternate, AlertButton::Default};
     const LogCatcher log;
     propagateTable(m_run->context, {one, two}, {m_run->path(str("data/one/a"))}, m_options);
     QCOMPARE(state(&RunState::errCount), 2U);
     QCOMPARE(m_run->jobs.folders(), (QStringList{one, two, one}));
-    QCOMPARE(m_run->host.calls.last(), str("hide progress"));
+    QCOMPARE(m_run->host.calls.last(), str("propagation ends"));
 }
 
 void LutStepsTest::propagationOfNothing()
 {
     propagateTable(m_run->context, {}, {}, m_options);
-    QCOMPARE(m_run->host.calls, (QStringList{str("stop spinning"), str("setProgress: 0"),
-                                             str("show progress"), str("hide progress")}));
+    QCOMPARE(m_run->host.calls, (QStringList{str("propagation begins"), str("propagation ends")}));
 }
 
 } // namespace dravolin::test

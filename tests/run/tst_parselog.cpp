@@ -1,7 +1,7 @@
 #include "RunTrace.h"
 #include "support/TestEntry.h"
 
-#include "run/OutputAnalysis.h"
+#include "run/RunDriver.h"
 
 #include <QTest>
 
@@ -12,16 +12,15 @@ class ParseLogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheSummaryAndRestoresTheControls_data();
-    void showsTheSummaryAndRestoresTheControls();
-    void schedulesTheLogWindowBeforeTheSummary();
-    void theTablePopUpIsEnabledOnlyWithTables();
+    void tellsTheSummary_data();
+    void tellsTheSummary();
+    void tellsTheLogText();
     void resetsTheCountersOfTheRun();
     void keepsWhatOutlivesTheRun();
-    void theSummaryWaitsHalfASecond();
+    void givesBackWhatItTold();
 };
 
-void ParseLogTest::showsTheSummaryAndRestoresTheControls_data()
+void ParseLogTest::tellsTheSummary_data()
 {
     QTest::addColumn<Qt::CheckState>("construct");
     QTest::addColumn<bool>("usingLUT");
@@ -33,13 +32,13 @@ void ParseLogTest::showsTheSummaryAndRestoresTheControls_data()
                                  << str("Done!\nLUT tag propagated to 7 files.\nSkipped 1 DICOM file.");
 }
 
-void ParseLogTest::showsTheSummaryAndRestoresTheControls()
+void ParseLogTest::tellsTheSummary()
 {
     QFETCH(Qt::CheckState, construct);
     QFETCH(bool, usingLUT);
     QFETCH(QString, summary);
     TestRun run;
-    run.host.checkStates[CheckBox::Prepopulate] = construct;
+    run.host.chosen.prepopulate = construct;
     run.state.set(&RunState::usingLUT, usingLUT);
     run.state.set(&RunState::numLUTadaptedFiles, quint64(7));
     run.state.set(&RunState::numLUTskippedFiles, quint64(1));
@@ -48,26 +47,14 @@ void ParseLogTest::showsTheSummaryAndRestoresTheControls()
     QCOMPARE(run.host.calls, endCalls(summary));
 }
 
-void ParseLogTest::schedulesTheLogWindowBeforeTheSummary()
+void ParseLogTest::tellsTheLogText()
 {
     TestRun run;
     run.state.set(&RunState::output,
                   str("E: modifying tag in file a.dcm: Corrupted data\nE: There was 1 error\n"));
     parseLog(run.context);
-    QCOMPARE(run.host.calls,
-             QStringList(str("log window: E: modifying tag in file a.dcm: Corrupted data\n\n")) +
-                 endCalls(str("\nDone. 1 file with errors.")));
-}
-
-void ParseLogTest::theTablePopUpIsEnabledOnlyWithTables()
-{
-    TestRun run;
-    parseLog(run.context);
-    QCOMPARE(run.host.calls, endCalls(str("\nDone!"), false));
-    run.host.calls.clear();
-    run.state.set(&RunState::allLUTsPaths, TitleToPath{{str("Site"), str("/t/site")}});
-    parseLog(run.context);
-    QCOMPARE(run.host.calls, endCalls(str("\nDone!"), true));
+    QCOMPARE(run.host.calls, endCalls(str("\nDone. 1 file with errors."),
+                                      str("E: modifying tag in file a.dcm: Corrupted data\n\n")));
 }
 
 void ParseLogTest::resetsTheCountersOfTheRun()
@@ -119,16 +106,26 @@ void ParseLogTest::keepsWhatOutlivesTheRun()
         QCOMPARE(state.newValueDict, (NewValueDict{{str("0010,0020"), str("x")}}));
         QCOMPARE(state.selectedLUTdict, (LutTable{{str("a"), str("b")}}));
     });
-    QCOMPARE(run.host.calls.last(endCalls(QString()).size()), endCalls(str("\nDone, with 0 errors.")));
+    QCOMPARE(run.host.judgements.last().summary, str("\nDone, with 0 errors."));
 }
 
-void ParseLogTest::theSummaryWaitsHalfASecond()
+void ParseLogTest::givesBackWhatItTold()
 {
-    const Delays delays;
-    QCOMPARE(delays.beforeSummary, 500);
-    QCOMPARE(delays.beforeLogWindow, 510); // just behind the summary
-    QCOMPARE(delays.windowGrowth, 250);
-    QCOMPARE(delays.beforeConfigurationScan, 250);
+    TestRun run;
+    const JobTally jobs = {.ran = 3, .couldNotStart = 1, .exitStatuses = {{0, 2}, {139, 1}}};
+    run.state.update([&jobs](RunState &state) {
+        state.output = str("E: bad\n");
+        state.errCount = 1;
+        state.jobs = jobs;
+    });
+    const RunJudgement judgement = parseLog(run.context);
+    QCOMPARE(judgement.summary, str("\nDone, with 1 error."));
+    QCOMPARE(judgement.logText, str("E: bad\n\n"));
+    QCOMPARE(judgement.wantsLogWindow, true);
+    QCOMPARE(judgement.refused, true);
+    QVERIFY(judgement.jobs == jobs);
+    QVERIFY(run.host.judgements.last().jobs == jobs);
+    QVERIFY(run.state.get(&RunState::jobs) == JobTally());
 }
 
 } // namespace dravolin::test

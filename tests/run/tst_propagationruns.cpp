@@ -11,10 +11,10 @@ namespace {
 
 QString propagating(int done, int all)
 {
-    return QStringLiteral("setStatus: \nPropagating LUT tag... %1/%2 folders").arg(done).arg(all);
+    return QStringLiteral("propagated %1/%2 folders").arg(done).arg(all);
 }
 
-const QString refused = str("setStatus: Done...\nEncountered 1 error.\nSee messages logged to console.");
+const QString refused = str("Done...\nEncountered 1 error.\nSee messages logged to console.");
 
 } // namespace
 
@@ -40,7 +40,7 @@ private Q_SLOTS:
 void PropagationRunsTest::propagatesAfterAnonymizing()
 {
     TableRun run;
-    run.switchOn(CheckBox::OverwriteSource);
+    run.switchOn(&Choices::overwriteSource);
     const QString folder = run.makeFolder(str("in"));
     run.file(str("in/a"), "PAT123");
     const QString other = run.file(str("files/b"), "PHANTOM");
@@ -52,17 +52,15 @@ void PropagationRunsTest::propagatesAfterAnonymizing()
                                              str("job ~/in"),
                                              status(1, 2),
                                              str("job ~/files"),
-                                             str("stop spinning"),
-                                             str("setProgress: 0"),
-                                             str("show progress"),
+                                             str("propagation begins"),
                                              propagating(0, 2),
-                                             str("setProgress: 100"),
+                                             str("file 1/1"),
                                              str("search a"),
                                              str("job ~/in"),
                                              propagating(1, 2),
-                                             str("setProgress: 100"),
+                                             str("file 1/1"),
                                              str("search b"),
-                                             str("hide progress"),
+                                             str("propagation ends"),
                                              str("find ~/in")} +
                                  endCalls(str("Done!\nLUT tag propagated to 1 file.\nSkipped 1 DICOM file."));
     QCOMPARE(run.host.calls, expected);
@@ -86,7 +84,7 @@ void PropagationRunsTest::bindingNothingButItsAttributeStillPropagates()
     QCOMPARE(run.state.get(&RunState::allTagsToAnonymize),
              (QStringList{str("0008,0050"), str("0010,0010"), str("0010,0020"), str("0020,000d"),
                           str("0032,4000")}));
-    QCOMPARE(run.summary(), str("setStatus: Done!\nLUT tag propagated to 1 file.\nSkipped 0 DICOM files."));
+    QCOMPARE(run.summary(), str("Done!\nLUT tag propagated to 1 file.\nSkipped 0 DICOM files."));
 }
 
 void PropagationRunsTest::keepsErasingOtherMarkedAttributes()
@@ -120,7 +118,7 @@ void PropagationRunsTest::keepsTheSkippedFilesOfEarlierRuns()
     for (const int sum : {3, 6}) {
         Drop drop = run.dropWithTable({run.path(str("in"))}, {}, str("PHANTOM\t<skip>\n"));
         performRun(run.context, drop);
-        QCOMPARE(run.summary(), QStringLiteral("setStatus: Done!\nLUT tag propagated to 0 files.\n"
+        QCOMPARE(run.summary(), QStringLiteral("Done!\nLUT tag propagated to 0 files.\n"
                                                "Skipped %1 DICOM files.")
                                     .arg(sum));
     }
@@ -130,9 +128,13 @@ void PropagationRunsTest::refusedRunsTouchNothing_data()
 {
     QTest::addColumn<QString>("configuration");
     QTest::addColumn<QString>("table");
-    QTest::newRow("no marker") << str("0010,1000\tx\t<LUT_Other>\n") << str("<missing>\tX\n");
-    QTest::newRow("the table has vanished") << str("0010,1000\tx\t<LUT_Site>") << QString();
-    QTest::newRow("no <missing>") << str("0010,1000\tx\t<LUT_Site>") << str("A\tB\n");
+    QTest::addColumn<QString>("refusal");
+    QTest::newRow("no marker") << str("0010,1000\tx\t<LUT_Other>\n") << str("<missing>\tX\n")
+                               << str("refuse NoTagForTable: Site");
+    QTest::newRow("the table has vanished")
+        << str("0010,1000\tx\t<LUT_Site>") << QString() << str("refuse TableUnreadable: Site");
+    QTest::newRow("no <missing>") << str("0010,1000\tx\t<LUT_Site>") << str("A\tB\n")
+                                  << str("refuse TableWithoutMissing: Site");
 }
 
 void PropagationRunsTest::refusedRunsTouchNothing()
@@ -148,8 +150,9 @@ void PropagationRunsTest::refusedRunsTouchNothing()
         run.writeFile(str("home/Desktop/AnonymizationLUT_Site.txt"), table);
     performRun(run.context, drop);
     QVERIFY(run.jobs.jobs.isEmpty());
-    QCOMPARE(run.host.sheets.size(), 1);
-    QCOMPARE(run.host.calls.mid(loadCalls.size() + 1), QStringList(refused) + endCalls(QString()).mid(1));
+    QTEST(run.host.calls.at(loadCalls.size()), "refusal");
+    QCOMPARE(run.host.calls.mid(loadCalls.size() + 1), endCalls(refused));
+    QCOMPARE(run.host.judgements.last().refused, true);
     QCOMPARE(run.state.get(&RunState::usingLUT), false);
     QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
@@ -160,9 +163,7 @@ void PropagationRunsTest::fixedAttributesCannotBeBoundByAFile()
     run.configure(str("0010,0020\tPatient ID\t<LUT_Site>"));
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
     performRun(run.context, drop);
-    QCOMPARE(run.host.sheets.size(), 1);
-    QCOMPARE(run.host.sheets.first().message,
-             str("Your configuration file provided no tags matching the selected LUT!"));
+    QCOMPARE(run.host.calls.at(loadCalls.size()), str("refuse NoTagForTable: Site"));
     QCOMPARE(run.summary(), refused);
 }
 
@@ -170,7 +171,7 @@ void PropagationRunsTest::aMarkerTypedIntoTheWindowBinds()
 {
     TableRun run;
     run.configure(QString());
-    run.host.texts[TextField::Diagnosis] = str(" <LUT_Site>\t");
+    run.host.fields.diagnosis = str(" <LUT_Site>\t");
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
     performRun(run.context, drop);
     QCOMPARE(drop.options.theLUTtag, str("0010,0010"));
@@ -183,7 +184,7 @@ void PropagationRunsTest::aTableWithoutANameIsNone()
     drop.options.selectedLUT.clear();
     performRun(run.context, drop);
     QCOMPARE(run.state.get(&RunState::usingLUT), false);
-    QCOMPARE(run.host.calls.last(endCalls(QString()).size()), endCalls(str("\nDone!")));
+    QCOMPARE(run.host.calls.last(), endCall(str("\nDone!")));
     QCOMPARE(run.jobTexts().first(),
              TracedRun::scriptJob(str("~/in"),
                                   str(" -ie -imt -ea \"(0008,0050)\" -ea \"(0010,0010)\" -ea \"(0010,0020)\" "
@@ -197,7 +198,7 @@ void PropagationRunsTest::keepsPropagatingWhenOnlyGeneratingAfterwards()
     run.file(str("in/a"), "PHANTOM");
     Drop first = run.dropWithTable({run.path(str("in"))}, {}, str("PHANTOM\t<skip>\n"));
     performRun(run.context, first);
-    run.switchOn(CheckBox::OnlyGenerateSOP);
+    run.switchOn(&Choices::onlyGenerateSOP);
     run.found.clear(); // without an attribute the search finds nothing
     run.jobs.jobs.clear();
     run.host.calls.clear();
@@ -207,7 +208,7 @@ void PropagationRunsTest::keepsPropagatingWhenOnlyGeneratingAfterwards()
              (QStringList{TracedRun::scriptJob(str("~/in"), str(" -ie -imt * >.noxTemp.out 2>&1")),
                           str("~/app/resources/dcmdump -M -Un +E -s --search  a\nin ~/in\n"
                               "with DCMDICTPATH=~/app/resources/dicom.dic\npiped")}));
-    QCOMPARE(run.summary(), str("setStatus: Done!\nLUT tag propagated to 0 files.\nSkipped 1 DICOM file."));
+    QCOMPARE(run.summary(), str("Done!\nLUT tag propagated to 0 files.\nSkipped 1 DICOM file."));
 }
 
 void PropagationRunsTest::theLogHoldsTheCounts()
@@ -217,12 +218,10 @@ void PropagationRunsTest::theLogHoldsTheCounts()
     run.toolOutput[str("~/in")] = str("E: modifying tag in file a: x\nE: There was 1 error\n");
     Drop drop = run.dropWithTable({}, {file}, QString());
     performRun(run.context, drop);
-    const qsizetype end = endCalls(QString()).size();
-    QCOMPARE(
-        run.host.calls.last(end + 1),
-        QStringList(str("log window: E: modifying tag in file a: x\n\nE: modifying tag in file a: x\n\n\n\n"
-                        "LUT tag propagated to 1 file.\nSkipped 0 DICOM files.\n\n")) +
-            endCalls(str("\nDone. 2 files with errors.")));
+    QCOMPARE(run.host.calls.last(),
+             endCall(str("\nDone. 2 files with errors."),
+                     str("E: modifying tag in file a: x\n\nE: modifying tag in file a: x\n\n\n\n"
+                         "LUT tag propagated to 1 file.\nSkipped 0 DICOM files.\n\n")));
 }
 
 } // namespace dravolin::test

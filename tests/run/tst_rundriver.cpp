@@ -1,6 +1,7 @@
 #include "RunTrace.h"
 #include "support/TestEntry.h"
 
+#include "run/Configuration.h"
 #include "run/RunDriver.h"
 
 #include <QTest>
@@ -28,10 +29,10 @@ void RunDriverTest::anonymizesFoldersThenFilesAndSearchesDicomdirs()
 {
     TracedRun run;
     run.configure(str("0008,0080\tInstitution\tHidden Clinic\n0010,0030\tBirth Date\t..\n"));
-    run.host.texts[TextField::Diagnosis] = str(" Carcinoma ");
-    run.host.texts[TextField::CaseId] = str("0042");
-    run.host.texts[TextField::Credits] = str("Dr. A");
-    run.switchOn(CheckBox::OverwriteSource);
+    run.host.fields.diagnosis = str(" Carcinoma ");
+    run.host.fields.caseId = str("0042");
+    run.host.fields.credits = str("Dr. A");
+    run.switchOn(&Choices::overwriteSource);
     run.makeFolder(str("in/Zeta/Sub"));
     run.makeFolder(str("in/alpha"));
     run.writeFile(str("in/alpha/DICOMDIR"));
@@ -62,11 +63,11 @@ void RunDriverTest::anonymizesFoldersThenFilesAndSearchesDicomdirs()
              loadCalls +
                  QStringList({status(0, 4), str("job ~/in/Zeta/Sub"), status(1, 4), str("job ~/in/Zeta"),
                               status(2, 4), status(2, 4), str("job ~/in/alpha"), status(3, 4),
-                              str("job ~/in/Files"), str("find ~/in/Zeta"), str("find ~/in/alpha"),
-                              str("log window: E: two\n\nMind you: DICOMDIR files were found.\n"
-                                  "They do not contain DICOM tags to anonymize but still contain PHI:\n"
-                                  "./DICOMDIR\n./sub/DICOMDIR\n\n")}) +
-                 endCalls(str("\nDone. 18446744073709551615 files with errors.")));
+                              str("job ~/in/Files"), str("find ~/in/Zeta"), str("find ~/in/alpha")}) +
+                 endCalls(str("\nDone. 18446744073709551615 files with errors."),
+                          str("E: two\n\nMind you: DICOMDIR files were found.\n"
+                              "They do not contain DICOM tags to anonymize but still contain PHI:\n"
+                              "./DICOMDIR\n./sub/DICOMDIR\n\n")));
 }
 
 void RunDriverTest::loadsTheSelectedConfiguration_data()
@@ -93,7 +94,7 @@ void RunDriverTest::loadsTheSelectedConfiguration()
                     {str("MR"), run.writeFile(str("mr.txt"), str("0008,0001"))},
                     {str("Gone"), run.path(str("gone.txt"))},
                     {str("Bad"), run.writeFile(str("bad.txt"), str("0008,0002\n") + QChar(0xDCE9))}});
-    run.host.configTitle = title;
+    run.host.chosen.configuration = title;
     RunOptions options;
     QCOMPARE(processDroppedItems(run.context, {}, {}, options), quint64(0));
     QTEST(run.state.get(&RunState::allTagsToAnonymize), "tags");
@@ -105,7 +106,7 @@ void RunDriverTest::nothingOfAnEarlierLoadSurvives()
     TracedRun run;
     run.state.set(&RunState::allTagsToAnonymize, QStringList(str("0009,0009")));
     run.state.set(&RunState::newValueDict, NewValueDict{{str("0009,0009"), str("old")}});
-    run.host.texts[TextField::Keywords] = str("lung");
+    run.host.fields.keywords = str("lung");
 
     loadTagsToAnonymize(run.context,
                         run.writeFile(str("c.txt"), str("0010,0020\tID\tmine\n0008,0080\t\tA\n")));
@@ -124,14 +125,13 @@ void RunDriverTest::nothingOfAnEarlierLoadSurvives()
 void RunDriverTest::replacesABadRootForTheRunOnly()
 {
     TracedRun run;
-    run.host.texts[TextField::UidRoot] = str("1.2.3");
+    run.host.fields.uidRoot = str("1.2.3");
     run.uuids.uuids = {str("00000000-0000-0000-0000-00000000002A")};
     run.configure(QString());
     RunOptions options;
     QCOMPARE(processDroppedItems(run.context, {}, {}, options), quint64(0));
     QCOMPARE(run.state.get(&RunState::newValueDict).value(str("0020,000d")), str("2.25.42"));
-    QCOMPARE(run.host.calls, QStringList({str("setText uidRoot: 1.2.3"),
-                                          str("setRootValidity: Root is invalid, will be replaced")}));
+    QCOMPARE(run.host.calls, QStringList(rootCall(str("1.2.3"), false)));
 }
 
 void RunDriverTest::tagsThatLostTheirMarkerAreErased()

@@ -2,7 +2,6 @@
 #include "support/TestEntry.h"
 
 #include "base/Files.h"
-#include "run/OutputAnalysis.h"
 #include "run/RunDriver.h"
 
 #include <QTest>
@@ -12,14 +11,14 @@ namespace dravolin::test {
 
 namespace {
 
-// A window that closes while the first folder's text is on its way.
-class ClosingHost : public RecordingHost
+// Cancels while the first folder's progress is on its way.
+class CancellingHost : public RecordingHost
 {
 public:
-    void setStatus(const QString &text) override
+    void progress(const Progress &progress) override
     {
-        RecordingHost::setStatus(text);
-        throw WindowClosing();
+        RecordingHost::progress(progress);
+        throw RunCancelled();
     }
 };
 
@@ -49,10 +48,8 @@ private Q_SLOTS:
     void constructionNeitherAnonymizesNorSearches();
     void refusesAnEmptyTagList_data();
     void refusesAnEmptyTagList();
-    void aRefusalsAnswerQuits_data();
-    void aRefusalsAnswerQuits();
     void aRefusedRunEndsWithOneError();
-    void endsAtOnceWhenTheWindowCloses();
+    void endsAtOnceWhenItIsCancelled();
     void looksUpItsTexts();
 };
 
@@ -74,12 +71,12 @@ void RunKindsTest::onlyGeneratingReadsNoConfiguration()
     const LogCatcher log;
     TracedRun run;
     run.configure(str("0008,0080X\n0008,0080\tSite\t<LUT_Site>\n"));
-    run.host.texts[TextField::UidRoot] = str("bad"); // no run would compose with it silently
-    run.switchOn(CheckBox::OnlyGenerateSOP);
+    run.host.fields.uidRoot = str("bad"); // no run would compose with it silently
+    run.switchOn(&Choices::onlyGenerateSOP);
     if (generate)
-        run.switchOn(CheckBox::GenerateSOP);
+        run.switchOn(&Choices::generateSOP);
     if (overwrite)
-        run.switchOn(CheckBox::OverwriteSource);
+        run.switchOn(&Choices::overwriteSource);
     run.makeFolder(str("in"));
     run.makeFolder(str("files"));
     run.printed[str("~/in")] = "./DICOMDIR\n";
@@ -105,8 +102,8 @@ void RunKindsTest::keepsTheTagsOfTheLastRunWhenOnlyGenerating()
     const NewValueDict values = {{str("0010,0020"), str("ANON")}, {str("0010,0040"), str("<LUT_Sex>")}};
     run.state.set(&RunState::allTagsToAnonymize, tags);
     run.state.set(&RunState::newValueDict, values);
-    run.switchOn(CheckBox::OnlyGenerateSOP);
-    run.switchOn(CheckBox::GenerateSOP);
+    run.switchOn(&Choices::onlyGenerateSOP);
+    run.switchOn(&Choices::generateSOP);
     Drop drop = run.drop({run.makeFolder(str("in"))}, {});
 
     performRun(run.context, drop);
@@ -123,18 +120,18 @@ void RunKindsTest::keepsPropagatingWhenOnlyGenerating()
     TracedRun run;
     run.state.set(&RunState::usingLUT, true);
     run.state.set(&RunState::numLUTskippedFiles, quint64(2));
-    run.switchOn(CheckBox::OnlyGenerateSOP);
+    run.switchOn(&Choices::onlyGenerateSOP);
     Drop drop;
     performRun(run.context, drop);
     QCOMPARE(run.state.get(&RunState::usingLUT), true);
-    QCOMPARE(run.host.calls.last(endCalls(QString()).size()),
-             endCalls(str("Done!\nLUT tag propagated to 0 files.\nSkipped 2 DICOM files.")));
+    QCOMPARE(run.host.calls.last(),
+             endCall(str("Done!\nLUT tag propagated to 0 files.\nSkipped 2 DICOM files.")));
 }
 
 void RunKindsTest::onlyGeneratingCleansAndCountsLikeEveryRun()
 {
     TracedRun run;
-    run.switchOn(CheckBox::OnlyGenerateSOP);
+    run.switchOn(&Choices::onlyGenerateSOP);
     const QString stale = run.writeFile(str("in/Sub/.noxTemp.out"), str("E: stale\n"));
     Drop drop = run.drop({run.path(str("in"))}, {});
     performRun(run.context, drop);
@@ -149,7 +146,7 @@ void RunKindsTest::constructionNeitherAnonymizesNorSearches()
     TracedRun run;
     run.configure(str("0010,0020\tID\t<LUT_ID>\n"));
     run.state.set(&RunState::LUTconstructionTag, str("0010,0020"));
-    run.switchOn(CheckBox::Prepopulate);
+    run.switchOn(&Choices::prepopulate);
     run.makeFolder(str("in/Sub"));
     RunOptions options;
     QCOMPARE(processDroppedItems(run.context, {run.path(str("in"))}, {run.path(str("in/1"))}, options),
@@ -182,42 +179,8 @@ void RunKindsTest::refusesAnEmptyTagList()
     run.state.set(&RunState::allTagsToAnonymize, tags);
     run.state.set(&RunState::usingLUT, usingLUT);
     QCOMPARE(refusesEmptyTagList(run.context, str("/home/c %1.txt")), refused);
-    const QString sheet =
-        str("sheet: Your configuration file provided no tags to anonymize!|"
-            "\nPath: /home/c %1.txt\n\n\n|Save copy of default config to Desktop & Quit|Quit");
-    QCOMPARE(run.host.calls, refused ? QStringList(sheet) : QStringList());
-    if (refused)
-        QCOMPARE(run.host.sheets.first().escape, AlertSheet::secondButton);
-}
-
-void RunKindsTest::aRefusalsAnswerQuits_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QString>("before"); // on the desktop; empty: nothing
-    QTest::addColumn<QString>("after");
-    const QString fallback = str("0010,0010\tName\n");
-    const QString own = str("my own");
-    QTest::newRow("save and quit") << AlertSheet::firstButton << QString() << fallback;
-    QTest::newRow("save over an existing file fails silently") << AlertSheet::firstButton << own << own;
-    QTest::newRow("quit") << AlertSheet::secondButton << QString() << QString();
-}
-
-void RunKindsTest::aRefusalsAnswerQuits()
-{
-    QFETCH(int, button);
-    QFETCH(QString, before);
-    TestRun run;
-    run.writeFile(str("app/resources/DefaultAnonymizationConfiguration.txt"), str("0010,0010\tName\n"));
-    const QString copy = str("home/Desktop/AnonymizationConfiguration.txt");
-    if (!before.isEmpty())
-        run.writeFile(copy, before);
-    QVERIFY(refusesEmptyTagList(run.context, QString()));
-    run.host.calls.clear();
-
-    run.host.sheets.first().completion(button);
-
-    QTEST(readText(run.path(copy)).value_or(QString()), "after");
-    QCOMPARE(run.host.calls, QStringList(str("close")));
+    const QString refusal = str("refuse NoTags: /home/c %1.txt");
+    QCOMPARE(run.host.calls, refused ? QStringList(refusal) : QStringList());
 }
 
 void RunKindsTest::aRefusedRunEndsWithOneError()
@@ -231,16 +194,16 @@ void RunKindsTest::aRefusedRunEndsWithOneError()
     QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
 
-void RunKindsTest::endsAtOnceWhenTheWindowCloses()
+void RunKindsTest::endsAtOnceWhenItIsCancelled()
 {
     TracedRun run;
     run.configure(QString());
-    ClosingHost host;
-    host.texts = run.host.texts;
-    host.configTitle = run.host.configTitle;
+    CancellingHost host;
+    host.fields = run.host.fields;
+    host.chosen.configuration = run.host.chosen.configuration;
     Drop drop = run.drop({run.makeFolder(str("in"))}, {});
-    const RunContext context = {run.state, run.paths, host, run.jobs, run.uuids, run.delays};
-    QVERIFY_THROWS_EXCEPTION(WindowClosing, performRun(context, drop));
+    const RunContext context = {run.state, run.paths, host, run.jobs, run.uuids};
+    QVERIFY_THROWS_EXCEPTION(RunCancelled, performRun(context, drop));
     QCOMPARE(host.calls, loadCalls + QStringList(status(0, 1)));
     QCOMPARE(run.jobTexts(), QStringList());
 }
@@ -254,9 +217,7 @@ void RunKindsTest::looksUpItsTexts()
     Drop drop = run.drop({run.makeFolder(str("in"))}, {});
     performRun(run.context, drop);
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(run.host.calls.filter(str("setStatus: ")),
-             QStringList({str("setStatus: #\nWorking... 0/1 folders"),
-                          str("setStatus: #\nWorking... 1/1 folders"), str("setStatus: #\nDone!")}));
+    QCOMPARE(run.host.calls.last(), endCall(str("#\nDone!")));
 }
 
 } // namespace dravolin::test

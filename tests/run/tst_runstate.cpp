@@ -39,7 +39,7 @@ void TestRunState::beginsEmpty()
     QCOMPARE(state.LUTconstructionTag, QString());
     QVERIFY(state.allConfigPaths.isEmpty());
     QVERIFY(state.allLUTsPaths.isEmpty());
-    QCOMPARE(state.max_arg_len, 0x40000);
+    QCOMPARE(state.jobs, JobTally());
 }
 
 void TestRunState::getsSetsAddsAndUpdates()

@@ -1,6 +1,6 @@
-#include "run/jobs/RunState.h"
-#include "run/jobs/Script.h"
+#include "processing/FolderAnonymization.h"
 #include "support/TestEntry.h"
+#include "support/TestRun.h"
 
 #include <QTest>
 
@@ -106,10 +106,10 @@ void TestScript::namesFilesByTheirLastComponent()
 
 void TestScript::keepsTheRedirectionThatNoShellAccepts()
 {
-    QCOMPARE(appendingRedirections().only, only);
-    QCOMPARE(appendingRedirections().more, more);
-    QCOMPARE(appendingRedirections().last, last);
-    QCOMPARE(appendingRedirections().counted, suffixLength);
+    QCOMPARE(anonymizationRedirections().only, only);
+    QCOMPARE(anonymizationRedirections().more, more);
+    QCOMPARE(anonymizationRedirections().last, last);
+    QCOMPARE(anonymizationRedirections().counted, suffixLength);
 }
 
 void TestScript::oneCharacterDecidesBetweenOneLineAndSplitting_data()
@@ -130,19 +130,19 @@ void TestScript::oneCharacterDecidesBetweenOneLineAndSplitting()
     const QString prefix = prefixForTotal(total, files);
     const QString oneLine = prefix + files.at(0) + files.at(1) + only;
     const QString twoLines = prefix + files.at(0) + more + prefix + files.at(1) + last;
-    QCOMPARE(commandLines(prefix, files, appendingRedirections(), 100), split ? twoLines : oneLine);
+    QCOMPARE(commandLines(prefix, files, anonymizationRedirections(), 100), split ? twoLines : oneLine);
 }
 
 void TestScript::splitsAtTheProgramsOwnLimit()
 {
-    const qsizetype maximum = RunState().max_arg_len;
+    const qsizetype maximum = test::TestRun().context.max_arg_len;
     QCOMPARE(maximum, 262144);
     const QStringList files = arguments(4);
     const QString below = prefixForTotal(262143, files);
-    QCOMPARE(commandLines(below, files, appendingRedirections(), maximum),
+    QCOMPARE(commandLines(below, files, anonymizationRedirections(), maximum),
              below + files.join(QString()) + only);
     const QString at = prefixForTotal(262144, files);
-    QCOMPARE(commandLines(at, files, appendingRedirections(), maximum),
+    QCOMPARE(commandLines(at, files, anonymizationRedirections(), maximum),
              at + files.at(0) + files.at(1) + more + at + files.at(2) + files.at(3) + last);
 }
 
@@ -178,7 +178,7 @@ void TestScript::sharesFilesAmongLines()
         next += count;
     }
     expected.chop(1); // the last line ends without a newline
-    QCOMPARE(commandLines(prefix, list, appendingRedirections(), 100), expected);
+    QCOMPARE(commandLines(prefix, list, anonymizationRedirections(), 100), expected);
 }
 
 void TestScript::lengthsAreCodeUnits_data()
@@ -198,9 +198,10 @@ void TestScript::lengthsAreCodeUnits()
     const QStringList files = fileArguments({QStringLiteral("/data/") + character.repeated(10)});
     QCOMPARE(files.first().size(), 3 + 10 * units);
     const QString below = prefixOf(99 - suffixLength - 3 - 10 * units);
-    QCOMPARE(commandLines(below, files, appendingRedirections(), 100), below + files.first() + only);
+    QCOMPARE(commandLines(below, files, anonymizationRedirections(), 100), below + files.first() + only);
     const QString at = below + u'p';
-    QCOMPARE(commandLines(at, files, appendingRedirections(), 100), at + more + at + files.first() + last);
+    QCOMPARE(commandLines(at, files, anonymizationRedirections(), 100),
+             at + more + at + files.first() + last);
 }
 
 void TestScript::longPrefixMakesLongLines()
@@ -211,7 +212,7 @@ void TestScript::longPrefixMakesLongLines()
     for (const QString &file : files)
         expected += prefix + file + more;
     expected.chop(1);
-    QCOMPARE(commandLines(prefix, files, appendingRedirections(), 100), expected);
+    QCOMPARE(commandLines(prefix, files, anonymizationRedirections(), 100), expected);
 }
 
 DRAVOLIN_TEST(TestScript)

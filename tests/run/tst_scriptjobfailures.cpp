@@ -10,7 +10,6 @@
 
 #include <unistd.h>
 
-
 using namespace dravolin;
 using test::AsOrdinaryUser;
 using test::LogCatcher;

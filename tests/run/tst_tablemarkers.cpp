@@ -1,4 +1,4 @@
-#include "run/RunDriver.h"
+#include "run/Configuration.h"
 #include "support/TestEntry.h"
 
 #include <QTest>

@@ -7,20 +7,13 @@
 using namespace dravolin;
 using test::FixedUuidSource;
 using test::RecordingHost;
+using test::rootCall;
 
 namespace {
 
 const QString validRoot = QStringLiteral("1.2.12345678901234567890");
 const QString largestUuid = QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF");
 const QString largestRoot = QStringLiteral("2.25.340282366920938463463374607431768211455");
-const QString validLabel = QStringLiteral("setRootValidity: UID may be valid");
-const QString invalidLabel = QStringLiteral("setRootValidity: Root is invalid, will be replaced");
-
-QString rootSet(const QString &root)
-{
-    return QStringLiteral("setText uidRoot: ") + root;
-}
-
 } // namespace
 
 class TestUidRootFields : public QObject
@@ -36,8 +29,6 @@ private Q_SLOTS:
     void creationTakesANewUuidEachTime();
     void creationCuresARootButNotACaseId_data();
     void creationCuresARootButNotACaseId();
-    void filterRewritesAFieldOnlyWhenItGetsShorter_data();
-    void filterRewritesAFieldOnlyWhenItGetsShorter();
     void composesFromAValidRoot_data();
     void composesFromAValidRoot();
     void composesFromAFreshRootWhenTheFieldsIsInvalid_data();
@@ -47,7 +38,8 @@ private Q_SLOTS:
 private:
     void setFields(const QString &root, const QString &caseId)
     {
-        m_host.texts = {{TextField::UidRoot, root}, {TextField::CaseId, caseId}};
+        m_host.fields.uidRoot = root;
+        m_host.fields.caseId = caseId;
     }
     RecordingHost m_host;
     FixedUuidSource m_uuids;
@@ -56,7 +48,7 @@ private:
 void TestUidRootFields::init()
 {
     m_host.calls.clear();
-    m_host.texts.clear();
+    m_host.fields = {};
     m_uuids.uuids.clear();
 }
 
@@ -85,8 +77,8 @@ void TestUidRootFields::checkWritesTheRootBackAndSetsTheLabel()
     QFETCH(const QString, rootAfterwards);
     setFields(root, caseId);
     QCOMPARE(checkUidRoot(m_host), valid);
-    QCOMPARE(m_host.calls, QStringList({rootSet(rootAfterwards), valid ? validLabel : invalidLabel}));
-    QCOMPARE(m_host.texts.value(TextField::CaseId), caseId);
+    QCOMPARE(m_host.calls, QStringList(rootCall(rootAfterwards, valid)));
+    QCOMPARE(m_host.fields.caseId, caseId);
 }
 
 void TestUidRootFields::creationReplacesTheRootAndChecksIt_data()
@@ -109,7 +101,7 @@ void TestUidRootFields::creationReplacesTheRootAndChecksIt()
     setFields(QStringLiteral("what was there"), QStringLiteral("7"));
     m_uuids.uuids = {uuid};
     createUidRoot(m_host, m_uuids);
-    QCOMPARE(m_host.calls, QStringList({rootSet(root), rootSet(root), valid ? validLabel : invalidLabel}));
+    QCOMPARE(m_host.calls, QStringList(rootCall(root, valid)));
     QCOMPARE(m_uuids.uuids, QStringList());
 }
 
@@ -118,9 +110,9 @@ void TestUidRootFields::creationTakesANewUuidEachTime()
     m_uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-00000000000A"),
                      QStringLiteral("00000000-0000-0000-0000-00000000000B")};
     createUidRoot(m_host, m_uuids);
-    QCOMPARE(m_host.texts.value(TextField::UidRoot), QStringLiteral("2.25.10"));
+    QCOMPARE(m_host.fields.uidRoot, QStringLiteral("2.25.10"));
     createUidRoot(m_host, m_uuids);
-    QCOMPARE(m_host.texts.value(TextField::UidRoot), QStringLiteral("2.25.11"));
+    QCOMPARE(m_host.fields.uidRoot, QStringLiteral("2.25.11"));
 }
 
 void TestUidRootFields::creationCuresARootButNotACaseId_data()
@@ -145,45 +137,6 @@ void TestUidRootFields::creationCuresARootButNotACaseId()
     m_uuids.uuids = {largestUuid};
     createUidRoot(m_host, m_uuids);
     QCOMPARE(checkUidRoot(m_host), valid);
-}
-
-void TestUidRootFields::filterRewritesAFieldOnlyWhenItGetsShorter_data()
-{
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("calls");
-    const int caseId = static_cast<int>(TextField::CaseId);
-    const int root = static_cast<int>(TextField::UidRoot);
-    QTest::newRow("CaseID 123a") << caseId << QStringLiteral("123a")
-                                 << QStringList({QStringLiteral("setText caseID: 123"), rootSet(validRoot),
-                                                 validLabel});
-    QTest::newRow("CaseID 123") << caseId << QStringLiteral("123")
-                                << QStringList({rootSet(validRoot), validLabel});
-    QTest::newRow("CaseID 1a2") << caseId << QStringLiteral("1a2")
-                                << QStringList({rootSet(validRoot), invalidLabel});
-    QTest::newRow("CaseID 12.") << caseId << QStringLiteral("12.")
-                                << QStringList({rootSet(validRoot), invalidLabel});
-    QTest::newRow("CaseID abc") << caseId << QStringLiteral("abc")
-                                << QStringList(
-                                       {QStringLiteral("setText caseID: "), rootSet(validRoot), validLabel});
-    QTest::newRow("root 123a") << root << QStringLiteral("123a")
-                               << QStringList({rootSet(QStringLiteral("123")), rootSet(QStringLiteral("123")),
-                                               invalidLabel});
-    QTest::newRow("root with a letter behind")
-        << root << validRoot + u'a' << QStringList({rootSet(validRoot), rootSet(validRoot), validLabel});
-    QTest::newRow("root 1a2") << root << QStringLiteral("1a2")
-                              << QStringList({rootSet(QStringLiteral("1a2")), invalidLabel});
-}
-
-void TestUidRootFields::filterRewritesAFieldOnlyWhenItGetsShorter()
-{
-    QFETCH(const int, field);
-    QFETCH(const QString, text);
-    QFETCH(const QStringList, calls);
-    setFields(validRoot, QString());
-    m_host.texts.insert(static_cast<TextField>(field), text);
-    filterUidField(m_host, static_cast<TextField>(field));
-    QCOMPARE(m_host.calls, calls);
 }
 
 void TestUidRootFields::composesFromAValidRoot_data()
@@ -216,9 +169,9 @@ void TestUidRootFields::composesFromAValidRoot()
     QFETCH(const QString, rootAfterwards);
     QFETCH(const QString, uid);
     setFields(root, caseId);
-    QCOMPARE(composeStudyInstanceUid(m_host, m_uuids), uid);
-    QCOMPARE(m_host.texts.value(TextField::UidRoot), rootAfterwards);
-    QCOMPARE(m_host.texts.value(TextField::CaseId), caseId);
+    QCOMPARE(composeStudyInstanceUid(m_host, m_host.fields, m_uuids), uid);
+    QCOMPARE(m_host.fields.uidRoot, rootAfterwards);
+    QCOMPARE(m_host.fields.caseId, caseId);
 }
 
 void TestUidRootFields::composesFromAFreshRootWhenTheFieldsIsInvalid_data()
@@ -246,8 +199,8 @@ void TestUidRootFields::composesFromAFreshRootWhenTheFieldsIsInvalid()
     QFETCH(const QString, uid);
     setFields(root, caseId);
     m_uuids.uuids = {largestUuid};
-    QCOMPARE(composeStudyInstanceUid(m_host, m_uuids), uid);
-    QCOMPARE(m_host.texts.value(TextField::UidRoot), root);
+    QCOMPARE(composeStudyInstanceUid(m_host, m_host.fields, m_uuids), uid);
+    QCOMPARE(m_host.fields.uidRoot, root);
     QCOMPARE(m_uuids.uuids, QStringList());
 }
 
@@ -255,8 +208,8 @@ void TestUidRootFields::everyCompositionWithoutAValidRootIsFresh()
 {
     m_uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-00000000000A"),
                      QStringLiteral("00000000-0000-0000-0000-000000000000")};
-    QCOMPARE(composeStudyInstanceUid(m_host, m_uuids), QStringLiteral("2.25.10"));
-    QCOMPARE(composeStudyInstanceUid(m_host, m_uuids), QStringLiteral("2.25."));
+    QCOMPARE(composeStudyInstanceUid(m_host, m_host.fields, m_uuids), QStringLiteral("2.25.10"));
+    QCOMPARE(composeStudyInstanceUid(m_host, m_host.fields, m_uuids), QStringLiteral("2.25."));
 }
 
 DRAVOLIN_TEST(TestUidRootFields)

@@ -4,152 +4,124 @@
 
 namespace dravolin::test {
 
-QString nameOf(CheckBox box)
+namespace {
+
+QString nameOf(Question question)
 {
-    switch (box) {
-    case CheckBox::OverwriteSource: return QStringLiteral("overwriteSource");
-    case CheckBox::Prepopulate: return QStringLiteral("prepopulate");
-    case CheckBox::GenerateSOP: return QStringLiteral("generateSOP");
-    case CheckBox::OnlyGenerateSOP: return QStringLiteral("onlyGenerateSOP");
+    switch (question) {
+    case Question::LargeDrop: return QStringLiteral("LargeDrop");
+    case Question::OverwriteSource: return QStringLiteral("OverwriteSource");
     }
     Q_UNREACHABLE();
 }
 
-QString nameOf(TextField field)
+QString nameOf(RunKind kind)
 {
-    switch (field) {
-    case TextField::UidRoot: return QStringLiteral("uidRoot");
-    case TextField::CaseId: return QStringLiteral("caseID");
-    case TextField::Diagnosis: return QStringLiteral("diagnosis");
-    case TextField::Keywords: return QStringLiteral("keywords");
-    case TextField::Credits: return QStringLiteral("credits");
+    switch (kind) {
+    case RunKind::Anonymize: return QStringLiteral("Anonymize");
+    case RunKind::Construct: return QStringLiteral("Construct");
+    case RunKind::OnlyGenerate: return QStringLiteral("OnlyGenerate");
     }
     Q_UNREACHABLE();
 }
 
-QString nameOf(Control control)
+QString numbers(const char *text, quint64 done, quint64 all)
 {
-    switch (control) {
-    case Control::OverwriteSource: return QStringLiteral("overwriteSource");
-    case Control::SelectLUT: return QStringLiteral("selectLUT");
-    case Control::Prepopulate: return QStringLiteral("prepopulate");
-    case Control::SelectConfig: return QStringLiteral("selectConfig");
-    case Control::GenerateSOP: return QStringLiteral("generateSOP");
-    case Control::OnlyGenerateSOP: return QStringLiteral("onlyGenerateSOP");
+    return QString::fromUtf8(text).arg(done).arg(all);
+}
+
+} // namespace
+
+QString nameOf(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::InvalidStudyInstanceUid: return QStringLiteral("InvalidStudyInstanceUid");
+    case Refusal::NoTags: return QStringLiteral("NoTags");
+    case Refusal::NoTagForTable: return QStringLiteral("NoTagForTable");
+    case Refusal::TableUnreadable: return QStringLiteral("TableUnreadable");
+    case Refusal::TableWithoutMissing: return QStringLiteral("TableWithoutMissing");
+    case Refusal::OutOfFileHandles: return QStringLiteral("OutOfFileHandles");
     }
     Q_UNREACHABLE();
 }
 
-Qt::CheckState RecordingHost::checkState(CheckBox box)
+QString rootCall(const QString &root, bool valid)
+{
+    return QStringLiteral("root %1: %2")
+        .arg(valid ? QStringLiteral("valid") : QStringLiteral("invalid"), root);
+}
+
+QString progressCall(Progress::Event event, quint64 done, quint64 all)
+{
+    switch (event) {
+    case Progress::Event::FoldersAnonymized: return numbers("anonymized %1/%2 folders", done, all);
+    case Progress::Event::PropagationBegins: return QStringLiteral("propagation begins");
+    case Progress::Event::FoldersPropagated: return numbers("propagated %1/%2 folders", done, all);
+    case Progress::Event::FilesPropagated: return numbers("file %1/%2", done, all);
+    case Progress::Event::PropagationEnds: return QStringLiteral("propagation ends");
+    }
+    Q_UNREACHABLE();
+}
+
+QString endCall(const QString &summary, const QString &logText)
+{
+    return QStringLiteral("ends: %1|%2").arg(summary, logText);
+}
+
+Choices RecordingHost::choices()
 {
     if (recordReads)
-        calls.append(QStringLiteral("read ") + nameOf(box));
-    return checkStates.value(box, Qt::Unchecked);
+        calls.append(QStringLiteral("read choices"));
+    return chosen;
 }
 
-QString RecordingHost::text(TextField field)
+CaseTexts RecordingHost::texts()
 {
     if (recordReads)
-        calls.append(QStringLiteral("read ") + nameOf(field));
-    return texts.value(field);
+        calls.append(QStringLiteral("read texts"));
+    return fields;
 }
 
-void RecordingHost::setText(TextField field, const QString &text)
+void RecordingHost::setRoot(const RootCheck &root)
 {
-    calls.append(QStringLiteral("setText %1: %2").arg(nameOf(field), text));
-    texts.insert(field, text);
+    calls.append(rootCall(root.trimmedRoot, root.valid));
+    fields.uidRoot = root.trimmedRoot;
 }
 
-void RecordingHost::setRootValidity(const QString &label)
+bool RecordingHost::ask(Question question)
 {
-    calls.append(QStringLiteral("setRootValidity: ") + label);
-}
-
-QString RecordingHost::selectedConfigTitle()
-{
-    if (recordReads)
-        calls.append(QStringLiteral("read configTitle"));
-    return configTitle;
-}
-
-PopupSelection RecordingHost::selectedLUT()
-{
-    if (recordReads)
-        calls.append(QStringLiteral("read lut"));
-    return lut;
-}
-
-void RecordingHost::setStatus(const QString &text)
-{
-    calls.append(QStringLiteral("setStatus: ") + text);
-}
-
-void RecordingHost::setStatusToolTip(const QString &text)
-{
-    calls.append(QStringLiteral("setStatusToolTip: ") + text);
-}
-
-void RecordingHost::setEnabled(Control control, bool enabled)
-{
-    calls.append((enabled ? QStringLiteral("enable ") : QStringLiteral("disable ")) + nameOf(control));
-}
-
-void RecordingHost::setSpinning(bool spinning)
-{
-    calls.append(spinning ? QStringLiteral("start spinning") : QStringLiteral("stop spinning"));
-}
-
-void RecordingHost::showSeparator()
-{
-    calls.append(QStringLiteral("show separator"));
-}
-
-void RecordingHost::setProgress(double percent)
-{
-    calls.append(QStringLiteral("setProgress: %1").arg(percent));
-}
-
-void RecordingHost::setProgressVisible(bool visible)
-{
-    calls.append(visible ? QStringLiteral("show progress") : QStringLiteral("hide progress"));
-}
-
-void RecordingHost::growWindow(int height, std::function<void()> then)
-{
-    calls.append(QStringLiteral("grow to %1").arg(height));
-    then();
-}
-
-void RecordingHost::setLUTTitles(const QStringList &titles)
-{
-    calls.append(QStringLiteral("setLUTTitles: ") + titles.join(u'|'));
-}
-
-void RecordingHost::showSheet(const AlertSheet &sheet)
-{
-    calls.append(QStringLiteral("sheet: %1|%2|%3")
-                     .arg(sheet.message, sheet.informativeText, sheet.buttons.join(u'|')));
-    sheets.append(sheet);
-}
-
-AlertButton RecordingHost::runModalAlert(const ModalAlert &alert)
-{
-    calls.append(QStringLiteral("alert: %1|%2|%3|%4")
-                     .arg(alert.title, alert.text, alert.defaultButton, alert.alternateButton));
-    alerts.append(alert);
+    calls.append(QStringLiteral("ask ") + nameOf(question));
     if (answers.isEmpty())
-        QTest::qFail("an alert that nobody expected", __FILE__, __LINE__);
-    return answers.isEmpty() ? alert.escape : answers.takeFirst();
+        QTest::qFail("a question that nobody expected", __FILE__, __LINE__);
+    return !answers.isEmpty() && answers.takeFirst();
 }
 
-void RecordingHost::scheduleLogWindow(const QString &text)
+void RecordingHost::refuse(Refusal refusal, const QString &detail)
 {
-    calls.append(QStringLiteral("log window: ") + text);
+    calls.append(QStringLiteral("refuse %1: %2").arg(nameOf(refusal), detail));
 }
 
-void RecordingHost::closeMainWindow()
+void RecordingHost::runBegins(const RunBeginning &beginning, std::function<void()> start)
 {
-    calls.append(QStringLiteral("close"));
+    calls.append(QStringLiteral("begins %1: %2").arg(nameOf(beginning.kind), beginning.constructionTag));
+    start();
+}
+
+void RecordingHost::progress(const Progress &progress)
+{
+    calls.append(progressCall(progress.event, progress.done, progress.all));
+}
+
+void RecordingHost::runEnds(const RunJudgement &judgement)
+{
+    QVERIFY(judgement.wantsLogWindow || judgement.logText.isEmpty());
+    calls.append(endCall(judgement.summary, judgement.logText));
+    judgements.append(judgement);
+}
+
+void RecordingHost::tablesFound(const TitleToPath &tables)
+{
+    calls.append(QStringLiteral("tables: ") + tables.keys().join(u'|'));
 }
 
 } // namespace dravolin::test

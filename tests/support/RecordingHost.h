@@ -3,50 +3,38 @@
 #include "run/jobs/RunHost.h"
 
 #include <QList>
-#include <QMap>
+#include <QStringList>
 
 namespace dravolin::test {
 
-// A RunHost without a window: what is read is what the test has set, what is shown becomes lines in `calls`,
-// in order and in full. Modal alerts take their answers from `answers`; one that nobody expected fails the
-// test.
+// A RunHost without a window: what is read is what the test has set, what is told becomes lines in `calls`,
+// in order and in full. Questions take their answers from `answers`; one that nobody expected fails the test.
 class RecordingHost : public RunHost
 {
 public:
-    QMap<CheckBox, Qt::CheckState> checkStates; // unset: unchecked
-    QMap<TextField, QString> texts;
-    QString configTitle;
-    PopupSelection lut;
-    QList<AlertButton> answers;
+    Choices chosen;
+    CaseTexts fields;
+    QList<bool> answers;
     bool recordReads = false;
 
     QStringList calls;
-    QList<AlertSheet> sheets;
-    QList<ModalAlert> alerts;
+    QList<RunJudgement> judgements;
 
-    [[nodiscard]] Qt::CheckState checkState(CheckBox box) override;
-    [[nodiscard]] QString text(TextField field) override;
-    void setText(TextField field, const QString &text) override;
-    void setRootValidity(const QString &label) override;
-    [[nodiscard]] QString selectedConfigTitle() override;
-    [[nodiscard]] PopupSelection selectedLUT() override;
-    void setStatus(const QString &text) override;
-    void setStatusToolTip(const QString &text) override;
-    void setEnabled(Control control, bool enabled) override;
-    void setSpinning(bool spinning) override;
-    void showSeparator() override;
-    void setProgress(double percent) override;
-    void setProgressVisible(bool visible) override;
-    void growWindow(int height, std::function<void()> then) override; // calls `then` at once
-    void setLUTTitles(const QStringList &titles) override;
-    void showSheet(const AlertSheet &sheet) override;
-    AlertButton runModalAlert(const ModalAlert &alert) override;
-    void scheduleLogWindow(const QString &text) override;
-    void closeMainWindow() override;
+    [[nodiscard]] Choices choices() override;
+    [[nodiscard]] CaseTexts texts() override;
+    void setRoot(const RootCheck &root) override;
+    [[nodiscard]] bool ask(Question question) override;
+    void refuse(Refusal refusal, const QString &detail) override;
+    void runBegins(const RunBeginning &beginning, std::function<void()> start) override; // starts at once
+    void progress(const Progress &progress) override;
+    void runEnds(const RunJudgement &judgement) override;
+    void tablesFound(const TitleToPath &tables) override;
 };
 
-[[nodiscard]] QString nameOf(CheckBox box);
-[[nodiscard]] QString nameOf(TextField field);
-[[nodiscard]] QString nameOf(Control control);
+// The lines that the host writes.
+[[nodiscard]] QString rootCall(const QString &root, bool valid = true);
+[[nodiscard]] QString progressCall(Progress::Event event, quint64 done = 0, quint64 all = 0);
+[[nodiscard]] QString endCall(const QString &summary, const QString &logText = {});
+[[nodiscard]] QString nameOf(Refusal refusal);
 
 } // namespace dravolin::test

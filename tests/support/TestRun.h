@@ -36,7 +36,7 @@ public:
 };
 
 // A complete context over fakes in a temporary tree, with a desktop, a support, an application and a resource
-// folder that exist, and no delays.
+// folder that exist.
 class TestRun
 {
 public:
@@ -55,8 +55,7 @@ public:
     RecordingHost host;
     RecordingJobRunner jobs;
     FixedUuidSource uuids;
-    Delays delays{0, 0, 0, 0};
-    RunContext context{state, paths, host, jobs, uuids, delays};
+    RunContext context{state, paths, host, jobs, uuids};
 };
 
 // Collects what is written to the system log while it lives; nothing is printed.

@@ -2,7 +2,7 @@
 import dataclasses
 
 from .charsets import encoder
-from .dataset import DataSet, keyword_of, tag_text
+from .dataset import keyword_of, tag_text
 from .encoding import CHARACTER_SET, value_bytes
 
 DATA_SET = "data set"
@@ -44,10 +44,14 @@ def planted_in(file):
     return found
 
 
-def mark(data_set, keyword, value_class):
-    """Declares the attribute's value to be a planted one."""
-    element = data_set.elements[DataSet(**{keyword: ""}).elements.popitem()[0]]
-    element.plant = Plant(str(element.value), value_class)
+def mark(data_set, classes):
+    """Declares all elements with one of these values (text: class) to be planted ones, at every level."""
+    for element in data_set.elements.values():
+        if element.vr == "SQ":
+            for item in element.value:
+                mark(item, classes)
+        elif isinstance(element.value, str) and element.value in classes:
+            element.plant = Plant(element.value, classes[element.value])
 
 
 def _walk(data_set, path, character_set, syntax, private, unknown, found):

@@ -4,14 +4,14 @@ import pathlib
 import random
 
 from ..charsets import JAPANESE, KOREAN, LATIN_1, UTF_8
-from ..dataset import UN, UN_SEQUENCE, DataSet, Element
+from ..dataset import UN, UN_SEQUENCE, DataSet
 from ..encoding import BIG_ENDIAN, DEFLATED, EXPLICIT, IMPLICIT, JPEG, JPEG_2000, RLE, Lengths
 from ..files import ObjectFile
 from ..kinds import KINDS
 from ..kinds.common import code
 from ..kinds.directory import DIRECTORY, directory
 from ..output import Output
-from ..planting import Plant, mark
+from ..planting import mark
 from ..subjects import Instance, Patient, Reference, Series, Study, Uids
 
 SERIES_SIZE = 5
@@ -30,7 +30,7 @@ STREETS = ["Wendelsteig", "Tannhofring", "Birkweiler", "Rosshalde"]
 def write(folder, seed, options):
     output = Output(folder, "mixed", seed)
     maker = _Maker(seed, options)
-    members = []
+    members, classes = [], {}
     for number in range(options.count):
         instance = maker.next(number)
         kind = maker.kind
@@ -39,8 +39,11 @@ def write(folder, seed, options):
         output.add(path, kind, file, patient=instance.series.study.patient.id)
         if options.directory:
             members.append((path, file))
+            classes.update(identity(instance))
     if members:
-        output.add("DICOMDIR", DIRECTORY, directory(maker.uids.new(), members))
+        file = directory(maker.uids.new(), members)
+        mark(file.data_set, classes)
+        output.add("DICOMDIR", DIRECTORY, file)
     return output.finish()
 
 
@@ -114,40 +117,39 @@ def _file(kind, instance, character_set, number):
     data_set = kind.make(instance)
     if character_set:
         data_set.set(SpecificCharacterSet=character_set)
-    for keyword, value_class in (("PatientName", "person"), ("PatientID", "identifier"),
-                                 ("PatientBirthDate", "date"), ("AccessionNumber", "identifier"),
-                                 ("StudyDescription", "free text")):
-        mark(data_set, keyword, value_class)
     syntax = SYNTAXES[number % len(SYNTAXES)]
     if syntax.encapsulated and not kind.has_pixels:
         syntax = NATIVE[number % len(NATIVE)]
     _nest(data_set, instance)
     _add_private(data_set, instance, syntax, number)
+    mark(data_set, identity(instance))
     return ObjectFile(data_set, syntax, Lengths(sequences=number % 2 == 1, items=number % 4 > 1))
 
 
 def _nest(data_set, instance):
     """The patient's name three levels down."""
-    person = Element("PN", instance.series.study.patient.name, plant=_name_plant(instance))
-    observer = DataSet(ValueType="PNAME", ConceptNameCodeSequence=[code("121029", "DCM", "Subject Name")])
-    observer.elements[0x0040A123] = person
+    observer = DataSet(ValueType="PNAME", ConceptNameCodeSequence=[code("121029", "DCM", "Subject Name")],
+                       PersonName=instance.series.study.patient.name)
     protocol = code("113010", "DCM", "Quality Issue").set(ProtocolContextSequence=[observer])
     data_set.set(RequestAttributesSequence=[DataSet(ScheduledProcedureStepID="1"),
                                             DataSet(ScheduledProtocolCodeSequence=[protocol])])
 
 
-def _name_plant(instance):
-    return Plant(instance.series.study.patient.name, "person")
+def identity(instance):
+    """The class of every value that tells whose object it is."""
+    series, study, patient = instance.series, instance.series.study, instance.series.study.patient
+    uids = [instance.uid, series.uid, series.frame_of_reference, study.uid]
+    uids += [to.uid for to in instance.references]
+    return {patient.name: "person", patient.id: "identifier", patient.birth_date: "date",
+            study.id: "identifier", study.date: "date", study.time: "date", study.accession: "identifier",
+            study.referring: "person", study.description: "free text", **{uid: "UID" for uid in uids}}
 
 
 def _add_private(data_set, instance, syntax, number):
     patient = instance.series.study.patient
-    tag = data_set.put_private(0x0029, CREATOR, 0x10, "LO", patient.id)
-    data_set.elements[tag].plant = Plant(patient.id, "identifier")
+    data_set.put_private(0x0029, CREATOR, 0x10, "LO", patient.id)
     data_set.put_private(0x0029, CREATOR, 0x11, "OB", bytes(range(16)))
     unknown = UN_SEQUENCE if number % 2 else UN
     if syntax is BIG_ENDIAN:
         unknown = ""
-    item = DataSet()
-    item.elements[0x00100010] = Element("PN", patient.name, plant=_name_plant(instance))
-    data_set.put_private(0x0029, CREATOR, 0x12, "SQ", [item], unknown)
+    data_set.put_private(0x0029, CREATOR, 0x12, "SQ", [DataSet(PatientName=patient.name)], unknown)

@@ -47,8 +47,7 @@ def _original(people, kind, person):
     data_set.set(**person.other)
     if person.character_set:
         data_set.set(SpecificCharacterSet=person.character_set)
-    for keyword, value_class in ATTRIBUTES.items():
-        mark(data_set, keyword, value_class)
+    mark(data_set, {value: ATTRIBUTES[keyword] for keyword, value in person.attributes().items()})
     return data_set
 
 
