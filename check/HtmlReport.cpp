@@ -101,9 +101,8 @@ void addWhat(Page &page, const CheckReport &report, const ReportedCall &call)
     page.paragraph(call.options.pixels
                        ? Texts::tr("What pixels show, and what compressed or encrypted bytes hold.")
                        : Texts::tr("Pixel data, and what compressed or encrypted bytes hold."));
-    page.paragraph(
-        Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
-            .arg(report.values->tooShort()));
+    page.paragraph(Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
+                       .arg(report.values->tooShort()));
 }
 
 void addUnchecked(Page &page, const CheckReport &report)
