@@ -3,9 +3,10 @@
 
 #include <QApplication>
 
-int main(int argc, char *argv[])
+int main(int, char *argv[])
 {
-    QApplication application(argc, argv);
+    int ownName = 1; // the program reads no options, the toolkit's own included
+    QApplication application(ownName, argv);
     QApplication::setApplicationName(dravolin::executableName());
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the log window
     dravolin::QVAppDelegate delegate;

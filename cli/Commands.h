@@ -13,6 +13,7 @@ enum ExitStatus {
     somethingFound = 1,
     wrongCall = 2,
     notChecked = 3,
+    interrupted = 130,
 };
 
 struct Command
@@ -23,6 +24,8 @@ struct Command
 };
 
 [[nodiscard]] int runCheck(const QStringList &arguments);
+[[nodiscard]] int runPlan(const QStringList &arguments);
+[[nodiscard]] int runBatchCommand(const QStringList &arguments);
 
 // Runs the command that the first of the arguments names; without one prints what there is.
 [[nodiscard]] int runCommand(const QStringList &arguments);

@@ -1,7 +1,8 @@
 #include "config/ConfigurationDiscovery.h"
 
-#include "config/DirectoryLocations.h"
 #include "base/Files.h"
+#include "base/Texts.h"
+#include "config/DirectoryLocations.h"
 
 namespace dravolin {
 
@@ -27,7 +28,7 @@ FoundConfigurations findConfigurations(const AppPaths &paths)
 {
     const QString bundled = paths.resource(QStringLiteral("AnonymizationConfiguration.txt"));
     if (pathExists(bundled))
-        return {{{QStringLiteral("Bundled Configuration"), bundled}}, false};
+        return {{{Texts::tr("Bundled Configuration"), bundled}}, false};
 
     FoundConfigurations found;
     QStringList folders = {paths.desktopFolder, paths.applicationFolder};
@@ -36,7 +37,7 @@ FoundConfigurations findConfigurations(const AppPaths &paths)
     for (const QString &folder : folders)
         found.allConfigPaths.insert(configsAtPath(folder));
     if (found.allConfigPaths.isEmpty()) {
-        found.allConfigPaths.insert(QStringLiteral("Bundled Default"), paths.defaultConfiguration());
+        found.allConfigPaths.insert(Texts::tr("Bundled Default"), paths.defaultConfiguration());
         found.revertedToDefault = true;
     }
     return found;

@@ -32,11 +32,14 @@ void dropTableMarkers(SharedRunState &shared)
             name.chop(1); // the ">", or whatever stands in its place
             state.firstFoundLUTtagInNewValueDict = name;
         }
-        for (const qsizetype marker : markers) {
-            // intended: the indexes stay while the keys move up, so that later ones hit other keys
-            const QStringList keys = state.newValueDict.keys();
-            if (marker < keys.size())
-                state.newValueDict.remove(keys.at(marker));
+        // intended: the indexes stay while the keys move up, so that the n-th marker hits the key n places
+        // behind
+        qsizetype position = 0;
+        qsizetype taken = 0;
+        for (auto at = state.newValueDict.begin(); at != state.newValueDict.end(); ++position) {
+            const bool hit = taken < markers.size() && position == markers.at(taken) + taken;
+            at = hit ? state.newValueDict.erase(at) : std::next(at);
+            taken += hit;
         }
     });
 }

@@ -46,7 +46,9 @@ class Program:
 
     def __init__(self, executable, home):
         self.home = home
-        self.process = subprocess.Popen([str(executable)], env=os.environ | home.environment(), cwd=home.folder)
+        # with an option that would end every Qt program that reads its options
+        command = [str(executable), "-platform", "no-such-platform"]
+        self.process = subprocess.Popen(command, env=os.environ | home.environment(), cwd=home.folder)
         self.application = Application(self.process.pid)
 
     def __enter__(self):

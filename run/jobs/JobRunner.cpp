@@ -52,6 +52,28 @@ private:
     posix_spawn_file_actions_t m_actions = {};
 };
 
+// Signals mean to a child what they usually mean, whatever this process ignores or blocks.
+class SpawnAttributes
+{
+public:
+    SpawnAttributes()
+    {
+        sigset_t signals = {};
+        ::posix_spawnattr_init(&m_attributes);
+        ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+        ::posix_spawnattr_setsigmask(&m_attributes, &signals);
+        ::sigfillset(&signals);
+        ::posix_spawnattr_setsigdefault(&m_attributes, &signals);
+    }
+    ~SpawnAttributes() { ::posix_spawnattr_destroy(&m_attributes); }
+    SpawnAttributes(const SpawnAttributes &) = delete;
+    SpawnAttributes &operator=(const SpawnAttributes &) = delete;
+    [[nodiscard]] const posix_spawnattr_t *get() const { return &m_attributes; }
+
+private:
+    posix_spawnattr_t m_attributes = {};
+};
+
 // The child's process id, or nothing when it could not be started. `output` is the pipe's write end or -1.
 std::optional<pid_t> start(const Job &job, int output)
 {
@@ -66,9 +88,10 @@ std::optional<pid_t> start(const Job &job, int output)
         ::posix_spawn_file_actions_adddup2(actions.get(), output, STDOUT_FILENO);
     ::posix_spawn_file_actions_addchdir_np(actions.get(), folder.constData());
 
+    const SpawnAttributes attributes;
     pid_t child = -1;
     const std::lock_guard lock(processStartMutex());
-    const int failure = ::posix_spawn(&child, executable.constData(), actions.get(), nullptr,
+    const int failure = ::posix_spawn(&child, executable.constData(), actions.get(), attributes.get(),
                                       arguments.data(), job.environment ? environment.data() : environ);
     return failure == 0 ? std::optional(child) : std::nullopt;
 }

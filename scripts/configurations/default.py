@@ -97,8 +97,13 @@ Needed by: encapsulated documents (Encapsulated Document: what a report says of 
 (its agent), X-ray sources and detectors (their IDs)."""
 
 OVERLAYS = """
-Overlays: text and drawings beside the pixels. Sixteen groups, data and comments.
-Needed by: the rest of an overlay's attributes, which stay."""
+Overlays: text and drawings beside the pixels
+Sixteen groups, data and comments. The first group goes whole, so that an image with one overlay stays valid.
+Needed by: the rest of further overlays (Overlay Data), which stays."""
+
+FIRST_OVERLAY = {"6000,0010": "Overlay Rows", "6000,0011": "Overlay Columns", "6000,0022": "Overlay Description",
+                 "6000,0040": "Overlay Type", "6000,0050": "Overlay Origin", "6000,0100": "Overlay Bits Allocated",
+                 "6000,0102": "Overlay Bit Position", "6000,1500": "Overlay Label"}
 
 CURVES = """
 Curves: sixteen groups"""
@@ -115,5 +120,5 @@ def default_sections(rows):
     """The whole file, from the table's rows."""
     return [HEAD, window_section(WINDOW), emptied_section(EMPTIED), dummy_section(DUMMIES),
             *table_sections(rows, GROUPS), EXTRAS,
-            repeating_section(OVERLAYS, "6000", (("3000", "Overlay Data"), ("4000", "Overlay Comments"))),
+            repeating_section(OVERLAYS, "6000", (("3000", "Overlay Data"), ("4000", "Overlay Comments")), FIRST_OVERLAY),
             repeating_section(CURVES, "5000", (("3000", "Curve Data"),)), *private_sections()]

@@ -14,16 +14,20 @@ from private import private_attributes
 from sections import text_of
 from table import left_out, read
 
-UNNAMED = {"3000": "OW Data", "4000": "LT Comments", "0051": "SQ IssuerOfAccessionNumberSequence",
-           "a370": "SQ ReferencedRequestSequence", "0500": "SQ EncryptedAttributesSequence",
-           "0063": "LO DeidentificationMethod"}
+# What the table has no row for.
+UNNAMED = {"0008,0051": "SQ IssuerOfAccessionNumberSequence", "0012,0063": "LO DeidentificationMethod",
+           "0040,a370": "SQ ReferencedRequestSequence", "0400,0500": "SQ EncryptedAttributesSequence"}
+# The elements of overlays and curves.
+REPEATING = {"0010": "US Rows", "0011": "US Columns", "0022": "LO Description", "0040": "CS Type", "0050": "SS Origin",
+             "0100": "US BitsAllocated", "0102": "US BitPosition", "1500": "LO Label", "3000": "OW Data",
+             "4000": "LT Comments"}
 
 
 def attributes_of(sections, rows):
     """One line for each attribute of the sections: its tag, its VR, and its keyword or creator."""
     known = {row.tag: f"{row.vr} {row.keyword}" for row in rows if len(row.vr) == 2}
     tags = sorted({line.attribute for section in sections for line in section.lines})
-    public = [f"{tag} {known.get(tag) or UNNAMED[tag[5:]]}" for tag in tags if int(tag[:4], 16) % 2 == 0]
+    public = [f"{tag} {known.get(tag) or UNNAMED.get(tag) or REPEATING[tag[5:]]}" for tag in tags if int(tag[:4], 16) % 2 == 0]
     return "\n".join(public + private_attributes()) + "\n"
 
 

@@ -8,9 +8,9 @@ another creator in the same block they erase what that creator keeps there."""
 
 # A comment, and the elements: tag, VR, creator, name.
 BLOCKS = (
-    ("GEMS_RELA_01, GEMS_SERS_01, GEMS_PARM_01. Lost: user defined data of the scanner.",
-     (("0021,1015", "LO", "GEMS_RELA_01", "Unnamed"),
-      ("0025,101a", "SH", "GEMS_SERS_01", "Primary Receiver Suite and Host"),
+    ("Of no creator that a dictionary knows; seen with a patient's data.", (("0021,1015", "LO", "UNKNOWN", "Unnamed"),)),
+    ("GEMS_SERS_01, GEMS_PARM_01. Lost: user defined data of the scanner.",
+     (("0025,101a", "SH", "GEMS_SERS_01", "Primary Receiver Suite and Host"),
       ("0043,1028", "OB", "GEMS_PARM_01", "Unique Image Identifier"),
       ("0043,102a", "OB", "GEMS_PARM_01", "User Defined Data"),
       ("0043,1061", "UI", "GEMS_PARM_01", "Scanner Study Entity UID"),

@@ -87,10 +87,12 @@ def table_sections(rows, groups):
     return sections
 
 
-def repeating_section(comment, first, names):
-    """The sixteen groups `first`, `first` + 2 and so on, each with the elements of `names`."""
+def repeating_section(comment, first, names, others=()):
+    """The attributes `others`; the sixteen groups `first`, `first` + 2 and so on, each with the elements of `names`."""
     groups = [f"{int(first, 16) + 2 * i:04x}" for i in range(16)]
-    return Section(comment, tuple(Line(f"{group},{element}", name) for group in groups for element, name in names))
+    lines = [Line(tag, others[tag]) for tag in others]
+    lines += [Line(f"{group},{element}", name) for group in groups for element, name in names]
+    return Section(comment, tuple(lines))
 
 
 def text_of(sections):

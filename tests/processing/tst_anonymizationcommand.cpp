@@ -26,6 +26,7 @@ private Q_SLOTS:
     void choicesDecideTheOptions();
     void tagBecomesOneArgument_data();
     void tagBecomesOneArgument();
+    void theValueIsLookedUpUnderTheTrimmedTag();
     void tagIsMalformed_data();
     void tagIsMalformed();
     void emptyTagsAreSkipped_data();
@@ -122,6 +123,15 @@ void TestAnonymizationCommand::tagBecomesOneArgument()
     const AnonymizationCommand made = command({tag}, values);
     QCOMPARE(made.prefix, QStringLiteral("\"/opt/my tools/dcmodify\" -ie -imt -nb") + argument);
     QCOMPARE(made.malformedTags, QStringList());
+}
+
+void TestAnonymizationCommand::theValueIsLookedUpUnderTheTrimmedTag()
+{
+    const QString entry = QStringLiteral(" 0010,0010\t");
+    const NewValueDict values = {{entry, QStringLiteral("of the entry")},
+                                 {QStringLiteral("0010,0010"), QStringLiteral("of the tag")}};
+    QCOMPARE(command({entry}, values).prefix,
+             QStringLiteral("\"/opt/my tools/dcmodify\" -ie -imt -nb -i \"(0010,0010)=of the tag\""));
 }
 
 void TestAnonymizationCommand::tagIsMalformed_data()

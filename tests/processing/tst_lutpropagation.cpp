@@ -28,6 +28,7 @@ private Q_SLOTS:
     void keepsCountingFilesThatTheToolCouldNotChange();
     void scriptThatCannotBeWrittenIsNoError();
     void jobThatCannotStartIsNoError();
+    void keepsSkippingByTheExactWordAlone();
     void withoutPipeTheUserIsToldAndTheFolderIsLeft();
     void keepsAskingWithoutATag();
 
@@ -145,6 +146,8 @@ void TestLutPropagation::scriptThatCannotBeWrittenIsNoError()
     QCOMPARE(m_run->adapted(), 0U);
     QCOMPARE(m_run->skipped(), 1U);
     QCOMPARE(m_run->state.get(&RunState::output), QString());
+    QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
+    QCOMPARE(m_run->state.get(&RunState::jobs).couldNotStart, 1U);
 }
 
 void TestLutPropagation::jobThatCannotStartIsNoError()
@@ -157,6 +160,17 @@ void TestLutPropagation::jobThatCannotStartIsNoError()
     QCOMPARE(m_run->propagate({m_run->file(QStringLiteral("a"), "PAT123")}), 0U);
     QCOMPARE(m_run->jobs.jobs.size(), 3);
     QCOMPARE(m_run->adapted(), 0U);
+    QCOMPARE(m_run->state.get(&RunState::errCount), 0U);
+}
+
+void TestLutPropagation::keepsSkippingByTheExactWordAlone()
+{
+    m_run->state.set(&RunState::selectedLUTdict, LutTable{{QStringLiteral("A"), QStringLiteral("<SKIP>")},
+                                                          {QStringLiteral("B"), QStringLiteral("<skip>")}});
+    QCOMPARE(m_run->propagate({m_run->file(QStringLiteral("a"), "A"), m_run->file(QStringLiteral("b"), "B")}),
+             0U);
+    QCOMPARE(m_run->adapted(), 1U); // the file gets the word as its value
+    QCOMPARE(m_run->skipped(), 1U);
 }
 
 void TestLutPropagation::withoutPipeTheUserIsToldAndTheFolderIsLeft()

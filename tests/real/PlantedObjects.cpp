@@ -64,6 +64,15 @@ QStringList listedAttributes()
     return attributes;
 }
 
+void addOverlay(const QString &path)
+{
+    QStringList arguments = {QStringLiteral("-nb")};
+    for (const char *element : {"0010)=2", "0011)=8", "0022)=Name", "0040)=G", "0050)=1\\1", "0100)=1",
+                                "0102)=0", "1500)=Name", "3000)=ffff", "4000)=Name"})
+        arguments += {QStringLiteral("-i"), QStringLiteral("(6000,") + QString::fromLatin1(element)};
+    (void)outputOf(QStringLiteral(DRAVOLIN_DCMODIFY), arguments + QStringList{path});
+}
+
 QStringList faultsOf(const QString &path)
 {
     const QString said = QString::fromLatin1(outputOf(QStringLiteral(DRAVOLIN_DCIODVFY), {path}));

@@ -27,6 +27,9 @@ struct PlantedObject
 // The attributes of that list, in its order.
 [[nodiscard]] QStringList listedAttributes();
 
+// Gives an image an overlay in the first group.
+void addOverlay(const QString &path);
+
 // What is not valid in the file, each fault once, sorted.
 [[nodiscard]] QStringList faultsOf(const QString &path);
 

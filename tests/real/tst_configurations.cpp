@@ -1,7 +1,7 @@
-#include "config/ConfigurationFile.h"
 #include "processing/FolderAnonymization.h"
 #include "real/PlantedObjects.h"
 #include "real/RealRun.h"
+#include "real/ShippedConfigurations.h"
 #include "run/Configuration.h"
 #include "support/TestEntry.h"
 
@@ -21,29 +21,7 @@ using test::RealRun;
 
 namespace {
 
-const QString resources = QStringLiteral(RESOURCES);
-const QString defaultName = QStringLiteral("DefaultAnonymizationConfiguration.txt");
-
-// What a configuration does to an attribute, whatever its tag's spelling.
-struct Effects
-{
-    QSet<QString> erased;   // at every level
-    QSet<QString> replaced; // at the top
-};
-
-Effects effectsOf(const TagRules &rules)
-{
-    Effects effects;
-    for (const QString &tag : rules.allTagsToAnonymize) {
-        if (tag.isEmpty()) // a blank line
-            continue;
-        const QString attribute = QString(tag).replace(u'+', u'0');
-        (rules.newValueDict.value(tag).isEmpty() ? effects.erased : effects.replaced).insert(attribute);
-    }
-    return effects;
-}
-
-bool isGone(const PlantedValue &value, const Effects &effects)
+bool isGone(const PlantedValue &value, const test::Effects &effects)
 {
     const bool erased = std::any_of(value.tags.begin(), value.tags.end(),
                                     [&](const QString &tag) { return effects.erased.contains(tag); });
@@ -57,27 +35,17 @@ bool isTooShortToTell(const PlantedValue &value)
 }
 
 // Whether the value's bytes stand rightly in the file, as a date does that begins a date and time.
-bool isPartOfAKeptOne(const PlantedValue &value, const QList<PlantedValue> &all, const Effects &effects)
+bool isPartOfAKeptOne(const PlantedValue &value, const QList<PlantedValue> &all, const test::Effects &effects)
 {
     return std::any_of(all.begin(), all.end(), [&](const PlantedValue &other) {
         return other.bytes.contains(value.bytes) && !isGone(other, effects);
     });
 }
 
-TagRules rulesOf(const QString &name)
-{
-    TagRules rules = loadConfiguration(joinPath(resources, name));
-    addFixedTags(rules,
-                 {QStringLiteral("diagnosis"), QStringLiteral("007"), QStringLiteral("credits"),
-                  QStringLiteral("keywords")},
-                 QStringLiteral("2.25.42"));
-    return rules;
-}
-
 // The comments of a configuration without anything between the letters, as keywords are written.
 QString squeezedComments(const QString &name)
 {
-    const QStringList lines = readText(joinPath(resources, name)).value_or(QString()).split(u'\n');
+    const QStringList lines = readText(test::shippedConfiguration(name)).value_or(QString()).split(u'\n');
     const QString comments = lines.filter(QRegularExpression(QStringLiteral("^#"))).join(u' ');
     return QString(comments).remove(QRegularExpression(QStringLiteral("[^A-Za-z,(]")));
 }
@@ -91,7 +59,7 @@ QString attributeOf(const QString &fault)
 // The default has to do with all objects, an example with one of each kind and all of two kinds.
 QStringList filesToChange(const QString &configuration, const QString &kind)
 {
-    const bool all = configuration == defaultName || kind == u"CT" || kind == u"SRTEXT";
+    const bool all = configuration == test::defaultConfiguration || kind == u"CT" || kind == u"SRTEXT";
     return {all ? QStringLiteral("*.dcm") : QStringLiteral("plain.dcm")};
 }
 
@@ -104,20 +72,16 @@ class TestConfigurations : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void writesOnlyLinesThatSayWhatTheyMean_data() { configurations(); }
-    void writesOnlyLinesThatSayWhatTheyMean();
-    void testsListEveryAttributeOfTheDefault();
-    void keepsTheKindsOfTagsOutThatTheToolRefuses_data() { configurations(); }
-    void keepsTheKindsOfTagsOutThatTheToolRefuses();
-    void takesEveryListedValueAndNoOther_data() { configurations(); }
+    void takesEveryListedValueAndNoOther_data() { test::addShippedConfigurations(); }
     void takesEveryListedValueAndNoOther();
-    void makesOnlyThoseObjectsIncompleteThatACommentNames_data() { configurations(); }
+    void makesOnlyThoseObjectsIncompleteThatACommentNames_data() { test::addShippedConfigurations(); }
     void makesOnlyThoseObjectsIncompleteThatACommentNames();
     void makesNoImageIncomplete_data();
     void makesNoImageIncomplete();
+    void takesAnOverlayWhole();
+    void takesNumbersAndAges();
 
 private:
-    static void configurations();
     // The objects after a run with the configuration, which takes place once.
     RealRun &runWith(const QString &configuration);
     void anonymizeCopies(RealRun &run, const QString &configuration) const;
@@ -142,52 +106,6 @@ void TestConfigurations::initTestCase()
     QVERIFY(m_objects.size() > 20);
 }
 
-void TestConfigurations::configurations()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("default") << defaultName;
-    for (const QString &example : QDir(resources + QStringLiteral("/examples")).entryList(QDir::Files))
-        QTest::newRow(qPrintable(example)) << QStringLiteral("examples/") + example;
-}
-
-void TestConfigurations::writesOnlyLinesThatSayWhatTheyMean()
-{
-    QFETCH(const QString, name);
-    static const QRegularExpression line(
-        QStringLiteral("^(#.*|[0-9a-f+][0-9a-f]{3},[0-9a-f]{4}\t[^\t]+(\t[^\t]{1,64})?|)$"));
-    QSet<QString> tags;
-    for (const QString &text : readText(joinPath(resources, name)).value_or(QString()).split(u'\n')) {
-        QVERIFY2(line.match(text).hasMatch(), qPrintable(text));
-        if (text.isEmpty() || text.startsWith(u'#'))
-            continue;
-        QVERIFY2(!tags.contains(text.first(tagLength)), qPrintable(text));
-        tags.insert(text.first(tagLength));
-    }
-    const TagRules rules = rulesOf(name);
-    QVERIFY(tags.size() > 300);
-    QVERIFY(tags.subtract({rules.allTagsToAnonymize.begin(), rules.allTagsToAnonymize.end()}).isEmpty());
-    QCOMPARE(edits(rules, {}).malformedTags, QStringList());
-}
-
-void TestConfigurations::testsListEveryAttributeOfTheDefault()
-{
-    const Effects effects = effectsOf(rulesOf(defaultName));
-    QStringList attributes = (effects.erased + effects.replaced).values();
-    QStringList listed = test::listedAttributes();
-    attributes.sort();
-    listed.sort();
-    QCOMPARE(listed, attributes);
-}
-
-void TestConfigurations::keepsTheKindsOfTagsOutThatTheToolRefuses()
-{
-    QFETCH(const QString, name);
-    const QStringList tags = rulesOf(name).allTagsToAnonymize;
-    QCOMPARE(tags.filter(QRegularExpression(QStringLiteral("x|X|^000[02],"))), QStringList());
-    QVERIFY(!tags.contains(QStringLiteral("0012,0062"))); // nothing here makes an object de-identified
-    QVERIFY(!tags.contains(QStringLiteral("0020,000D")));
-}
-
 RealRun &TestConfigurations::runWith(const QString &configuration)
 {
     std::unique_ptr<RealRun> &run = m_runs[configuration];
@@ -201,7 +119,7 @@ RealRun &TestConfigurations::runWith(const QString &configuration)
 void TestConfigurations::anonymizeCopies(RealRun &run, const QString &configuration) const
 {
     const LogCatcher log;
-    const TagRules rules = rulesOf(configuration);
+    const TagRules rules = test::rulesOf(configuration);
     run.state.set(&RunState::newValueDict, rules.newValueDict);
     dropTableMarkers(run.state); // no table is selected
     for (const QString &kind : m_originals.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
@@ -231,8 +149,8 @@ void TestConfigurations::takesEveryListedValueAndNoOther()
 {
     QFETCH(const QString, name);
     const RealRun &run = runWith(name);
-    const Effects effects =
-        effectsOf({rulesOf(name).allTagsToAnonymize, run.state.get(&RunState::newValueDict)});
+    const test::Effects effects =
+        test::effectsOf({test::rulesOf(name).allTagsToAnonymize, run.state.get(&RunState::newValueDict)});
     qsizetype gone = 0;
     for (const PlantedObject &object : m_objects) {
         if (!pathExists(copy(run, object.path)))
@@ -272,9 +190,35 @@ void TestConfigurations::makesNoImageIncomplete_data()
 void TestConfigurations::makesNoImageIncomplete()
 {
     QFETCH(const QString, kind);
-    const RealRun &run = runWith(defaultName);
+    const RealRun &run = runWith(test::defaultConfiguration);
     for (const char16_t *file : {u"/plain.dcm", u"/planted.dcm"})
         QCOMPARE(newFaults(run, kind + QString::fromUtf16(file)), QStringList());
+}
+
+void TestConfigurations::takesAnOverlayWhole()
+{
+    RealRun run;
+    const QString image = run.path(QStringLiteral("overlay/image"));
+    QVERIFY(createFolder(parentPath(image)));
+    QVERIFY(copyFile(original(QStringLiteral("CT/plain.dcm")), image));
+    test::addOverlay(image);
+    const QStringList faults = test::faultsOf(image);
+    const TagRules rules = test::rulesOf(test::defaultConfiguration);
+    QVERIFY(!run.lines(image).filter(QStringLiteral("(6000,")).isEmpty());
+    QCOMPARE(anonymizeFolder(run.context, rules, parentPath(image), {}), 0U);
+    QCOMPARE(run.lines(image).filter(QStringLiteral("(6000,")), QStringList());
+    QCOMPARE(test::faultsOf(image), faults);
+}
+
+// Those whose bytes are too few to be looked for.
+void TestConfigurations::takesNumbersAndAges()
+{
+    const RealRun &run = runWith(test::defaultConfiguration);
+    for (const char *tag : {"0010,1010", "0010,21c0", "6000,0010"}) {
+        const QString relative = QStringLiteral("CT/planted.dcm");
+        QVERIFY(!run.lines(original(relative), tag).isEmpty());
+        QCOMPARE(run.lines(copy(run, relative), tag), QStringList());
+    }
 }
 
 DRAVOLIN_TEST(TestConfigurations)

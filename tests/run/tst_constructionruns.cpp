@@ -58,7 +58,8 @@ void ConstructionRunsTest::constructionWithATableBindsButDoesNotPropagate()
     TableRun run;
     run.switchOn(&Choices::prepopulate);
     run.state.set(&RunState::LUTconstructionTag, str("0010,1000"));
-    Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
+    run.file(str("in/a"), "A"); // that a propagation would rewrite
+    Drop drop = run.dropWithTable({run.path(str("in"))}, {}, QString());
     performRun(run.context, drop);
     QCOMPARE(run.jobs.jobs.size(), 1);
     QCOMPARE(run.state.get(&RunState::usingLUT), true);

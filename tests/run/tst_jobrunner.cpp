@@ -44,8 +44,10 @@ private Q_SLOTS:
     void collectsMoreThanAPipeHolds();
     void collectsOnlyStandardOutput();
     void withoutAPipeOutputIsTheApplicationsOwn();
-    void doesNotLookAtHowItEnded_data();
-    void doesNotLookAtHowItEnded();
+    void reportsHowItEnded_data();
+    void reportsHowItEnded();
+    void signalsMeanWhatTheyUsuallyMean_data();
+    void signalsMeanWhatTheyUsuallyMean();
     void reportsWhatCouldNotBeStarted_data();
     void reportsWhatCouldNotBeStarted();
     void reportsThatThereIsNoPipe();
@@ -151,21 +153,47 @@ void TestJobRunner::withoutAPipeOutputIsTheApplicationsOwn()
     QCOMPARE(readBytes(path), std::optional(QByteArray("here\n")));
 }
 
-void TestJobRunner::doesNotLookAtHowItEnded_data()
+void TestJobRunner::reportsHowItEnded_data()
 {
     QTest::addColumn<QString>("end");
-    QTest::newRow("exit 0") << QStringLiteral("exit 0");
-    QTest::newRow("exit 1") << QStringLiteral("exit 1");
-    QTest::newRow("exit 127") << QStringLiteral("exit 127");
-    QTest::newRow("killed") << QStringLiteral("kill -KILL $$");
+    QTest::addColumn<int>("status");
+    QTest::newRow("exit 0") << QStringLiteral("exit 0") << 0;
+    QTest::newRow("exit 1") << QStringLiteral("exit 1") << 1;
+    QTest::newRow("exit 127") << QStringLiteral("exit 127") << 127;
+    QTest::newRow("killed") << QStringLiteral("kill -KILL $$") << 128 + SIGKILL;
 }
 
-void TestJobRunner::doesNotLookAtHowItEnded()
+void TestJobRunner::reportsHowItEnded()
 {
     QFETCH(const QString, end);
     const JobResult result = run(shellJob(QStringLiteral("echo printed; ") + end));
     QCOMPARE(result.outcome, JobOutcome::Ran);
     QCOMPARE(result.output, QByteArray("printed\n"));
+    QTEST(result.exitStatus, "status");
+}
+
+void TestJobRunner::signalsMeanWhatTheyUsuallyMean_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGPIPE") << SIGPIPE;
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void TestJobRunner::signalsMeanWhatTheyUsuallyMean()
+{
+    QFETCH(const int, signal);
+    // what the application ignores or blocks, its children are not to ignore or to block
+    const auto before = std::signal(signal, SIG_IGN);
+    sigset_t blocked = {};
+    sigset_t old = {};
+    sigaddset(&blocked, signal);
+    ::pthread_sigmask(SIG_BLOCK, &blocked, &old);
+    const JobResult result = run(shellJob(QStringLiteral("kill -%1 $$; echo survived").arg(signal)));
+    ::pthread_sigmask(SIG_SETMASK, &old, nullptr);
+    std::signal(signal, before);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.exitStatus, 128 + signal);
 }
 
 void TestJobRunner::reportsWhatCouldNotBeStarted_data()
