@@ -11,6 +11,7 @@ namespace dravolin::cli {
 namespace {
 
 constexpr Command commands[] = {
+    {"check", QT_TR_NOOP("searches the values of originals in what was made of them"), runCheck},
     {"plan", QT_TR_NOOP("says what would be done with a list of cases"), runPlan},
     {"run", QT_TR_NOOP("anonymizes copies of the cases of a list"), runBatchCommand},
 };

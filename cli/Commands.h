@@ -23,6 +23,7 @@ struct Command
     int (*run)(const QStringList &arguments);
 };
 
+[[nodiscard]] int runCheck(const QStringList &arguments);
 [[nodiscard]] int runPlan(const QStringList &arguments);
 [[nodiscard]] int runBatchCommand(const QStringList &arguments);
 

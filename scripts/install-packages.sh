@@ -12,9 +12,10 @@ set -eu
 
 packages_of() {
     case "$1" in
-        build) echo build-essential cmake ninja-build qt6-base-dev dcmtk libdcmtk-dev libssl-dev zlib1g-dev \
+        build) echo build-essential cmake ninja-build qt6-base-dev dcmtk libdcmtk-dev libgdcm-dev libssl-dev zlib1g-dev \
             libqt6sql6-sqlite ;;
-        run) echo dcmtk libdcmtk17 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 libqt6dbus6 xdg-utils fonts-dejavu-core ;;
+        run) echo dcmtk libdcmtk17 libgdcm3.0 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 \
+            libqt6dbus6 xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core ;;
         test) echo python3 dcmtk dicom3tools libgmp-dev clang-format clang-tidy ;;

@@ -10,7 +10,7 @@ using namespace dravolin;
 using namespace dravolin::test;
 
 // How the log window opens.
-class LogWindowTest : public QObject
+class TestLogWindow : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
     QTemporaryDir m_home;
 };
 
-void LogWindowTest::opensInTheMiddleOfItsScreen()
+void TestLogWindow::opensInTheMiddleOfItsScreen()
 {
     LogWindowController log;
     log.window()->move(0, 0);
@@ -39,14 +39,14 @@ void LogWindowTest::opensInTheMiddleOfItsScreen()
     QVERIFY2(distance.manhattanLength() <= 8, "off the middle by more than a frame's width");
 }
 
-void LogWindowTest::opensAtTheTopWithNothingSelected_data()
+void TestLogWindow::opensAtTheTopWithNothingSelected_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("a line") << QStringLiteral("E: bad\n");
     QTest::newRow("many pages") << QStringLiteral("E: bad\n").repeated(20000);
 }
 
-void LogWindowTest::opensAtTheTopWithNothingSelected()
+void TestLogWindow::opensAtTheTopWithNothingSelected()
 {
     QFETCH(QString, text);
     LogWindowController log;
@@ -56,7 +56,7 @@ void LogWindowTest::opensAtTheTopWithNothingSelected()
     QCOMPARE(log.logTextView()->textCursor().position(), 0);
 }
 
-void LogWindowTest::breaksLinesAtWords_data()
+void TestLogWindow::breaksLinesAtWords_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("mode");
@@ -70,7 +70,7 @@ void LogWindowTest::breaksLinesAtWords_data()
         << QString(40000, u'x') + QStringLiteral("\none\ntwo") << int(QTextOption::WrapAnywhere);
 }
 
-void LogWindowTest::breaksLinesAtWords()
+void TestLogWindow::breaksLinesAtWords()
 {
     QFETCH(QString, text);
     LogWindowController log;
@@ -78,14 +78,14 @@ void LogWindowTest::breaksLinesAtWords()
     QTEST(int(log.logTextView()->wordWrapMode()), "mode");
 }
 
-void LogWindowTest::aSheetStaysInFront_data()
+void TestLogWindow::aSheetStaysInFront_data()
 {
     QTest::addColumn<bool>("sheetFirst");
     QTest::newRow("the sheet was there") << true;
     QTest::newRow("the log was there") << false;
 }
 
-void LogWindowTest::aSheetStaysInFront()
+void TestLogWindow::aSheetStaysInFront()
 {
     QFETCH(bool, sheetFirst);
     TestApp app;
@@ -104,5 +104,5 @@ void LogWindowTest::aSheetStaysInFront()
     QVERIFY(app.controller->logWinController()->window()->isVisible());
 }
 
-DRAVOLIN_TEST(LogWindowTest)
+DRAVOLIN_TEST(TestLogWindow)
 #include "tst_logwindow.moc"

@@ -38,7 +38,7 @@ void setText(QLineEdit &edit, const QString &text)
 } // namespace
 
 // What the window does with changes, whoever makes them: mouse, keys, a screen reader, the program itself.
-class WindowChangesTest : public QObject
+class TestWindowChanges : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
     std::unique_ptr<TestApp> m_app;
 };
 
-void WindowChangesTest::init()
+void TestWindowChanges::init()
 {
     QSettings(QStringLiteral("Dravolin"), QStringLiteral("Dravolin")).clear();
     m_app = std::make_unique<TestApp>();
@@ -82,7 +82,7 @@ void WindowChangesTest::init()
     m_app->controls->uidRootTextField->setText(validRoot);
 }
 
-void WindowChangesTest::rulesFollowAScreenReadersToggle()
+void TestWindowChanges::rulesFollowAScreenReadersToggle()
 {
     const Ui::MainWindow &c = *m_app->controls;
     toggle(*c.onlyGenerateSOPCheckbox);
@@ -93,7 +93,7 @@ void WindowChangesTest::rulesFollowAScreenReadersToggle()
     QVERIFY(!c.generateSOPCheckbox->isChecked());
 }
 
-void WindowChangesTest::constructionFollowsAScreenReadersToggle()
+void TestWindowChanges::constructionFollowsAScreenReadersToggle()
 {
     const Ui::MainWindow &c = *m_app->controls;
     configure(QStringLiteral("Test"), marker);
@@ -105,7 +105,7 @@ void WindowChangesTest::constructionFollowsAScreenReadersToggle()
     QCOMPARE(m_app->controller->state().get(&RunState::LUTconstructionTag), QStringLiteral("0010,1000"));
 }
 
-void WindowChangesTest::textsSetByAScreenReaderAreFilteredAndChecked()
+void TestWindowChanges::textsSetByAScreenReaderAreFilteredAndChecked()
 {
     const Ui::MainWindow &c = *m_app->controls;
     setText(*c.caseIDTextField, QStringLiteral(" 42b"));
@@ -117,7 +117,7 @@ void WindowChangesTest::textsSetByAScreenReaderAreFilteredAndChecked()
     QCOMPARE(c.rootValidLabel->text(), QStringLiteral("UID may be valid"));
 }
 
-void WindowChangesTest::keepsAStoredRootUnfiltered()
+void TestWindowChanges::keepsAStoredRootUnfiltered()
 {
     QSettings(QStringLiteral("Dravolin"), QStringLiteral("Dravolin"))
         .setValue(QStringLiteral("uidRoot"), QStringLiteral(" 1.2.x "));
@@ -127,7 +127,7 @@ void WindowChangesTest::keepsAStoredRootUnfiltered()
     QCOMPARE(m_app->controls->rootValidLabel->text(), QStringLiteral("Root is invalid, will be replaced"));
 }
 
-void WindowChangesTest::caretStaysBehindWhatWasTyped_data()
+void TestWindowChanges::caretStaysBehindWhatWasTyped_data()
 {
     QTest::addColumn<int>("caret");
     QTest::addColumn<QString>("typed");
@@ -141,7 +141,7 @@ void WindowChangesTest::caretStaysBehindWhatWasTyped_data()
     QTest::newRow("a digit in the middle") << 1 << QStringLiteral("9") << QStringLiteral("1923") << 2;
 }
 
-void WindowChangesTest::caretStaysBehindWhatWasTyped()
+void TestWindowChanges::caretStaysBehindWhatWasTyped()
 {
     QFETCH(int, caret);
     QFETCH(QString, typed);
@@ -153,7 +153,7 @@ void WindowChangesTest::caretStaysBehindWhatWasTyped()
     QTEST(edit->cursorPosition(), "caretAfter");
 }
 
-void WindowChangesTest::wordsFollowTheBoxWhenThePictureStays()
+void TestWindowChanges::wordsFollowTheBoxWhenThePictureStays()
 {
     const Ui::MainWindow &c = *m_app->controls;
     configure(QStringLiteral("Test"), marker);
@@ -164,7 +164,7 @@ void WindowChangesTest::wordsFollowTheBoxWhenThePictureStays()
     QCOMPARE(c.dragDropView->accessibleDescription(), QStringLiteral("anonymize"));
 }
 
-void WindowChangesTest::switchingConstructionOnLooksForConfigurations()
+void TestWindowChanges::switchingConstructionOnLooksForConfigurations()
 {
     const QComboBox &popup = *m_app->controls->selectConfigPopupButton;
     configure(QStringLiteral("Zebra"), marker);
@@ -173,7 +173,7 @@ void WindowChangesTest::switchingConstructionOnLooksForConfigurations()
     QCOMPARE(titles(popup), QStringList({QStringLiteral("Test"), QStringLiteral("Zebra")}));
 }
 
-void WindowChangesTest::theChosenConfigurationComesFirst()
+void TestWindowChanges::theChosenConfigurationComesFirst()
 {
     configure(QStringLiteral("Zebra"), marker);
     m_app->controller->getConfigurationFilePathsAndPopulateButton();
@@ -191,7 +191,7 @@ void WindowChangesTest::theChosenConfigurationComesFirst()
     QCOMPARE(titles(popup), QStringList{QStringLiteral("Test")});
 }
 
-void WindowChangesTest::withoutAChoiceTheFirstIsSelected()
+void TestWindowChanges::withoutAChoiceTheFirstIsSelected()
 {
     configure(QStringLiteral("Zebra"), marker);
     m_app->controller->getConfigurationFilePathsAndPopulateButton();
@@ -202,7 +202,7 @@ void WindowChangesTest::withoutAChoiceTheFirstIsSelected()
     QCOMPARE(popup.currentIndex(), 0);
 }
 
-void WindowChangesTest::refusedConstructionForgetsTheTagAndThePicture()
+void TestWindowChanges::refusedConstructionForgetsTheTagAndThePicture()
 {
     const Ui::MainWindow &c = *m_app->controls;
     configure(QStringLiteral("Test"), marker);
@@ -222,7 +222,7 @@ void WindowChangesTest::refusedConstructionForgetsTheTagAndThePicture()
     QCOMPARE(c.dragDropView->imageName(), QStringLiteral("DragImage.png"));
 }
 
-void WindowChangesTest::theFocusComesBackAfterARun()
+void TestWindowChanges::theFocusComesBackAfterARun()
 {
     const Ui::MainWindow &c = *m_app->controls;
     m_app->controller->window().activateWindow();
@@ -234,7 +234,7 @@ void WindowChangesTest::theFocusComesBackAfterARun()
     QCOMPARE(m_app->controller->window().focusWidget(), c.generateSOPCheckbox);
 }
 
-void WindowChangesTest::theFocusStaysWhereTheUserPutIt()
+void TestWindowChanges::theFocusStaysWhereTheUserPutIt()
 {
     const Ui::MainWindow &c = *m_app->controls;
     m_app->controller->window().activateWindow();
@@ -246,7 +246,7 @@ void WindowChangesTest::theFocusStaysWhereTheUserPutIt()
     QCOMPARE(m_app->controller->window().focusWidget(), c.creditsTextField);
 }
 
-void WindowChangesTest::statusIsInSightOnALowScreen()
+void TestWindowChanges::statusIsInSightOnALowScreen()
 {
     constexpr int lowScreen = 500; // what a title bar and a panel leave of 540
     QWidget &window = m_app->controller->window();
@@ -263,5 +263,5 @@ void WindowChangesTest::statusIsInSightOnALowScreen()
     }
 }
 
-DRAVOLIN_TEST(WindowChangesTest)
+DRAVOLIN_TEST(TestWindowChanges)
 #include "tst_windowchanges.moc"

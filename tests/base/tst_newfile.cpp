@@ -10,7 +10,7 @@
 using namespace dravolin;
 
 // Files that are written only under a free name.
-class NewFileTest : public QObject
+class TestNewFile : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-void NewFileTest::aFreeNameIsWritten()
+void TestNewFile::aFreeNameIsWritten()
 {
     QCOMPARE(writeNewText(path("free"), QStringLiteral("tëxt")), NewFile::Written);
     QCOMPARE(readText(path("free")), QStringLiteral("tëxt"));
@@ -37,24 +37,24 @@ void NewFileTest::aFreeNameIsWritten()
     QCOMPARE(readText(path("empty")), QString());
 }
 
-void NewFileTest::aTakenNameIsLeftAlone()
+void TestNewFile::aTakenNameIsLeftAlone()
 {
     QVERIFY(writeText(path("taken"), QStringLiteral("kept")));
     QCOMPARE(writeNewText(path("taken"), QStringLiteral("text")), NewFile::Taken);
     QCOMPARE(readText(path("taken")), QStringLiteral("kept"));
 }
 
-void NewFileTest::aLinkThatLeadsNowhereIsTaken()
+void TestNewFile::aLinkThatLeadsNowhereIsTaken()
 {
     QCOMPARE(::symlink(toBytes(path("nowhere")).constData(), toBytes(path("link")).constData()), 0);
     QCOMPARE(writeNewText(path("link"), QStringLiteral("text")), NewFile::Taken);
     QVERIFY(!pathExists(path("nowhere")));
 }
 
-void NewFileTest::aFolderThatIsMissingFails()
+void TestNewFile::aFolderThatIsMissingFails()
 {
     QCOMPARE(writeNewText(path("missing/file"), QStringLiteral("text")), NewFile::Failed);
 }
 
-DRAVOLIN_TEST(NewFileTest)
+DRAVOLIN_TEST(TestNewFile)
 #include "tst_newfile.moc"

@@ -9,7 +9,7 @@
 using namespace dravolin;
 using namespace dravolin::test;
 
-class BigIntConstructionTest : public QObject
+class TestBigIntConstruction : public QObject
 {
     Q_OBJECT
 
@@ -148,5 +148,5 @@ private Q_SLOTS:
     }
 };
 
-DRAVOLIN_TEST(BigIntConstructionTest)
-#include "BigIntConstructionTest.moc"
+DRAVOLIN_TEST(TestBigIntConstruction)
+#include "tst_bigintconstruction.moc"

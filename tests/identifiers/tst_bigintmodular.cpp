@@ -29,7 +29,7 @@ const QByteArray divisionByZero = "ArithmeticException / Division by zero.";
 
 } // namespace
 
-class BigIntModularTest : public QObject
+class TestBigIntModular : public QObject
 {
     Q_OBJECT
 
@@ -226,5 +226,5 @@ private Q_SLOTS:
     }
 };
 
-DRAVOLIN_TEST(BigIntModularTest)
-#include "BigIntModularTest.moc"
+DRAVOLIN_TEST(TestBigIntModular)
+#include "tst_bigintmodular.moc"

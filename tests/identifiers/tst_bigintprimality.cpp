@@ -30,7 +30,7 @@ constexpr quint32 wordOne = 2;
 
 } // namespace
 
-class BigIntPrimalityTest : public QObject
+class TestBigIntPrimality : public QObject
 {
     Q_OBJECT
 
@@ -260,5 +260,5 @@ private:
     };
 };
 
-DRAVOLIN_TEST(BigIntPrimalityTest)
-#include "BigIntPrimalityTest.moc"
+DRAVOLIN_TEST(TestBigIntPrimality)
+#include "tst_bigintprimality.moc"

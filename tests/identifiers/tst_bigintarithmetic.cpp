@@ -21,7 +21,7 @@ const QByteArray divisionByZero = "ArithmeticException / Division by zero.";
 
 } // namespace
 
-class BigIntArithmeticTest : public QObject
+class TestBigIntArithmetic : public QObject
 {
     Q_OBJECT
 
@@ -245,5 +245,5 @@ private Q_SLOTS:
     }
 };
 
-DRAVOLIN_TEST(BigIntArithmeticTest)
-#include "BigIntArithmeticTest.moc"
+DRAVOLIN_TEST(TestBigIntArithmetic)
+#include "tst_bigintarithmetic.moc"

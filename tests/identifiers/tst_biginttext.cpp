@@ -14,7 +14,7 @@ const QByteArray underflow = "ArithmeticException / Negative underflow in constr
 
 } // namespace
 
-class BigIntTextTest : public QObject
+class TestBigIntText : public QObject
 {
     Q_OBJECT
 
@@ -210,5 +210,5 @@ private Q_SLOTS:
     void writesTheLongestText() { QCOMPARE(mostPositive().toStringWithRadix(2), QString(2239, u'1')); }
 };
 
-DRAVOLIN_TEST(BigIntTextTest)
-#include "BigIntTextTest.moc"
+DRAVOLIN_TEST(TestBigIntText)
+#include "tst_biginttext.moc"

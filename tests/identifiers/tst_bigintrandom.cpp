@@ -17,7 +17,7 @@ namespace {
 
 } // namespace
 
-class BigIntRandomTest : public QObject
+class TestBigIntRandom : public QObject
 {
     Q_OBJECT
 
@@ -94,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-DRAVOLIN_TEST(BigIntRandomTest)
-#include "BigIntRandomTest.moc"
+DRAVOLIN_TEST(TestBigIntRandom)
+#include "tst_bigintrandom.moc"

@@ -17,7 +17,7 @@ namespace {
 
 } // namespace
 
-class BigIntLogicTest : public QObject
+class TestBigIntLogic : public QObject
 {
     Q_OBJECT
 
@@ -238,5 +238,5 @@ private:
     }
 };
 
-DRAVOLIN_TEST(BigIntLogicTest)
-#include "BigIntLogicTest.moc"
+DRAVOLIN_TEST(TestBigIntLogic)
+#include "tst_bigintlogic.moc"

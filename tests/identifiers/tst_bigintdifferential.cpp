@@ -57,7 +57,7 @@ struct Division
 
 } // namespace
 
-class BigIntDifferentialTest : public QObject
+class TestBigIntDifferential : public QObject
 {
     Q_OBJECT
 
@@ -230,5 +230,5 @@ private:
     }
 };
 
-DRAVOLIN_TEST(BigIntDifferentialTest)
-#include "BigIntDifferentialTest.moc"
+DRAVOLIN_TEST(TestBigIntDifferential)
+#include "tst_bigintdifferential.moc"

@@ -71,7 +71,7 @@ struct Definition
 
 } // namespace
 
-class BigIntLucasTest : public QObject
+class TestBigIntLucas : public QObject
 {
     Q_OBJECT
 
@@ -227,5 +227,5 @@ private:
     }
 };
 
-DRAVOLIN_TEST(BigIntLucasTest)
-#include "BigIntLucasTest.moc"
+DRAVOLIN_TEST(TestBigIntLucas)
+#include "tst_bigintlucas.moc"

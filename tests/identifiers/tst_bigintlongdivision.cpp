@@ -9,7 +9,7 @@ using namespace dravolin::test;
 // The branches of the division by two words and more. Below, an estimate is the quotient of the two highest
 // words of the running remainder and the divisor's highest word, after both were shifted up until its top
 // bit is set; b is 2^32 and L = 2^28 the limit.
-class BigIntLongDivisionTest : public QObject
+class TestBigIntLongDivision : public QObject
 {
     Q_OBJECT
 
@@ -193,5 +193,5 @@ private:
     }
 };
 
-DRAVOLIN_TEST(BigIntLongDivisionTest)
-#include "BigIntLongDivisionTest.moc"
+DRAVOLIN_TEST(TestBigIntLongDivision)
+#include "tst_bigintlongdivision.moc"
