@@ -19,6 +19,12 @@ namespace dravolin {
 
 namespace {
 
+// The journal names sources and destinations, and the folder may have been there, open to others.
+void closeToOthers(const QString &path)
+{
+    (void)::chmod(systemPath(path).constData(), 0600);
+}
+
 // Keeps a second call out of the run's folder as long as it lives.
 Descriptor lockFolder(const QString &folder, QString *problem)
 {
@@ -132,6 +138,7 @@ BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events)
         Journal::open(joinPath(options.runFolder, QStringLiteral("journal.sqlite")), &problem);
     if (!journal)
         return refused(problem);
+    closeToOthers(joinPath(options.runFolder, QStringLiteral("journal.sqlite")));
     return BatchCall(options, events, *journal).run();
 }
 
