@@ -9,6 +9,10 @@ namespace dravolin::check {
 
 namespace {
 
+// Bytes are searched piece by piece, so that a large file does not take many times its size.
+constexpr qsizetype pieceSize = 262144;
+constexpr qsizetype pieceOverlap = 2048; // longer than a value that identifies somebody
+
 bool hasHighBytes(QByteArrayView bytes)
 {
     return std::any_of(bytes.cbegin(), bytes.cend(),
@@ -56,8 +60,13 @@ void Searcher::takeMatches(const Place &place, QList<Finding> &findings)
 void Searcher::searchBytes(QByteArrayView bytes, const Place &place, const CharacterSets &sets,
                            QList<Finding> &findings)
 {
-    if (bytes.isEmpty())
-        return;
+    for (qsizetype start = 0; start < bytes.size(); start += pieceSize)
+        searchPiece(bytes.sliced(start, std::min(pieceSize + pieceOverlap, bytes.size() - start)), sets);
+    takeMatches(place, findings);
+}
+
+void Searcher::searchPiece(QByteArrayView bytes, const CharacterSets &sets)
+{
     searchText(decodeGuessing(bytes), TextKind::Bytes);
     if (bytes.contains('\x1B') || (sets.isOfItsOwn() && hasHighBytes(bytes)))
         searchText(sets.decode(bytes), TextKind::Bytes);
@@ -67,7 +76,6 @@ void Searcher::searchBytes(QByteArrayView bytes, const Place &place, const Chara
             searchText(decodeUtf16(bytes, offset, ByteOrder::BigEndian), TextKind::Bytes);
         }
     }
-    takeMatches(place, findings);
 }
 
 void Searcher::searchElement(const Element &element, SearchedFile &result)
