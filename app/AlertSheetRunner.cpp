@@ -52,10 +52,19 @@ int pressedButton(const QMessageBox &alert)
     return button->property(indexProperty).toInt();
 }
 
+void bringToFront(QMessageBox &alert)
+{
+    if (!alert.isVisible())
+        return;
+    alert.raise();
+    alert.activateWindow();
+}
+
 AlertSheetRunner *AlertSheetRunner::beginSheet(const AlertSheet &sheet, QWidget *window)
 {
     auto *runner = new AlertSheetRunner(sheet, window);
     runner->m_alert->open();
+    bringToFront(*runner->m_alert); // the log window may be in front of the main window
     return runner;
 }
 

@@ -40,4 +40,8 @@ private:
 // depend on the platform's theme.
 [[nodiscard]] int pressedButton(const QMessageBox &alert);
 
+// Puts an alert that is up above the application's other windows and gives it the keyboard; leaves one that
+// is not up alone.
+void bringToFront(QMessageBox &alert);
+
 } // namespace dravolin

@@ -12,6 +12,18 @@ namespace {
 
 constexpr qint64 turn = 10;              // milliseconds for which the event loop is held up
 constexpr qsizetype sliceLength = 16384; // so many characters cost far less than a turn
+constexpr qsizetype giantLine = 16384;   // characters
+
+bool hasGiantLine(QStringView text)
+{
+    for (qsizetype start = 0; text.size() - start > giantLine;) {
+        const qsizetype lineEnd = text.lastIndexOf(u'\n', start + giantLine);
+        if (lineEnd < start)
+            return true;
+        start = lineEnd + 1;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -20,8 +32,6 @@ LogWindowController::LogWindowController() : m_window(std::make_unique<QWidget>(
     Ui::LogWindow layout;
     layout.setupUi(m_window.get());
     m_logTextView = layout.logTextView;
-    // looking for words in a line without blanks takes the view more than ten times as long
-    m_logTextView->setWordWrapMode(QTextOption::WrapAnywhere);
     m_nextTurn.setInterval(0);
     QObject::connect(&m_nextTurn, &QTimer::timeout, m_window.get(), [this] { appendForOneTurn(); });
 }
@@ -33,12 +43,13 @@ void LogWindowController::showWithText(const QString &text)
     centerOnScreen(*m_window);
     m_window->show();
     m_logTextView->clear();
-    QTextCursor top = m_logTextView->textCursor();
-    top.setKeepPositionOnInsert(true);
-    m_logTextView->setTextCursor(top);
+    // looking for words in a line without blanks takes the view more than ten times as long
+    m_logTextView->setWordWrapMode(hasGiantLine(text) ? QTextOption::WrapAnywhere
+                                                      : QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_text = text;
     m_shown = 0;
     appendForOneTurn();
+    m_logTextView->moveCursor(QTextCursor::Start); // the first insertion has taken the caret along
 }
 
 void LogWindowController::appendForOneTurn()

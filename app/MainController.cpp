@@ -1,5 +1,7 @@
 #include "app/MainController.h"
 
+#include "app/AlertSheetRunner.h"
+#include "app/FieldText.h"
 #include "app/MainWindow.h"
 #include "run/DropIntake.h"
 #include "run/RunDriver.h"
@@ -7,6 +9,7 @@
 #include "ui_MainWindow.h"
 
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QSettings>
 #include <QTimer>
 
@@ -45,6 +48,7 @@ MainController::MainController(const AppPorts &ports)
               .presenter = m_presenter,
               .paths = m_paths,
               .delays = m_delays,
+              .ownChange = m_ownChange,
               .showLog = [this](const QString &text) { showLogWindowWithLogText(text); }}),
       m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids}
 {
@@ -68,17 +72,27 @@ void MainController::connectControls()
 {
     const Ui::MainWindow &c = *m_controls;
     const auto typed = [this](QLineEdit *edit, TextField field) {
-        connect(edit, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
+        connect(edit, &QLineEdit::textChanged, this, [this, field] {
+            if (!m_ownChange)
+                controlTextDidChange(field);
+        });
     };
     typed(c.uidRootTextField, TextField::UidRoot);
     typed(c.caseIDTextField, TextField::CaseId);
-    // clicked and activated come from the user alone, so that no rule sets off another
-    connect(c.prepopulateLUTcheckbox, &QCheckBox::clicked, this,
-            &MainController::prepopulateLUTcheckboxDidChange);
-    connect(c.generateSOPCheckbox, &QCheckBox::clicked, this, &MainController::generateSOPCheckboxChanged);
-    connect(c.onlyGenerateSOPCheckbox, &QCheckBox::clicked, this,
-            &MainController::onlyGenerateSOPCheckboxChanged);
+    // a screen reader changes texts and boxes without typing and clicking
+    const auto switched = [this](QCheckBox *box, void (MainController::*rule)()) {
+        connect(box, &QCheckBox::toggled, this, [this, rule] {
+            if (!m_ownChange) // no rule sets off another
+                (this->*rule)();
+        });
+    };
+    switched(c.prepopulateLUTcheckbox, &MainController::prepopulateLUTcheckboxDidChange);
+    switched(c.generateSOPCheckbox, &MainController::generateSOPCheckboxChanged);
+    switched(c.onlyGenerateSOPCheckbox, &MainController::onlyGenerateSOPCheckboxChanged);
+    connect(c.prepopulateLUTcheckbox, &QCheckBox::toggled, c.dragDropView, &QVDragDropView::setConstructing);
     connect(c.selectLUTpopupButton, &QComboBox::activated, this, &MainController::selectLUTcheckboxChanged);
+    connect(c.selectConfigPopupButton, &QComboBox::textActivated, this,
+            [this](const QString &title) { m_chosenConfiguration = title; });
     connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
     connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
     connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
@@ -101,7 +115,10 @@ void MainController::restoreUidRoot()
     const QString root = preferences().value(uidRootKey).toString();
     if (root.isEmpty())
         return;
-    m_controls->uidRootTextField->setText(root);
+    {
+        const QScopedValueRollback own(m_ownChange, true);
+        m_controls->uidRootTextField->setText(root);
+    }
     checkUIDroot();
 }
 
@@ -162,6 +179,9 @@ void MainController::showLogWindowWithLogText(const QString &text)
     }
     m_logWinController = std::make_unique<LogWindowController>();
     m_logWinController->showWithText(text);
+    // what waits for an answer stays in front
+    for (QMessageBox *sheet : m_window->findChildren<QMessageBox *>())
+        bringToFront(*sheet);
 }
 
 bool MainController::checkUIDroot()
@@ -180,9 +200,8 @@ void MainController::controlTextDidChange(TextField field)
         field == TextField::UidRoot ? m_controls->uidRootTextField : m_controls->caseIDTextField;
     const QString filtered = filterTypedIdentifier(edit->text());
     if (filtered.size() < edit->text().size()) {
-        const int cursor = edit->cursorPosition();
-        edit->setText(filtered);
-        edit->setCursorPosition(cursor);
+        const QScopedValueRollback own(m_ownChange, true);
+        showKeepingCaret(*edit, filtered);
     }
     checkUIDroot();
 }

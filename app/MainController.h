@@ -126,6 +126,8 @@ private:
 
     AppPaths m_paths;
     Delays m_delays;
+    bool m_ownChange = false;      // the program itself changes a field or a box: no rule follows
+    QString m_chosenConfiguration; // by the user, by its title; "" for none
     AlertPresenter &m_presenter;
     SharedRunState m_state;
     MainThreadGate m_gate;

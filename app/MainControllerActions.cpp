@@ -8,16 +8,28 @@
 #include "run/LutSteps.h"
 #include "ui_MainWindow.h"
 
+#include <QScopedValueRollback>
+
 namespace dravolin {
 
 namespace {
 
 const QString webSite = QStringLiteral("https://dravolin.example/");
 
+// The first title is the one that gets selected: what the user has chosen comes first, when it is still
+// there.
+QStringList inOrder(QStringList titles, const QString &chosen)
+{
+    if (const qsizetype place = titles.indexOf(chosen); place > 0)
+        titles.move(place, 0);
+    return titles;
+}
+
 } // namespace
 
 void MainController::apply(const CheckBoxChanges &changes)
 {
+    const QScopedValueRollback own(m_ownChange, true);
     const auto set = [](QCheckBox *box, std::optional<bool> on) {
         if (on)
             box->setChecked(*on);
@@ -57,6 +69,7 @@ void MainController::refuseConstruction()
             m_window->close();
             return;
         }
+        const QScopedValueRollback own(m_ownChange, true);
         m_controls->prepopulateLUTcheckbox->setChecked(false);
         m_controls->dragDropView->setImageForLUTcheckboxState(0);
     };
@@ -84,7 +97,8 @@ void MainController::getConfigurationFilePathsAndPopulateButton()
     const FoundConfigurations found = findConfigurations(m_paths);
     m_state.set(&RunState::allConfigPaths, found.allConfigPaths);
     m_controls->selectConfigPopupButton->clear();
-    m_controls->selectConfigPopupButton->addItems(found.allConfigPaths.keys());
+    m_controls->selectConfigPopupButton->addItems(
+        inOrder(found.allConfigPaths.keys(), m_chosenConfiguration));
     m_controls->selectConfigPopupButton->setCurrentIndex(0);
     if (found.revertedToDefault)
         tellDefaultConfiguration();

@@ -1,10 +1,12 @@
 #include "app/MainWindowHost.h"
 
+#include "app/FieldText.h"
 #include "app/RunDialogs.h"
 #include "base/Texts.h"
 #include "ui_MainWindow.h"
 
 #include <QPropertyAnimation>
+#include <QScopedValueRollback>
 #include <QThread>
 #include <QTimer>
 
@@ -80,9 +82,8 @@ void MainWindowHost::setRoot(const RootCheck &root)
         QLineEdit *const edit = m_parts.controls.uidRootTextField;
         // setting the same text again would move the cursor of somebody who is typing
         if (edit->text() != root.trimmedRoot) {
-            const int cursor = edit->cursorPosition();
-            edit->setText(root.trimmedRoot);
-            edit->setCursorPosition(cursor);
+            const QScopedValueRollback own(m_parts.ownChange, true);
+            showKeepingCaret(*edit, root.trimmedRoot);
         }
         m_parts.controls.rootValidLabel->setText(root.valid ? Texts::tr("UID may be valid")
                                                             : Texts::tr("Root is invalid, will be replaced"));
@@ -123,12 +124,25 @@ void MainWindowHost::answered(Refusal refusal, int code)
 
 void MainWindowHost::runBegins(const RunBeginning &beginning, std::function<void()> start)
 {
+    const QPointer<QWidget> focus = m_parts.window.focusWidget();
     for (const WindowStep &step : beginSteps(beginning)) {
         if (step.kind == WindowStep::Kind::Grow)
             grow(start);
         else
             performNow(step);
     }
+    if (focus && !focus->isEnabled()) {
+        m_focusBefore = focus;
+        m_focusMeanwhile = m_parts.window.focusWidget();
+    }
+}
+
+void MainWindowHost::giveFocusBack()
+{
+    // a user who has gone elsewhere in the meantime stays there
+    if (m_focusBefore && m_parts.window.focusWidget() == m_focusMeanwhile)
+        m_focusBefore->setFocus();
+    m_focusBefore.clear();
 }
 
 void MainWindowHost::progress(const Progress &progress)
@@ -141,6 +155,7 @@ void MainWindowHost::runEnds(const RunJudgement &judgement)
     bool tablesExist = false;
     onMain([&] { tablesExist = m_tablesExist; });
     perform(endSteps(judgement, tablesExist));
+    onMain([this] { giveFocusBack(); });
 }
 
 void MainWindowHost::tablesFound(const TitleToPath &tables)

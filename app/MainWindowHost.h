@@ -6,6 +6,7 @@
 #include "config/AppPaths.h"
 #include "run/jobs/RunHost.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <mutex>
@@ -39,6 +40,7 @@ public:
         AlertPresenter &presenter;
         const AppPaths &paths;
         const Delays &delays;
+        bool &ownChange; // set while the host changes a field; main thread only
         std::function<void(const QString &)> showLog;
     };
     explicit MainWindowHost(Parts parts);
@@ -62,10 +64,14 @@ private:
     void performNow(const WindowStep &step);
     [[nodiscard]] QWidget *control(WindowStep::Kind kind) const;
     void grow(std::function<void()> then);
+    void giveFocusBack();
     void answered(Refusal refusal, int code);
 
     Parts m_parts;
-    bool m_tablesExist = false; // main thread only
+    // Main thread only.
+    bool m_tablesExist = false;
+    QPointer<QWidget> m_focusBefore;    // the control that lost the focus when a run disabled it
+    QPointer<QWidget> m_focusMeanwhile; // the one that got it
     // What is switched and selected: a run reads it for every folder and is not to wait each time until the
     // main thread has painted.
     std::mutex m_mutex;

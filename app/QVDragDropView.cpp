@@ -18,6 +18,7 @@ namespace {
 const QString dragImage = QStringLiteral("DragImage.png");
 const QString lutImage = QStringLiteral("LutImage.png");
 constexpr qreal highlightWidth = 6.0;
+constexpr qreal margin = 12;
 
 bool isLocalFile(const QUrl &url)
 {
@@ -65,6 +66,7 @@ QVDragDropView::QVDragDropView(QWidget *parent) : QWidget(parent)
 {
     setAcceptDrops(true);
     setImageForLUTcheckboxState(0);
+    setConstructing(false);
 }
 
 void QVDragDropView::setImageFolder(const QString &folder)
@@ -76,13 +78,19 @@ void QVDragDropView::setImageFolder(const QString &folder)
 
 QString QVDragDropView::imageName() const
 {
-    return m_constructing ? lutImage : dragImage;
+    return m_showsLutImage ? lutImage : dragImage;
 }
 
 void QVDragDropView::setImageForLUTcheckboxState(int state)
 {
-    m_constructing = state == 1;
+    m_showsLutImage = state == 1;
     m_image.load(joinPath(m_imageFolder, imageName()));
+    update();
+}
+
+void QVDragDropView::setConstructing(bool constructing)
+{
+    m_constructing = constructing;
     setAccessibleDescription(m_constructing ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
     update();
 }
@@ -167,6 +175,16 @@ QString QVDragDropView::hint() const
                           : Texts::tr("Drop folders or DICOM files here to anonymize them");
 }
 
+QRectF QVDragDropView::paintHint(QPainter &painter) const
+{
+    constexpr int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
+    const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+    painter.setPen(palette().color(QPalette::Text));
+    QRectF place;
+    painter.drawText(inside, flags, hint(), &place);
+    return place;
+}
+
 void QVDragDropView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -176,18 +194,13 @@ void QVDragDropView::paintEvent(QPaintEvent *)
     painter.setBrush(palette().base());
     painter.drawRoundedRect(frame, 10, 10);
 
-    const qreal margin = 12;
-    const qreal textHeight = fontMetrics().height() * 1.2;
-    const QRectF textArea(margin, height() - margin - textHeight, width() - 2 * margin, textHeight);
+    const QRectF textArea = paintHint(painter);
     const QRectF imageArea(margin, margin, width() - 2 * margin, textArea.top() - 2 * margin);
     if (!m_image.isNull() && imageArea.height() > 0) {
         const QSizeF size = QSizeF(m_image.size()).scaled(imageArea.size(), Qt::KeepAspectRatio);
         const QPointF corner = imageArea.center() - QPointF(size.width(), size.height()) / 2;
         painter.drawPixmap(QRectF(corner, size), m_image, QRectF(m_image.rect()));
     }
-    painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(textArea, Qt::AlignCenter,
-                     fontMetrics().elidedText(hint(), Qt::ElideRight, static_cast<int>(textArea.width())));
     if (!m_isHighlighted)
         return;
     painter.setPen(QPen(palette().highlight(), highlightWidth));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMimeData>
+#include <QPainter>
 #include <QPixmap>
 #include <QStringList>
 #include <QWidget>
@@ -31,6 +32,8 @@ public:
     // "LutImage.png" when `state` is exactly 1, else "DragImage.png".
     void setImageForLUTcheckboxState(int state);
     [[nodiscard]] QString imageName() const;
+    // What the view says a drop will do, in the hint under the picture and to a screen reader.
+    void setConstructing(bool constructing);
 
     // Sets the highlight and answers copy, or clears it and refuses when a dragged address is no local file.
     Qt::DropAction draggingEntered(const QMimeData &drag);
@@ -53,11 +56,13 @@ protected:
 
 private:
     [[nodiscard]] QString hint() const;
+    [[nodiscard]] QRectF paintHint(QPainter &painter) const; // gives the place that it takes
     void handOn(const QStringList &paths);
 
     QVDragDropViewDelegate *m_delegate = nullptr;
     bool m_isHighlighted = false;
     QString m_imageFolder;
+    bool m_showsLutImage = false;
     bool m_constructing = false;
     QPixmap m_image;
 };

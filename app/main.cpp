@@ -8,6 +8,7 @@ int main(int, char *argv[])
     int ownName = 1; // the program reads no options, the toolkit's own included
     QApplication application(ownName, argv);
     QApplication::setApplicationName(dravolin::executableName());
+    QApplication::setDesktopFileName(QStringLiteral("example.dravolin.Dravolin"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the log window
     dravolin::QVAppDelegate delegate;
     delegate.applicationDidFinishLaunching();

@@ -55,9 +55,11 @@ std::optional<TagNumber> tagFromText(const QString &text)
     const auto isDigit = [](QChar c) {
         return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
     };
-    if (text.size() != 9 || text.at(4) != u',' || std::count_if(text.begin(), text.end(), isDigit) != 8)
+    const QString digits = text.startsWith(u'+') ? u'0' + text.mid(1) : text;
+    if (digits.size() != 9 || digits.at(4) != u',' ||
+        std::count_if(digits.begin(), digits.end(), isDigit) != 8)
         return std::nullopt;
-    return text.left(4).toUInt(nullptr, 16) << 16 | text.right(4).toUInt(nullptr, 16);
+    return digits.left(4).toUInt(nullptr, 16) << 16 | digits.right(4).toUInt(nullptr, 16);
 }
 
 QString tagText(TagNumber tag)

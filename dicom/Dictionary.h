@@ -25,7 +25,8 @@ using Vr = quint16;
 // may be bytes or words, US for what may have a sign; 0 for an attribute that is not known.
 [[nodiscard]] Vr dictionaryVr(TagNumber tag);
 
-// gggg,eeee in hexadecimal digits of any case; nothing for every other text.
+// gggg,eeee in hexadecimal digits of any case, the first of which may be a plus sign, as the tools take it
+// for 0; nothing for every other text.
 [[nodiscard]] std::optional<TagNumber> tagFromText(const QString &text);
 // (gggg,eeee) in lower case
 [[nodiscard]] QString tagText(TagNumber tag);

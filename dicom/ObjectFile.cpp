@@ -84,6 +84,8 @@ QString readNames(const OpenObject &object, ObjectNames &names)
 ObjectFacts factsOf(const OpenObject &object)
 {
     ObjectFacts facts;
+    facts.size = object.file->size();
+    facts.modified = object.file->modified();
     facts.names.sopClass = object.prologue.sopClass;
     facts.isDirectory = facts.names.sopClass == mediaDirectory;
     if (!facts.isDirectory)

@@ -83,6 +83,9 @@ bool Rewriter::stepElement()
     const Element element = m_reader.current();
     if (m_levels.isTop() && !insertBefore(element.tag, element.start))
         return false;
+    if (m_levels.isTop())
+        m_toInsert.remove(
+            element.tag); // it is there; a sequence of that tag makes way for what is to be inserted
     m_levels.enterGroup(groupOf(element.tag));
     noteSurroundings(element);
     return changeElement(element);
@@ -153,7 +156,6 @@ bool Rewriter::insertBefore(TagNumber tag, quint64 offset)
         m_inserted.insert(added);
         noteValue(added, *change.value);
     }
-    m_toInsert.remove(tag);
     return true;
 }
 

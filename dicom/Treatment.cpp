@@ -18,6 +18,11 @@ constexpr std::array<TagNumber, 17> classesAndSyntaxes = {
     0x04000010,
 };
 
+QString valueOf(const Edit &edit)
+{
+    return edit.value == QStringLiteral("\"\"") ? QString() : edit.value;
+}
+
 // What makes a rule one that cannot be carried out; "" when nothing does.
 QString problemWith(TagNumber tag, const Edit &edit)
 {
@@ -32,7 +37,7 @@ QString problemWith(TagNumber tag, const Edit &edit)
     const Vr representation = dictionaryVr(tag);
     if (representation == 0)
         return Texts::tr("%1 is not known, so no value can be written for it").arg(tagText(tag));
-    if (!valueBytes(representation, {}, edit.value.toUtf8()))
+    if (!valueBytes(representation, {}, valueOf(edit).toUtf8()))
         return Texts::tr("\"%1\" is no value for %2").arg(edit.value, tagText(tag));
     return {};
 }
@@ -43,7 +48,7 @@ AttributeRule ruleFor(const Edit &edit, bool withTable)
         return {AttributeRule::Kind::Erase, {}};
     if (withTable && edit.value.startsWith(tableMarkerPrefix))
         return {AttributeRule::Kind::FromTable, {}};
-    return {AttributeRule::Kind::Set, edit.value};
+    return {AttributeRule::Kind::Set, valueOf(edit)};
 }
 
 } // namespace
@@ -56,10 +61,14 @@ AttributeRules attributeRules(const QList<Edit> &edits, bool withTable, QStringL
             continue;
         const std::optional<TagNumber> tag = tagFromText(edit.tag);
         const QString problem = tag ? problemWith(*tag, edit) : Texts::tr("\"%1\" is no tag").arg(edit.tag);
-        if (problem.isEmpty())
-            rules.insert(*tag, ruleFor(edit, withTable));
-        else
+        if (!problem.isEmpty()) {
             problems->append(problem);
+            continue;
+        }
+        AttributeRule rule = ruleFor(edit, withTable);
+        if (rules.contains(*tag) && rules.value(*tag).kind == AttributeRule::Kind::Erase)
+            rule.copies = AttributeRule::Copies::Erase;
+        rules.insert(*tag, rule);
     }
     return rules;
 }

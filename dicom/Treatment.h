@@ -19,11 +19,14 @@ struct AttributeRule
 {
     enum class Kind {
         Erase,    // at every level
-        Set,      // the value at the top level, there or not, and below it where the attribute is there
+        Set,      // the value at the top level, there or not
         FromTable // at every level, there or nowhere: the table's value for the whole old one
     };
     Kind kind = Kind::Erase;
     QString value;
+    // what Kind::Set does below the top level; a sequence is erased there in any case
+    enum class Copies { Set, Erase, AsWithoutRule };
+    Copies copies = Copies::Set;
 
     bool operator==(const AttributeRule &) const = default;
 };
@@ -42,9 +45,10 @@ struct Treatment
     std::function<QByteArray(const QByteArray &)> newUid;
 };
 
-// The rules that `edits` mean, the later one for the same attribute. What would do nothing, or would make all
-// files the same object, makes a text in `problems` and no rule. Values that begin as a table's marker become
-// Kind::FromTable when `withTable`.
+// The rules that `edits` mean, the later one for the same attribute; a value for one that was erased before
+// is set at the top level alone. The value "" (two quotes) is the empty one. What would do nothing, or would
+// make all files the same object, makes a text in `problems` and no rule. Values that begin as a table's
+// marker become Kind::FromTable when `withTable`.
 [[nodiscard]] AttributeRules attributeRules(const QList<Edit> &edits, bool withTable, QStringList *problems);
 
 // gggg,"creator",ee: a private attribute without the block that its creator happens to have in a file.

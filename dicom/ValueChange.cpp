@@ -13,6 +13,7 @@ namespace dravolin {
 namespace {
 
 using Kind = AttributeRule::Kind;
+using Copies = AttributeRule::Copies;
 
 constexpr TagNumber characterSetTag = 0x00080005;
 constexpr TagNumber trailingPadding = 0xfffcfffc;
@@ -64,16 +65,27 @@ ValueChange::Result ValueChange::apply(ElementReader &reader, const Element &ele
     if (m_toUtf8 && element.tag == characterSetTag)
         return value(element, utf8CharacterSet);
     if (const auto rule = m_treatment.rules.constFind(element.tag); rule != m_treatment.rules.constEnd()) {
-        switch (rule->kind) {
-        case Kind::Erase: return erased();
-        case Kind::Set: return newValue(element, rule->value, around.characterSet);
-        case Kind::FromTable: return fromTable(reader, element, around.characterSet);
-        }
+        const bool isCopy = rule->kind == Kind::Set && reader.depth() > 0;
+        if (isCopy && rule->copies == Copies::Erase)
+            return erased();
+        if (!isCopy || rule->copies == Copies::Set)
+            return byRule(reader, element, *rule, around.characterSet);
     }
     if (m_treatment.newUid && element.representation == vr('U', 'I') && !namesNoInstance(element.tag))
         return mappedUids(reader, element);
     if (m_toUtf8 && isText(element.representation))
         return movedText(reader, element, around.characterSet);
+    return {};
+}
+
+ValueChange::Result ValueChange::byRule(ElementReader &reader, const Element &element,
+                                        const AttributeRule &rule, const QByteArray &characterSet)
+{
+    switch (rule.kind) {
+    case Kind::Erase: return erased();
+    case Kind::Set: return newValue(element, rule.value, characterSet);
+    case Kind::FromTable: return fromTable(reader, element, characterSet);
+    }
     return {};
 }
 

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] bool needsUtf8() const { return m_needsUtf8; }
 
 private:
+    [[nodiscard]] Result byRule(ElementReader &reader, const Element &element, const AttributeRule &rule,
+                                const QByteArray &characterSet);
     [[nodiscard]] Result newValue(const Element &element, const QString &text,
                                   const QByteArray &characterSet);
     [[nodiscard]] Result fromTable(ElementReader &reader, const Element &element,

@@ -66,7 +66,7 @@ QByteArray elementBytes(TagNumber tag, Vr representation, const Notation &notati
 
 std::optional<QByteArray> valueBytes(Vr representation, const Notation &notation, const QByteArray &text)
 {
-    if (isCharacters(representation))
+    if (isCharacters(representation) || text.isEmpty())
         return text;
     DcmElement *made = nullptr;
     if (DcmItem::newDicomElementWithVR(made, DcmTag(anyGroup, anyElement, vrOf(representation))).bad())

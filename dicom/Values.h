@@ -20,7 +20,8 @@ namespace dravolin {
 
 // The bytes of a value that is written as text, as DCMTK's tools take it: numbers in decimal digits, bytes
 // and words in hexadecimal ones, several values with a backslash between. Text values are in the character
-// set of the object. Nothing when the text is no value of `representation`, as always for a sequence.
+// set of the object. Nothing when the text is no value of `representation`; of a sequence only the
+// empty text is.
 [[nodiscard]] std::optional<QByteArray> valueBytes(Vr representation, const Notation &notation,
                                                    const QByteArray &text);
 

@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/Lines.h"
+#include "base/NewFile.h"
 #include "base/SystemLog.h"
 #include "processing/CountedJobs.h"
 
@@ -45,14 +46,28 @@ quint64 collect(const RunContext &context, const QString &folder, CommandsFor &&
     return result.ran ? 0 : 1;
 }
 
-QString freeLutPath(const QString &folder, const QString &name)
+// A link that leads nowhere does not take its name.
+bool writeUnlessTaken(const QString &path, const QString &text, bool &taken)
+{
+    const NewFile result = writeNewText(path, text);
+    taken = result == NewFile::Taken && pathExists(path);
+    return result == NewFile::Written || (result == NewFile::Taken && !taken && writeText(path, text));
+}
+
+// Under the first free name; no file is overwritten.
+void writeUnderFreeName(const QString &folder, const QString &name, const QString &text)
 {
     const QString stem = joinPath(folder, QStringLiteral("AnonymizationLUT_") + name);
     const QString extension = QStringLiteral(".txt");
     QString path = stem + extension;
-    for (quint64 counter = 1; pathExists(path); ++counter)
+    bool taken = false;
+    bool written = writeUnlessTaken(path, text, taken);
+    for (quint64 counter = 1; taken; ++counter) {
         path = stem + QString::number(counter) + extension;
-    return path;
+        written = writeUnlessTaken(path, text, taken);
+    }
+    if (!written)
+        logMessage(QStringLiteral("Could not write LUT to file: %1").arg(path));
 }
 
 QString lutName(const SharedRunState &state, const RunOptions &options)
@@ -142,9 +157,7 @@ void writeConstructedLut(const RunContext &context, const RunOptions &options)
         lutText(context.state.get(&RunState::LUTconstructionTag),
                 sortedLutValues(context.state.get(&RunState::LUTtagSet), QLocale().collation()));
     (void)createFolder(context.paths.desktopFolder);
-    const QString path = freeLutPath(context.paths.desktopFolder, lutName(context.state, options));
-    if (!writeText(path, text))
-        logMessage(QStringLiteral("Could not write LUT to file: %1").arg(path));
+    writeUnderFreeName(context.paths.desktopFolder, lutName(context.state, options), text);
 }
 
 } // namespace dravolin

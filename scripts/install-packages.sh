@@ -7,16 +7,20 @@
 #   run      what the built program calls when it runs
 #   desktop  a screen without a monitor, and what drives a program on it
 #   test     what the tests need beside these
+#   package  what makes and checks the Debian package
 set -eu
 
 packages_of() {
     case "$1" in
-        build) echo build-essential cmake ninja-build qt6-base-dev dcmtk libdcmtk-dev libssl-dev zlib1g-dev ;;
-        run) echo dcmtk libqt6widgets6 libqt6gui6 libqt6dbus6 xdg-utils fonts-dejavu-core ;;
+        build) echo build-essential cmake ninja-build qt6-base-dev dcmtk libdcmtk-dev libgdcm-dev libssl-dev zlib1g-dev \
+            libqt6sql6-sqlite ;;
+        run) echo dcmtk libdcmtk17 libgdcm3.0 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 \
+            libqt6dbus6 xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core ;;
         test) echo python3 dcmtk dicom3tools libgmp-dev clang-format clang-tidy ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test)" >&2; exit 2 ;;
+        package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package)" >&2; exit 2 ;;
     esac
 }
 

@@ -10,7 +10,7 @@ case "${1-}" in
     *) sed -n '2,3s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
 esac
 echo "This installs the packages for building and testing, builds Dravolin ($presets) and runs its tests."
-scripts/install-packages.sh build test desktop
+scripts/install-packages.sh build test desktop package
 
 for preset in $presets; do
     echo "== $preset"

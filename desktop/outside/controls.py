@@ -80,6 +80,15 @@ class Control:
         x, y, width, height = self.box
         return x + width // 2, y + height // 2
 
+    def act(self, action):
+        """What a screen reader does instead of a click."""
+        names = [Atspi.Action.get_action_name(self.node, i) for i in range(Atspi.Action.get_n_actions(self.node))]
+        Atspi.Action.do_action(self.node, names.index(action))
+
+    def set_text(self, text):
+        """What a screen reader does instead of typing."""
+        Atspi.EditableText.set_text_contents(self.node, text)
+
     def children(self):
         for index in range(self.node.get_child_count()):
             child = self.node.get_child_at_index(index)

@@ -80,8 +80,7 @@ class Program:
 
     def fill(self, name, text):
         field = self.control(name, FIELDS)
-        mouse.click(steady_middle(field))
-        wait_until(lambda: field.focused, f"the focus in '{name}'")
+        wait_until(lambda: clicked_into(field), f"the focus in '{name}'")
         mouse.press_key("ctrl+a")
         mouse.press_key("Delete")
         mouse.type_text(text)
@@ -192,6 +191,15 @@ class FileBrowser:
         """The addresses it was asked to show; to be called once, at the end."""
         self.process.terminate()
         return self.process.communicate(timeout=20)[0].split()
+
+
+def clicked_into(field):
+    """Whether a click has brought the focus; on a busy desktop one may come to nothing."""
+    mouse.click(steady_middle(field))
+    try:
+        return wait_until(lambda: field.focused, "the focus", 2)
+    except Failure:
+        return False
 
 
 def steady_middle(control):

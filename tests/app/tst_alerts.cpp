@@ -28,7 +28,7 @@ QAbstractButton *buttonNamed(const QMessageBox &box, const QString &caption)
     return nullptr;
 }
 
-class AlertsTest : public QObject
+class TestAlerts : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ AlertSheet threeButtons()
     return sheet;
 }
 
-void AlertsTest::sheetTellsTheButtonsCode_data()
+void TestAlerts::sheetTellsTheButtonsCode_data()
 {
     QTest::addColumn<QString>("press");
     QTest::addColumn<int>("escape");
@@ -65,7 +65,7 @@ void AlertsTest::sheetTellsTheButtonsCode_data()
     QTest::newRow("the close button, too") << QStringLiteral("<close>") << 1001 << 1001;
 }
 
-void AlertsTest::sheetTellsTheButtonsCode()
+void TestAlerts::sheetTellsTheButtonsCode()
 {
     QFETCH(QString, press);
     QFETCH(int, escape);
@@ -88,7 +88,7 @@ void AlertsTest::sheetTellsTheButtonsCode()
     QCOMPARE(codes, QList<int>{code});
 }
 
-void AlertsTest::sheetIsUpAtOnceAndGoesAfterItsAnswer()
+void TestAlerts::sheetIsUpAtOnceAndGoesAfterItsAnswer()
 {
     QWidget window;
     window.show();
@@ -102,7 +102,7 @@ void AlertsTest::sheetIsUpAtOnceAndGoesAfterItsAnswer()
     QVERIFY(!box);
 }
 
-void AlertsTest::textsAreShownAsTheyAre()
+void TestAlerts::textsAreShownAsTheyAre()
 {
     QWidget window;
     AlertSheet sheet = threeButtons();
@@ -131,7 +131,7 @@ void endForeignAlert()
     AlertSheetRunner::beginSheet(threeButtons(), &window)->alertDidEnd(&foreign);
 }
 
-void AlertsTest::aForeignAlertIsAnAssertion()
+void TestAlerts::aForeignAlertIsAnAssertion()
 {
     QProcess child;
     child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("end_foreign_alert")});
@@ -141,7 +141,7 @@ void AlertsTest::aForeignAlertIsAnAssertion()
              QByteArray("Got a alert different from what I expected -- This should never happen"));
 }
 
-void AlertsTest::modalAlertGivesTheButton_data()
+void TestAlerts::modalAlertGivesTheButton_data()
 {
     QTest::addColumn<QString>("press");
     QTest::addColumn<bool>("escapeIsAlternate");
@@ -152,7 +152,7 @@ void AlertsTest::modalAlertGivesTheButton_data()
     QTest::newRow("Escape is the alternate") << QString() << true << true;
 }
 
-void AlertsTest::modalAlertGivesTheButton()
+void TestAlerts::modalAlertGivesTheButton()
 {
     QFETCH(QString, press);
     QFETCH(bool, escapeIsAlternate);
@@ -174,7 +174,7 @@ void AlertsTest::modalAlertGivesTheButton()
     QCOMPARE(presenter.runModal(alert, &window), alternate ? AlertButton::Alternate : AlertButton::Default);
 }
 
-void AlertsTest::logShowsTheTextAsGiven()
+void TestAlerts::logShowsTheTextAsGiven()
 {
     LogWindowController log;
     const QString text = QStringLiteral("E: <b>one</b> %1 & two\n\n\n\n\tthree  ");
@@ -187,7 +187,7 @@ void AlertsTest::logShowsTheTextAsGiven()
     QCOMPARE(log.logTextView()->accessibleName(), QStringLiteral("Log"));
 }
 
-void AlertsTest::longLogComesInWhileTheWindowReacts()
+void TestAlerts::longLogComesInWhileTheWindowReacts()
 {
     LogWindowController log;
     QString text;
@@ -213,5 +213,5 @@ const test::TestEntry foreignAlert("end_foreign_alert", [](int, char *[]) {
 
 } // namespace
 
-DRAVOLIN_TEST(AlertsTest)
+DRAVOLIN_TEST(TestAlerts)
 #include "tst_alerts.moc"

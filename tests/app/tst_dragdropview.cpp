@@ -20,7 +20,7 @@ public:
     QList<QStringList> drops;
 };
 
-class DragDropViewTest : public QObject
+class TestDragDropView : public QObject
 {
     Q_OBJECT
 
@@ -49,6 +49,7 @@ private Q_SLOTS:
     void highlightIsDrawn();
     void imageFollowsTheState_data();
     void imageFollowsTheState();
+    void wordsSayWhatADropWillDo();
 
 private:
     [[nodiscard]] bool perform(const QStringList &paths)
@@ -60,7 +61,7 @@ private:
     Delegate m_delegate;
 };
 
-void DragDropViewTest::drops_data()
+void TestDragDropView::drops_data()
 {
     QTest::addColumn<QStringList>("paths");
     QTest::addColumn<bool>("success");
@@ -82,7 +83,7 @@ void DragDropViewTest::drops_data()
         << QStringList{QStringLiteral("/data/a \"b\" 'c' $d `e` %20 [x] \n f ä")} << true << true;
 }
 
-void DragDropViewTest::drops()
+void TestDragDropView::drops()
 {
     QFETCH(QStringList, paths);
     QFETCH(bool, success);
@@ -94,7 +95,7 @@ void DragDropViewTest::drops()
     QCOMPARE(m_view->imageName(), imageBefore);
 }
 
-void DragDropViewTest::everyPictureExtensionIsTold_data()
+void TestDragDropView::everyPictureExtensionIsTold_data()
 {
     QTest::addColumn<QString>("extension");
     for (const char *extension :
@@ -103,14 +104,14 @@ void DragDropViewTest::everyPictureExtensionIsTold_data()
         QTest::newRow(extension) << QString::fromLatin1(extension);
 }
 
-void DragDropViewTest::everyPictureExtensionIsTold()
+void TestDragDropView::everyPictureExtensionIsTold()
 {
     QFETCH(QString, extension);
     QVERIFY(!perform({QStringLiteral("/a.") + extension}));
     QVERIFY(perform({QStringLiteral("/a.") + extension + u'x'}));
 }
 
-void DragDropViewTest::bytesThatAreNotUtf8Survive()
+void TestDragDropView::bytesThatAreNotUtf8Survive()
 {
     const QString path = fromBytes("/data/stud\xFF\xE9y");
     QVERIFY(perform({path}));
@@ -119,7 +120,7 @@ void DragDropViewTest::bytesThatAreNotUtf8Survive()
     QCOMPARE(toBytes(m_delegate.drops.first().first()), QByteArray("/data/stud\xFF\xE9y"));
 }
 
-void DragDropViewTest::separatorAtTheEndIsDropped()
+void TestDragDropView::separatorAtTheEndIsDropped()
 {
     QMimeData data;
     data.setUrls({QUrl(QStringLiteral("file:///data/s1/")), QUrl(QStringLiteral("file:///")),
@@ -128,7 +129,7 @@ void DragDropViewTest::separatorAtTheEndIsDropped()
              QStringList({QStringLiteral("/data/s1"), QStringLiteral("/"), QStringLiteral("/x")}));
 }
 
-void DragDropViewTest::delegateIsCalledAfterTheDropWasAnswered()
+void TestDragDropView::delegateIsCalledAfterTheDropWasAnswered()
 {
     QVERIFY(perform({QStringLiteral("/data")}));
     QVERIFY(m_delegate.drops.isEmpty());
@@ -136,7 +137,7 @@ void DragDropViewTest::delegateIsCalledAfterTheDropWasAnswered()
     QCOMPARE(m_delegate.drops.size(), 1);
 }
 
-void DragDropViewTest::dropWithoutFileNamesIsTakenAndIgnored()
+void TestDragDropView::dropWithoutFileNamesIsTakenAndIgnored()
 {
     QMimeData data;
     data.setText(QStringLiteral("/data"));
@@ -145,7 +146,7 @@ void DragDropViewTest::dropWithoutFileNamesIsTakenAndIgnored()
     QVERIFY(m_delegate.drops.isEmpty());
 }
 
-void DragDropViewTest::dragOfOtherThingsIsRefused()
+void TestDragDropView::dragOfOtherThingsIsRefused()
 {
     QMimeData data;
     data.setText(QStringLiteral("/data"));
@@ -155,14 +156,14 @@ void DragDropViewTest::dragOfOtherThingsIsRefused()
     QVERIFY(!m_view->isHighlighted());
 }
 
-void DragDropViewTest::enteringWithoutFileNamesHighlights()
+void TestDragDropView::enteringWithoutFileNamesHighlights()
 {
     const QMimeData data;
     QCOMPARE(m_view->draggingEntered(data), Qt::CopyAction);
     QVERIFY(m_view->isHighlighted());
 }
 
-void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused_data()
+void TestDragDropView::enteringWithAnAddressElsewhereIsRefused_data()
 {
     QTest::addColumn<QByteArray>("list");
     QTest::newRow("web address") << QByteArray("https://dravolin.example/a.dcm\r\n");
@@ -171,7 +172,7 @@ void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused_data()
     QTest::newRow("a file of another host") << QByteArray("file://elsewhere.example/data\r\n");
 }
 
-void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused()
+void TestDragDropView::enteringWithAnAddressElsewhereIsRefused()
 {
     QFETCH(QByteArray, list);
     m_view->setHighlighted(true);
@@ -181,7 +182,7 @@ void DragDropViewTest::enteringWithAnAddressElsewhereIsRefused()
     QVERIFY(!m_view->isHighlighted());
 }
 
-void DragDropViewTest::leavingAndDroppingClearTheHighlight()
+void TestDragDropView::leavingAndDroppingClearTheHighlight()
 {
     const auto data = fileNames({QStringLiteral("/data")});
     QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton,
@@ -199,7 +200,7 @@ void DragDropViewTest::leavingAndDroppingClearTheHighlight()
     QVERIFY(!m_view->isHighlighted());
 }
 
-void DragDropViewTest::highlightIsDrawn()
+void TestDragDropView::highlightIsDrawn()
 {
     m_view->resize(400, 200);
     const QImage plain = m_view->grab().toImage();
@@ -207,33 +208,47 @@ void DragDropViewTest::highlightIsDrawn()
     const QImage highlighted = m_view->grab().toImage();
     const QColor colour = m_view->palette().color(QPalette::Highlight);
     QVERIFY(plain.pixelColor(200, 3) != colour);
-    QCOMPARE(highlighted.pixelColor(200, 3), colour);
+    for (const int y : {1, 3, 5})
+        QCOMPARE(highlighted.pixelColor(200, y), colour);
+    QCOMPARE(highlighted.pixelColor(200, 8), plain.pixelColor(200, 8));
     QCOMPARE(highlighted.pixelColor(200, 100), plain.pixelColor(200, 100));
 }
 
-void DragDropViewTest::imageFollowsTheState_data()
+void TestDragDropView::imageFollowsTheState_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<QString>("image");
-    QTest::addColumn<QString>("description");
     const QString drag = QStringLiteral("DragImage.png");
-    QTest::newRow("off") << 0 << drag << QStringLiteral("anonymize");
-    QTest::newRow("on") << 1 << QStringLiteral("LutImage.png") << QStringLiteral("construct look-up table");
-    QTest::newRow("mixed") << -1 << drag << QStringLiteral("anonymize");
-    QTest::newRow("two") << 2 << drag << QStringLiteral("anonymize");
+    QTest::newRow("off") << 0 << drag;
+    QTest::newRow("on") << 1 << QStringLiteral("LutImage.png");
+    QTest::newRow("mixed") << -1 << drag;
+    QTest::newRow("two") << 2 << drag;
 }
 
-void DragDropViewTest::imageFollowsTheState()
+void TestDragDropView::imageFollowsTheState()
 {
     QFETCH(int, state);
     QFETCH(QString, image);
-    QFETCH(QString, description);
     m_view->setImageForLUTcheckboxState(state);
     QCOMPARE(m_view->imageName(), image);
-    QCOMPARE(m_view->accessibleDescription(), description);
+    QCOMPARE(m_view->accessibleDescription(), QStringLiteral("anonymize"));
+}
+
+void TestDragDropView::wordsSayWhatADropWillDo()
+{
+    m_view->resize(400, 200);
+    const auto words = [this] { return m_view->grab({20, 140, 360, 48}).toImage(); };
+    const QImage anonymize = words();
+    m_view->setConstructing(true);
+    QCOMPARE(m_view->accessibleDescription(), QStringLiteral("construct look-up table"));
+    QVERIFY(words() != anonymize);
+    QCOMPARE(m_view->imageName(), QStringLiteral("DragImage.png"));
+    m_view->setConstructing(false);
+    QCOMPARE(m_view->accessibleDescription(), QStringLiteral("anonymize"));
+    QCOMPARE(words(), anonymize);
 }
 
 } // namespace
 
-DRAVOLIN_TEST(DragDropViewTest)
+DRAVOLIN_TEST(TestDragDropView)
 #include "tst_dragdropview.moc"

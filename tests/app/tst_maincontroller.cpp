@@ -20,7 +20,7 @@ const QString header = QStringLiteral(
 const QString enabledList = QStringLiteral("overwrite table construct config generate only");
 
 // A run from the drop to the summary, in the real window.
-class MainControllerTest : public QObject
+class TestMainController : public QObject
 {
     Q_OBJECT
 
@@ -61,14 +61,14 @@ private:
     QSemaphore m_jobMayEnd;
 };
 
-void MainControllerTest::init()
+void TestMainController::init()
 {
     m_app = std::make_unique<TestApp>();
     m_app->start();
     m_app->controls->uidRootTextField->setText(validRoot);
 }
 
-QString MainControllerTest::enabledControls() const
+QString TestMainController::enabledControls() const
 {
     const Ui::MainWindow &c = *m_app->controls;
     QStringList names;
@@ -86,7 +86,7 @@ QString MainControllerTest::enabledControls() const
 }
 
 // Every job now waits for m_jobMayEnd after it has released m_jobBegan.
-void MainControllerTest::blockJobs()
+void TestMainController::blockJobs()
 {
     m_jobBegan.acquire(m_jobBegan.available());
     m_jobMayEnd.acquire(m_jobMayEnd.available());
@@ -97,7 +97,7 @@ void MainControllerTest::blockJobs()
     };
 }
 
-void MainControllerTest::dropBecomesARun()
+void TestMainController::dropBecomesARun()
 {
     m_app->controls->caseIDTextField->setText(QStringLiteral("007"));
     m_app->controls->diagnosisTextField->setText(QStringLiteral(" Anon "));
@@ -123,7 +123,7 @@ void MainControllerTest::dropBecomesARun()
     QVERIFY(!m_app->controller->logWinController());
 }
 
-void MainControllerTest::windowDuringARun()
+void TestMainController::windowDuringARun()
 {
     blockJobs();
     m_app->drop({m_app->run.makeFolder(QStringLiteral("data/study"))});
@@ -149,7 +149,7 @@ void MainControllerTest::windowDuringARun()
     QVERIFY(m_app->waitForRuns());
 }
 
-void MainControllerTest::windowAfterARun()
+void TestMainController::windowAfterARun()
 {
     const Ui::MainWindow &c = *m_app->controls;
     QVERIFY(c.horLine->isHidden());
@@ -170,7 +170,7 @@ void MainControllerTest::windowAfterARun()
     QCOMPARE(enabledControls(), enabledList);
 }
 
-void MainControllerTest::windowGrowsWithItsTopEdgeInPlace()
+void TestMainController::windowGrowsWithItsTopEdgeInPlace()
 {
     QWidget &window = m_app->controller->window();
     const QRect before = window.geometry();
@@ -184,7 +184,7 @@ void MainControllerTest::windowGrowsWithItsTopEdgeInPlace()
     QCOMPARE(window.geometry(), QRect(before.x(), before.y(), before.width(), 696));
 }
 
-void MainControllerTest::logWindowOpensBehindTheSummary()
+void TestMainController::logWindowOpensBehindTheSummary()
 {
     const QString folder = m_app->run.makeFolder(QStringLiteral("data/study"));
     m_app->run.jobs.answer = [](const Job &job) {
@@ -204,7 +204,7 @@ void MainControllerTest::logWindowOpensBehindTheSummary()
                             "./DICOMDIR\n\n"));
 }
 
-void MainControllerTest::laterLogReplacesTheEarlierOne()
+void TestMainController::laterLogReplacesTheEarlierOne()
 {
     m_app->controller->showLogWindowWithLogText(QStringLiteral("one"));
     const QPointer<QWidget> first = m_app->controller->logWinController()->window();
@@ -220,7 +220,7 @@ void MainControllerTest::laterLogReplacesTheEarlierOne()
                  QStringLiteral("three"));
 }
 
-void MainControllerTest::refusedQuestionStartsNothing()
+void TestMainController::refusedQuestionStartsNothing()
 {
     QTest::mouseClick(m_app->controls->overWriteSourceCheckbox, Qt::LeftButton, {}, {8, 8});
     QVERIFY(m_app->controls->overWriteSourceCheckbox->isChecked());
@@ -239,7 +239,7 @@ void MainControllerTest::refusedQuestionStartsNothing()
     QVERIFY(m_app->run.jobs.jobs.first().script.contains(QStringLiteral(" -ie -imt -nb -ea ")));
 }
 
-void MainControllerTest::invalidRootIsReplacedAndShown()
+void TestMainController::invalidRootIsReplacedAndShown()
 {
     m_app->controls->uidRootTextField->setText(QStringLiteral("1.2.3"));
     m_app->run.uuids.uuids = {QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF")};
@@ -252,7 +252,7 @@ void MainControllerTest::invalidRootIsReplacedAndShown()
         QStringLiteral("-i \"(0020,000d)=2.25.340282366920938463463374607431768211455\"")));
 }
 
-void MainControllerTest::impossibleUidIsRefused()
+void TestMainController::impossibleUidIsRefused()
 {
     m_app->controls->caseIDTextField->setText(QStringLiteral("12.5"));
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
@@ -265,7 +265,7 @@ void MainControllerTest::impossibleUidIsRefused()
     QCOMPARE(m_app->controls->rootValidLabel->text(), QStringLiteral("Root is invalid, will be replaced"));
 }
 
-void MainControllerTest::onlyGenerateReadsNoConfiguration()
+void TestMainController::onlyGenerateReadsNoConfiguration()
 {
     QTest::mouseClick(m_app->controls->onlyGenerateSOPCheckbox, Qt::LeftButton, {}, {8, 8});
     m_app->drop({m_app->run.makeFolder(QStringLiteral("data/study"))});
@@ -276,7 +276,7 @@ void MainControllerTest::onlyGenerateReadsNoConfiguration()
     QVERIFY(m_app->controller->state().get(&RunState::allTagsToAnonymize).isEmpty());
 }
 
-void MainControllerTest::missingTitleLoadsTheFixedTags()
+void TestMainController::missingTitleLoadsTheFixedTags()
 {
     m_app->controls->selectConfigPopupButton->clear();
     m_app->drop({m_app->run.makeFolder(QStringLiteral("data/study"))});
@@ -286,7 +286,7 @@ void MainControllerTest::missingTitleLoadsTheFixedTags()
     QCOMPARE(m_app->status(), QStringLiteral("\nDone!"));
 }
 
-void MainControllerTest::secondDropRunsBesideTheFirst()
+void TestMainController::secondDropRunsBesideTheFirst()
 {
     blockJobs();
     m_app->drop({m_app->run.makeFolder(QStringLiteral("data/one"))});
@@ -300,7 +300,7 @@ void MainControllerTest::secondDropRunsBesideTheFirst()
     QVERIFY(m_app->waitForRuns());
 }
 
-void MainControllerTest::closingEndsTheRunBetweenTwoJobs()
+void TestMainController::closingEndsTheRunBetweenTwoJobs()
 {
     blockJobs();
     const QString folder = m_app->run.makeFolder(QStringLiteral("data/study"));
@@ -319,7 +319,7 @@ void MainControllerTest::closingEndsTheRunBetweenTwoJobs()
     QCOMPARE(m_app->run.jobs.folders(), QStringList{folder + u"/a"_s});
 }
 
-void MainControllerTest::emptyDropIsAFullRun()
+void TestMainController::emptyDropIsAFullRun()
 {
     m_app->drop({});
     QVERIFY(m_app->waitForRuns());
@@ -329,7 +329,7 @@ void MainControllerTest::emptyDropIsAFullRun()
     QCOMPARE(m_app->controller->state().get(&RunState::allTagsToAnonymize).size(), 8);
 }
 
-void MainControllerTest::folderNamesOfAnyBytes_data()
+void TestMainController::folderNamesOfAnyBytes_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("double quote") << QByteArray("a\"b");
@@ -342,7 +342,7 @@ void MainControllerTest::folderNamesOfAnyBytes_data()
     QTest::newRow("leading dash") << QByteArray("-rf");
 }
 
-void MainControllerTest::folderNamesOfAnyBytes()
+void TestMainController::folderNamesOfAnyBytes()
 {
     QFETCH(QByteArray, name);
     const QString folder = m_app->run.makeFolder(QStringLiteral("data/") + fromBytes(name));
@@ -352,7 +352,7 @@ void MainControllerTest::folderNamesOfAnyBytes()
     QVERIFY(m_app->run.jobs.jobs.first().script.endsWith(QStringLiteral(" * >.noxTemp.out 2>&1")));
 }
 
-void MainControllerTest::operationsForwardToTheCore()
+void TestMainController::operationsForwardToTheCore()
 {
     MainController &controller = *m_app->controller;
     const QString folder = m_app->run.makeFolder(QStringLiteral("data/study"));
@@ -388,5 +388,5 @@ void MainControllerTest::operationsForwardToTheCore()
 
 } // namespace
 
-DRAVOLIN_TEST(MainControllerTest)
+DRAVOLIN_TEST(TestMainController)
 #include "tst_maincontroller.moc"

@@ -12,7 +12,7 @@ using namespace dravolin;
 
 namespace {
 
-class MainThreadGateTest : public QObject
+class TestMainThreadGate : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
     }
 };
 
-void MainThreadGateTest::runsAtOnceOnTheMainThread()
+void TestMainThreadGate::runsAtOnceOnTheMainThread()
 {
     MainThreadGate gate;
     bool ran = false;
@@ -44,7 +44,7 @@ void MainThreadGateTest::runsAtOnceOnTheMainThread()
     QVERIFY(!ran);
 }
 
-void MainThreadGateTest::runsOnTheMainThreadForOthers()
+void TestMainThreadGate::runsOnTheMainThreadForOthers()
 {
     MainThreadGate gate;
     std::atomic<QThread *> ranOn = nullptr;
@@ -55,7 +55,7 @@ void MainThreadGateTest::runsOnTheMainThreadForOthers()
     QCOMPARE(ranOn.load(), QCoreApplication::instance()->thread());
 }
 
-void MainThreadGateTest::givesValues()
+void TestMainThreadGate::givesValues()
 {
     MainThreadGate gate;
     std::atomic<int> value = 0;
@@ -64,7 +64,7 @@ void MainThreadGateTest::givesValues()
     QCOMPARE(value.load(), 42);
 }
 
-void MainThreadGateTest::closedGateTurnsAway()
+void TestMainThreadGate::closedGateTurnsAway()
 {
     MainThreadGate gate;
     gate.close();
@@ -80,7 +80,7 @@ void MainThreadGateTest::closedGateTurnsAway()
     QVERIFY(!gotValue);
 }
 
-void MainThreadGateTest::closingWakesWaiters()
+void TestMainThreadGate::closingWakesWaiters()
 {
     MainThreadGate gate;
     std::atomic<bool> ran = false;
@@ -94,7 +94,7 @@ void MainThreadGateTest::closingWakesWaiters()
     QVERIFY(!ran);
 }
 
-void MainThreadGateTest::manyThreadsInterleave()
+void TestMainThreadGate::manyThreadsInterleave()
 {
     MainThreadGate gate;
     int count = 0; // touched on the main thread only
@@ -111,5 +111,5 @@ void MainThreadGateTest::manyThreadsInterleave()
 
 } // namespace
 
-DRAVOLIN_TEST(MainThreadGateTest)
+DRAVOLIN_TEST(TestMainThreadGate)
 #include "tst_mainthreadgate.moc"

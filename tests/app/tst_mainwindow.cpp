@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -27,8 +28,15 @@ QString checked(const Ui::MainWindow &c)
            (c.onlyGenerateSOPCheckbox->isChecked() ? QStringLiteral("N") : QString());
 }
 
+// Switches a box on without its rule.
+void preset(QCheckBox &box)
+{
+    const QSignalBlocker quietly(box);
+    box.setChecked(true);
+}
+
 // The main window as it starts, and what its controls do outside a run.
-class MainWindowTest : public QObject
+class TestMainWindow : public QObject
 {
     Q_OBJECT
 
@@ -64,6 +72,7 @@ private Q_SLOTS:
     void constructionWithoutMarkerMayQuit();
     void keepsThePictureWhenAnotherBoxClearsConstruction();
     void tablePopupChangeClearsOnlyGenerate();
+    void theWebSiteIsNotOpenedOnEscape();
     void webSitePrompt_data();
     void webSitePrompt();
     void configurationFolderIsOpened();
@@ -76,7 +85,7 @@ private:
     std::unique_ptr<TestApp> m_app;
 };
 
-void MainWindowTest::initTestCase()
+void TestMainWindow::initTestCase()
 {
     useHome(m_home.path());
     const QString opener = joinPath(m_home.path(), QStringLiteral("bin/xdg-open"));
@@ -88,7 +97,7 @@ void MainWindowTest::initTestCase()
     qunsetenv("DBUS_SESSION_BUS_ADDRESS"); // no file browser answers
 }
 
-void MainWindowTest::init()
+void TestMainWindow::init()
 {
     settings().clear();
     for (const char *name : {"bin/opened", "bin/fails"})
@@ -97,18 +106,18 @@ void MainWindowTest::init()
     m_app->start();
 }
 
-void MainWindowTest::restart()
+void TestMainWindow::restart()
 {
     m_app->controller.reset();
     m_app->start();
 }
 
-QString MainWindowTest::opened() const
+QString TestMainWindow::opened() const
 {
     return readText(joinPath(m_home.path(), QStringLiteral("bin/opened"))).value_or(QString()).trimmed();
 }
 
-void MainWindowTest::startsCenteredAndNamed()
+void TestMainWindow::startsCenteredAndNamed()
 {
     const QWidget &window = m_app->controller->window();
     QVERIFY(window.isVisible());
@@ -122,7 +131,7 @@ void MainWindowTest::startsCenteredAndNamed()
     QCOMPARE(m_app->controls->dragDropView->imageName(), QStringLiteral("DragImage.png"));
 }
 
-void MainWindowTest::everyControlHasItsNameForPeople()
+void TestMainWindow::everyControlHasItsNameForPeople()
 {
     const Ui::MainWindow &c = *m_app->controls;
     QMap<const QWidget *, QString> captions;
@@ -153,7 +162,7 @@ void MainWindowTest::everyControlHasItsNameForPeople()
     QCOMPARE(c.rootValidLabel->accessibleName(), QString());
 }
 
-void MainWindowTest::mnemonicsDiffer()
+void TestMainWindow::mnemonicsDiffer()
 {
     QMap<QString, QStringList> byKey;
     const auto add = [&](const QString &text) {
@@ -170,7 +179,7 @@ void MainWindowTest::mnemonicsDiffer()
         QCOMPARE(texts.size(), 1);
 }
 
-void MainWindowTest::tabGoesFromTopToBottom()
+void TestMainWindow::tabGoesFromTopToBottom()
 {
     m_app->run.writeFile(QStringLiteral("home/Desktop/AnonymizationLUT_A.txt"));
     restart();
@@ -190,14 +199,14 @@ void MainWindowTest::tabGoesFromTopToBottom()
                         .split(u' '));
 }
 
-void MainWindowTest::fitsTheRunningHeight_data()
+void TestMainWindow::fitsTheRunningHeight_data()
 {
     QTest::addColumn<int>("points");
     QTest::newRow("usual font") << 9;
     QTest::newRow("large font") << 12;
 }
 
-void MainWindowTest::fitsTheRunningHeight()
+void TestMainWindow::fitsTheRunningHeight()
 {
     QFETCH(int, points);
     QFont font = QApplication::font();
@@ -210,21 +219,22 @@ void MainWindowTest::fitsTheRunningHeight()
     QVERIFY(window.layout()->totalMinimumSize().height() <= 696);
 }
 
-void MainWindowTest::configurationsAreScannedAfterTheWindowIsUp()
+void TestMainWindow::configurationsAreScannedAfterTheWindowIsUp()
 {
     m_app->controller.reset();
-    m_app->delays.beforeConfigurationScan = 1;
+    m_app->delays.beforeConfigurationScan = 100;
     m_app->controller = std::make_unique<MainController>(
         AppPorts{m_app->run.paths, m_app->run.jobs, m_app->run.uuids, m_app->presenter, m_app->delays});
     m_app->controller->initAndShow();
     QComboBox *const popup = m_app->controller->controls().selectConfigPopupButton;
+    QCoreApplication::processEvents();
     QCOMPARE(popup->count(), 0);
     QCOMPARE(m_app->controller->controls().selectLUTpopupButton->count(), 1); // tables come at once
     QTRY_COMPARE(popup->count(), 1);
     QCOMPARE(popup->currentText(), QStringLiteral("Test"));
 }
 
-void MainWindowTest::noConfigurationGivesTheDefaultAndASheet()
+void TestMainWindow::noConfigurationGivesTheDefaultAndASheet()
 {
     removeFile(m_app->configurationPath());
     restart();
@@ -247,9 +257,10 @@ void MainWindowTest::noConfigurationGivesTheDefaultAndASheet()
     QCOMPARE(sheet.escape, 1001);
     m_app->controller->getConfigurationFilePathsAndPopulateButton();
     QCOMPARE(m_app->presenter.sheets.size(), 2); // at every discovery that finds nothing
+    QCOMPARE(m_app->controls->selectConfigPopupButton->count(), 1);
 }
 
-void MainWindowTest::continueKeepsTheDefault()
+void TestMainWindow::continueKeepsTheDefault()
 {
     removeFile(m_app->configurationPath());
     restart();
@@ -258,7 +269,7 @@ void MainWindowTest::continueKeepsTheDefault()
     QCOMPARE(m_app->controls->selectConfigPopupButton->currentText(), QStringLiteral("Bundled Default"));
 }
 
-void MainWindowTest::savedDefaultIsRevealedAndQuits()
+void TestMainWindow::savedDefaultIsRevealedAndQuits()
 {
     removeFile(m_app->configurationPath());
     m_app->run.writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"),
@@ -277,7 +288,7 @@ void MainWindowTest::savedDefaultIsRevealedAndQuits()
     QVERIFY(m_app->presenter.sheets.isEmpty());
 }
 
-void MainWindowTest::savedDefaultFallsBackToTheDesktop()
+void TestMainWindow::savedDefaultFallsBackToTheDesktop()
 {
     removeFile(m_app->configurationPath());
     m_app->run.writeFile(QStringLiteral("app/resources/DefaultAnonymizationConfiguration.txt"));
@@ -303,7 +314,7 @@ void MainWindowTest::savedDefaultFallsBackToTheDesktop()
         QStringLiteral("Could not save default config to configuration folder, saving to desktop instead")));
 }
 
-void MainWindowTest::storedRootIsRestoredAndChecked()
+void TestMainWindow::storedRootIsRestoredAndChecked()
 {
     settings().setValue(QStringLiteral("uidRoot"), QStringLiteral(" %1 ").arg(validRoot));
     restart();
@@ -311,13 +322,13 @@ void MainWindowTest::storedRootIsRestoredAndChecked()
     QCOMPARE(m_app->controls->rootValidLabel->text(), QStringLiteral("UID may be valid"));
 }
 
-void MainWindowTest::withoutStoredRootTheLabelKeepsItsText()
+void TestMainWindow::withoutStoredRootTheLabelKeepsItsText()
 {
     QCOMPARE(m_app->controls->uidRootTextField->text(), QString());
     QCOMPARE(m_app->controls->rootValidLabel->text(), QStringLiteral("UID root not checked yet"));
 }
 
-void MainWindowTest::closingStoresTheRoot()
+void TestMainWindow::closingStoresTheRoot()
 {
     m_app->controls->uidRootTextField->setText(QStringLiteral("1.2.3"));
     QSignalSpy closed(m_app->controller.get(), &MainController::closed);
@@ -327,7 +338,7 @@ void MainWindowTest::closingStoresTheRoot()
     QCOMPARE(readText(file), QStringLiteral("[General]\nuidRoot=1.2.3\n"));
 }
 
-void MainWindowTest::closingWithAnEmptyRootKeepsTheStoredOne()
+void TestMainWindow::closingWithAnEmptyRootKeepsTheStoredOne()
 {
     settings().setValue(QStringLiteral("uidRoot"), validRoot);
     restart();
@@ -336,7 +347,7 @@ void MainWindowTest::closingWithAnEmptyRootKeepsTheStoredOne()
     QCOMPARE(settings().value(QStringLiteral("uidRoot")).toString(), validRoot);
 }
 
-void MainWindowTest::typing_data()
+void TestMainWindow::typing_data()
 {
     QTest::addColumn<bool>("inRoot");
     QTest::addColumn<QString>("before");
@@ -360,7 +371,7 @@ void MainWindowTest::typing_data()
                                   << QStringLiteral("0042") << valid;
 }
 
-void MainWindowTest::typing()
+void TestMainWindow::typing()
 {
     QFETCH(bool, inRoot);
     QFETCH(QString, before);
@@ -376,7 +387,7 @@ void MainWindowTest::typing()
     QCOMPARE(c.rootValidLabel->text(), label);
 }
 
-void MainWindowTest::typingInTheMiddleKeepsTheCursor()
+void TestMainWindow::typingInTheMiddleKeepsTheCursor()
 {
     QLineEdit *const edit = m_app->controls->uidRootTextField;
     edit->setText(validRoot);
@@ -386,7 +397,7 @@ void MainWindowTest::typingInTheMiddleKeepsTheCursor()
     QCOMPARE(edit->cursorPosition(), 8);
 }
 
-void MainWindowTest::otherFieldsAreNotFiltered()
+void TestMainWindow::otherFieldsAreNotFiltered()
 {
     const QString label = m_app->controls->rootValidLabel->text();
     for (QLineEdit *edit : {m_app->controls->diagnosisTextField, m_app->controls->keywordsTextField,
@@ -397,7 +408,7 @@ void MainWindowTest::otherFieldsAreNotFiltered()
     QCOMPARE(m_app->controls->rootValidLabel->text(), label);
 }
 
-void MainWindowTest::generatedRootIsNotStored()
+void TestMainWindow::generatedRootIsNotStored()
 {
     m_app->run.uuids.uuids = {QStringLiteral("FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF")};
     QTest::mouseClick(m_app->controls->createUIDrootButton, Qt::LeftButton);
@@ -407,7 +418,7 @@ void MainWindowTest::generatedRootIsNotStored()
     QVERIFY(!settings().contains(QStringLiteral("uidRoot")));
 }
 
-void MainWindowTest::checkBoxRules_data()
+void TestMainWindow::checkBoxRules_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QChar>("clicked");
@@ -425,7 +436,7 @@ void MainWindowTest::checkBoxRules_data()
         << QStringLiteral("OC") << QChar(u'C') << QStringLiteral("O");
 }
 
-void MainWindowTest::checkBoxRules()
+void TestMainWindow::checkBoxRules()
 {
     QFETCH(QString, before);
     QFETCH(QChar, clicked);
@@ -436,19 +447,19 @@ void MainWindowTest::checkBoxRules()
                                             {u'G', c.generateSOPCheckbox},
                                             {u'N', c.onlyGenerateSOPCheckbox}};
     for (const QChar letter : before)
-        boxes.value(letter)->setChecked(true);
+        preset(*boxes.value(letter));
     QTest::mouseClick(boxes.value(clicked), Qt::LeftButton, {}, {8, 8});
     QCOMPARE(checked(c), after);
 }
 
-void MainWindowTest::constructionTakesTheFirstMarker()
+void TestMainWindow::constructionTakesTheFirstMarker()
 {
     QVERIFY(writeText(m_app->configurationPath(), QStringLiteral("0010,1000\tOther IDs\t<LUT_Site>\n"
                                                                  "0010,0030\tBirth\t<LUT_Other>\n")));
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
     const Ui::MainWindow &c = *m_app->controls;
     for (QCheckBox *box : {c.overWriteSourceCheckbox, c.generateSOPCheckbox, c.onlyGenerateSOPCheckbox})
-        box->setChecked(true);
+        preset(*box);
     QTest::mouseClick(c.prepopulateLUTcheckbox, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(checked(c), QStringLiteral("C"));
     QCOMPARE(m_app->controller->state().get(&RunState::LUTconstructionTag), QStringLiteral("0010,0030"));
@@ -458,11 +469,11 @@ void MainWindowTest::constructionTakesTheFirstMarker()
     QVERIFY(m_app->presenter.sheets.isEmpty());
 }
 
-void MainWindowTest::constructionWithoutMarkerIsSwitchedOff()
+void TestMainWindow::constructionWithoutMarkerIsSwitchedOff()
 {
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
     const Ui::MainWindow &c = *m_app->controls;
-    c.generateSOPCheckbox->setChecked(true);
+    preset(*c.generateSOPCheckbox);
     QTest::mouseClick(c.prepopulateLUTcheckbox, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(m_app->presenter.sheets.size(), 1);
     const AlertSheet &sheet = m_app->presenter.sheets.first();
@@ -479,7 +490,7 @@ void MainWindowTest::constructionWithoutMarkerIsSwitchedOff()
     QVERIFY(m_app->controller->window().isVisible());
 }
 
-void MainWindowTest::constructionWithoutMarkerMayQuit()
+void TestMainWindow::constructionWithoutMarkerMayQuit()
 {
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
     QTest::mouseClick(m_app->controls->prepopulateLUTcheckbox, Qt::LeftButton, {}, {8, 8});
@@ -488,7 +499,7 @@ void MainWindowTest::constructionWithoutMarkerMayQuit()
     QCOMPARE(closed.size(), 1);
 }
 
-void MainWindowTest::keepsThePictureWhenAnotherBoxClearsConstruction()
+void TestMainWindow::keepsThePictureWhenAnotherBoxClearsConstruction()
 {
     QVERIFY(writeText(m_app->configurationPath(), QStringLiteral("0010,1000\tOther IDs\t<LUT_Site>\n")));
     m_app->run.uuids.uuids = {QStringLiteral("00000000-0000-0000-0000-000000000001")};
@@ -499,13 +510,13 @@ void MainWindowTest::keepsThePictureWhenAnotherBoxClearsConstruction()
     QCOMPARE(c.dragDropView->imageName(), QStringLiteral("LutImage.png"));
 }
 
-void MainWindowTest::tablePopupChangeClearsOnlyGenerate()
+void TestMainWindow::tablePopupChangeClearsOnlyGenerate()
 {
     m_app->run.writeFile(QStringLiteral("home/Desktop/AnonymizationLUT_A.txt"));
     restart();
     const Ui::MainWindow &c = *m_app->controls;
-    c.generateSOPCheckbox->setChecked(true);
-    c.onlyGenerateSOPCheckbox->setChecked(true);
+    preset(*c.generateSOPCheckbox);
+    preset(*c.onlyGenerateSOPCheckbox);
     c.selectLUTpopupButton->setFocus();
     QTest::keyClick(c.selectLUTpopupButton, Qt::Key_Down);
     QCOMPARE(c.selectLUTpopupButton->currentText(), QStringLiteral("A"));
@@ -516,7 +527,14 @@ void MainWindowTest::tablePopupChangeClearsOnlyGenerate()
     QCOMPARE(checked(c), QStringLiteral("GN"));
 }
 
-void MainWindowTest::webSitePrompt_data()
+void TestMainWindow::theWebSiteIsNotOpenedOnEscape()
+{
+    m_app->presenter.answers = {AlertButton::Alternate};
+    QTest::mouseClick(m_app->controls->webSiteButton, Qt::LeftButton);
+    QCOMPARE(m_app->presenter.alerts.first().escape, AlertButton::Alternate);
+}
+
+void TestMainWindow::webSitePrompt_data()
 {
     QTest::addColumn<bool>("yes");
     QTest::addColumn<bool>("fails");
@@ -525,7 +543,7 @@ void MainWindowTest::webSitePrompt_data()
     QTest::newRow("the opener fails") << true << true;
 }
 
-void MainWindowTest::webSitePrompt()
+void TestMainWindow::webSitePrompt()
 {
     QFETCH(bool, yes);
     QFETCH(bool, fails);
@@ -551,7 +569,7 @@ void MainWindowTest::webSitePrompt()
         QCOMPARE(opened(), QString());
 }
 
-void MainWindowTest::configurationFolderIsOpened()
+void TestMainWindow::configurationFolderIsOpened()
 {
     QTest::mouseClick(m_app->controls->showConfigButton, Qt::LeftButton);
     QTRY_COMPARE(opened(), m_app->run.path(QStringLiteral("home/share/Dravolin")));
@@ -559,5 +577,5 @@ void MainWindowTest::configurationFolderIsOpened()
 
 } // namespace
 
-DRAVOLIN_TEST(MainWindowTest)
+DRAVOLIN_TEST(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -15,7 +15,7 @@ using namespace dravolin::test;
 namespace {
 
 // Files that somebody else needs are left alone, whatever a path says.
-class FileSafetyTest : public QObject
+class TestFileSafety : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private:
     ScratchFolder m_scratch;
 };
 
-void FileSafetyTest::aPathWithANulIsNoPath()
+void TestFileSafety::aPathWithANulIsNoPath()
 {
     const QString file = m_scratch.path(QStringLiteral("x.dcm"));
     QVERIFY(writeText(file, QStringLiteral("pixels")));
@@ -49,7 +49,7 @@ void FileSafetyTest::aPathWithANulIsNoPath()
     QCOMPARE(readText(file), QStringLiteral("pixels"));
 }
 
-void FileSafetyTest::writingMayRefuseALink()
+void TestFileSafety::writingMayRefuseALink()
 {
     const QString target = m_scratch.path(QStringLiteral("precious"));
     const QString link = m_scratch.path(QStringLiteral("link"));
@@ -61,7 +61,7 @@ void FileSafetyTest::writingMayRefuseALink()
     QCOMPARE(readText(target), QStringLiteral("table"));
 }
 
-void FileSafetyTest::aFailedCopyLeavesNothing()
+void TestFileSafety::aFailedCopyLeavesNothing()
 {
     const QString from = m_scratch.path(QStringLiteral("from"));
     const QString to = m_scratch.path(QStringLiteral("to"));
@@ -78,7 +78,7 @@ void FileSafetyTest::aFailedCopyLeavesNothing()
     QVERIFY(!pathExists(to));
 }
 
-void FileSafetyTest::aCopyNeverReplaces()
+void TestFileSafety::aCopyNeverReplaces()
 {
     const QString from = m_scratch.path(QStringLiteral("new"));
     const QString to = m_scratch.path(QStringLiteral("old"));
@@ -88,7 +88,7 @@ void FileSafetyTest::aCopyNeverReplaces()
     QCOMPARE(readText(to), QStringLiteral("old"));
 }
 
-void FileSafetyTest::anEnormousFileIsNotRead()
+void TestFileSafety::anEnormousFileIsNotRead()
 {
     const QString file = m_scratch.path(QStringLiteral("sparse"));
     QVERIFY(writeText(file, QString()));
@@ -96,12 +96,12 @@ void FileSafetyTest::anEnormousFileIsNotRead()
     QVERIFY(!readBytes(file));
 }
 
-void FileSafetyTest::aDeviceIsNotRead()
+void TestFileSafety::aDeviceIsNotRead()
 {
     QVERIFY(!readBytes(QStringLiteral("/dev/zero")));
 }
 
 } // namespace
 
-DRAVOLIN_TEST(FileSafetyTest)
+DRAVOLIN_TEST(TestFileSafety)
 #include "tst_filesafety.moc"

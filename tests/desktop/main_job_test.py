@@ -15,14 +15,20 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "desktop"))
 from outside import table_job  # noqa: E402
 from outside.configuration import asked_for, read_rules  # noqa: E402
+from outside.controls import Role  # noqa: E402
 from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge  # noqa: E402
-from outside.program import DEFAULT_CONFIGURATION, OVERWRITE, FileBrowser, Home, Program, take_picture  # noqa: E402
+from outside.program import (DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program,  # noqa: E402
+                             take_picture)
 from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
 from outside.waiting import wait_until  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
 PICTURES = pathlib.Path()
 ROOT = "2.25.271828182845904523536028747135"
+GENERATE = "Generate new instance UIDs"
+GENERATE_ONLY = "Only generate new instance UIDs"
+CONSTRUCT = "Construct look-up table"
+BOXES = ("Overwrite source files", CONSTRUCT, GENERATE, GENERATE_ONLY)
 PRIVATE = "0009,1001\n0011,1010\n"
 WAITING_TOOL = """#!/bin/sh
 here="${0%/*}"
@@ -145,6 +151,29 @@ class MainJob(unittest.TestCase):
                                                  "STU-0808": "Subject_001", "STU-3391": "Subject_002"})
         table_job.skip_one(table)
         self.assertEqual(table_job.propagate(program, study, configuration, table).wrong, [])
+        self.close(program)
+
+    def test_rules_and_checks_follow_a_screen_reader(self):
+        self.save_configuration("Test", "0020,0010\tStudy ID\t<LUT_Study>\n")
+        program = self.start()
+        wait_until(lambda: program.control("Configuration").name == "Test", "'Test' in 'Configuration'")
+        boxes = {name: program.control(name, (Role.CHECK_BOX,)) for name in BOXES}
+
+        def switch(name, *ticked):
+            boxes[name].act("Toggle")
+            wait_until(lambda: [box for box in BOXES if boxes[box].checked] == list(ticked), f"{ticked} after '{name}'")
+
+        switch(GENERATE_ONLY, GENERATE, GENERATE_ONLY)
+        switch(GENERATE)
+        switch("Overwrite source files", "Overwrite source files")
+        switch(CONSTRUCT, CONSTRUCT)
+        self.assertEqual(program.control("Drop area").description, "construct look-up table")
+        switch(GENERATE, GENERATE)
+        self.assertEqual(program.control("Drop area").description, "anonymize")
+
+        program.control("UID root", FIELDS).set_text(f" {ROOT}abc")
+        wait_until(lambda: program.read("UID root") == ROOT, "the root without what does not belong to it")
+        wait_until(lambda: program.read("UID root validity") == "UID may be valid", "the root's check")
         self.close(program)
 
     def test_a_single_picture_is_refused_and_starts_nothing(self):

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void init() { m_scratch = std::make_unique<ScratchFolder>(); }
     void carriesOutRules_data();
     void carriesOutRules();
+    void emptiesASequenceWithoutItsCopies();
     void treatsPrivateElements_data();
     void treatsPrivateElements();
     void replacesUids_data();
@@ -40,27 +41,32 @@ private Q_SLOTS:
 private:
     void compare(const QByteArray &source, const QByteArray &expected, const Treatment &treatment,
                  bool withGroups = true) const;
+    void compareOne(const QStringList &options, const QByteArray &source, const QByteArray &expected,
+                    const Treatment &treatment) const;
     std::unique_ptr<ScratchFolder> m_scratch;
 };
 
 void TestRewriting::compare(const QByteArray &source, const QByteArray &expected, const Treatment &treatment,
                             bool withGroups) const
 {
-    for (const auto &[way, options] : test::waysOfWriting(withGroups)) {
-        const QString from = test::objectFile(*m_scratch, QStringLiteral("source"), head + source, options);
-        const QString wanted =
-            test::objectFile(*m_scratch, QStringLiteral("wanted"), head + expected, options);
-        const QString result = m_scratch->path(QStringLiteral("result"));
-        const QByteArray before = readBytes(from).value();
-        const TreatedFile treated = treatFile(from, result, treatment);
-        QCOMPARE(treated.facts.problem, QString());
-        QVERIFY2(test::dataSetOf(result).toHex(' ') == test::dataSetOf(wanted).toHex(' '),
-                 QByteArray(way + ": " + test::dataSetOf(result).toHex(' ') + " instead of " +
-                            test::dataSetOf(wanted).toHex(' '))
-                     .constData());
-        QCOMPARE(readBytes(from).value(), before);
-        removeFile(result);
-    }
+    for (const auto &[way, options] : test::waysOfWriting(withGroups))
+        compareOne(options, source, expected, treatment);
+}
+
+void TestRewriting::compareOne(const QStringList &options, const QByteArray &source,
+                               const QByteArray &expected, const Treatment &treatment) const
+{
+    const QString from = test::objectFile(*m_scratch, QStringLiteral("source"), head + source, options);
+    const QString wanted = test::objectFile(*m_scratch, QStringLiteral("wanted"), head + expected, options);
+    const QString result = m_scratch->path(QStringLiteral("result"));
+    const QByteArray before = readBytes(from).value();
+    QCOMPARE(treatFile(from, result, treatment).facts.problem, QString());
+    const QByteArray found = test::dataSetOf(result).toHex(' ');
+    const QByteArray bytes = test::dataSetOf(wanted).toHex(' ');
+    QVERIFY2(found == bytes,
+             qPrintable(options.join(u' ') + u' ' + QString::fromLatin1(found + " is not " + bytes)));
+    QCOMPARE(readBytes(from).value(), before);
+    removeFile(result);
 }
 
 void TestRewriting::carriesOutRules_data()
@@ -101,6 +107,11 @@ void TestRewriting::carriesOutRules_data()
         << sequence("(0008,1140)",
                     sequence("(0008,1199)", sequence("(0008,1120)", "(0010,0010) PN [new]\n") + sex)) +
                sequence("(0008,2112)", sex) + "(0010,0010) PN [new]\n" + sex;
+    QTest::newRow("copies erased, the top level set")
+        << QStringLiteral("+010,0010\tcopies\n0010,0010\t\tnew")
+        << sequence("(0008,1140)", name + sex) + name + sex
+        << sequence("(0008,1140)", sex) + "(0010,0010) PN [new]\n" + sex;
+    QTest::newRow("emptied") << QStringLiteral("0010,0010\t\t\"\"") << name + sex << "(0010,0010) PN\n" + sex;
     QTest::newRow("a number") << QStringLiteral("0028,0010\t\t65535") << rows
                               << QByteArray("(0028,0010) US 65535\n");
     QTest::newRow("several numbers") << QStringLiteral("0018,1310\t\t1\\2\\3\\4") << name + thickness
@@ -121,6 +132,17 @@ void TestRewriting::carriesOutRules()
     treatment.rules = test::rulesOf(configuration);
     treatment.rules.remove(0); // of the empty line
     compare(source, expected, treatment);
+}
+
+void TestRewriting::emptiesASequenceWithoutItsCopies()
+{
+    Treatment treatment;
+    treatment.rules = test::rulesOf(QStringLiteral("+008,1140\tcopies\n0008,1140\t\t\"\""));
+    treatment.rules.remove(0);
+    const QByteArray sex = "(0010,0040) CS [M]\n";
+    const QByteArray inner = sequence("(0008,1140)", sex);
+    compareOne({QStringLiteral("+te"), QStringLiteral("+e")}, inner + sequence("(0008,1199)", inner + sex),
+               "(0008,1140) SQ\n(fffe,e0dd) -\n" + sequence("(0008,1199)", sex), treatment);
 }
 
 void TestRewriting::treatsPrivateElements_data()

@@ -30,6 +30,11 @@ void TestTreatment::turnsEditsIntoRules_data()
     const QString marker = QStringLiteral("<LUT_x>");
     QTest::newRow("erase") << Edit{Edit::Kind::EraseEverywhere, tag, {}} << false
                            << AttributeRules{{0x0020000d, {Kind::Erase, {}}}};
+    QTest::newRow("erase by the tool's other spelling")
+        << Edit{Edit::Kind::EraseEverywhere, QStringLiteral("+020,000d"), {}} << false
+        << AttributeRules{{0x0020000d, {Kind::Erase, {}}}};
+    QTest::newRow("empty") << Edit{Edit::Kind::Insert, tag, QStringLiteral("\"\"")} << false
+                           << AttributeRules{{0x0020000d, {Kind::Set, {}}}};
     QTest::newRow("set") << Edit{Edit::Kind::Insert, tag, QStringLiteral("1.2")} << false
                          << AttributeRules{{0x0020000d, {Kind::Set, QStringLiteral("1.2")}}};
     QTest::newRow("marker with a table") << Edit{Edit::Kind::Insert, tag, marker} << true
@@ -63,6 +68,8 @@ void TestTreatment::namesEditsThatDoNothing_data()
                              << QStringLiteral("(0009,1001) is not known, so no value can be written for it");
     QTest::newRow("text for a number") << QStringLiteral("0028,0010") << QStringLiteral("many")
                                        << QStringLiteral("\"many\" is no value for (0028,0010)");
+    QTest::newRow("a plus sign inside")
+        << QStringLiteral("0+10,0010") << QString() << QStringLiteral("\"0+10,0010\" is no tag");
     QTest::newRow("text for a sequence") << QStringLiteral("0008,1140") << QStringLiteral("x")
                                          << QStringLiteral("\"x\" is no value for (0008,1140)");
     QTest::newRow("the object's own UID") << QStringLiteral("0008,0018") << QString()

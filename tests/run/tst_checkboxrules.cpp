@@ -3,7 +3,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -21,7 +22,7 @@ QString text(const CheckBoxChanges &changes)
 
 } // namespace
 
-class CheckBoxRulesTest : public QObject
+class TestCheckBoxRules : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +31,7 @@ private Q_SLOTS:
     void eachActionChangesJustTheControlsOfItsRule();
 };
 
-void CheckBoxRulesTest::eachActionChangesJustTheControlsOfItsRule_data()
+void TestCheckBoxRules::eachActionChangesJustTheControlsOfItsRule_data()
 {
     QTest::addColumn<QString>("actual");
     QTest::addColumn<QString>("expected");
@@ -55,13 +56,11 @@ void CheckBoxRulesTest::eachActionChangesJustTheControlsOfItsRule_data()
         QStringLiteral("overwrite -, construct -, generate -, only generate -, table -"));
 }
 
-void CheckBoxRulesTest::eachActionChangesJustTheControlsOfItsRule()
+void TestCheckBoxRules::eachActionChangesJustTheControlsOfItsRule()
 {
     QFETCH(QString, actual);
     QTEST(actual, "expected");
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::CheckBoxRulesTest)
+DRAVOLIN_TEST(TestCheckBoxRules)
 #include "tst_checkboxrules.moc"

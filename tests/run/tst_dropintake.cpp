@@ -8,7 +8,8 @@
 
 #include <unistd.h>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -16,7 +17,7 @@ const QString validRoot = QStringLiteral("1.2.826.0.1.3680043.10.1234");
 
 } // namespace
 
-class DropIntakeTest : public QObject
+class TestDropIntake : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +29,7 @@ private Q_SLOTS:
     void tellsWhichKindOfRunBegins();
 };
 
-void DropIntakeTest::sortsFoldersFromEverythingElseInDropOrder()
+void TestDropIntake::sortsFoldersFromEverythingElseInDropOrder()
 {
     const TestRun run;
     const auto inside = [&run](const char *name) { return run.path(QString::fromUtf8(name)); };
@@ -54,7 +55,7 @@ void DropIntakeTest::sortsFoldersFromEverythingElseInDropOrder()
                           inside("broken link"), inside("no extension")}));
 }
 
-void DropIntakeTest::takesTheTableOfTheSelectedItem_data()
+void TestDropIntake::takesTheTableOfTheSelectedItem_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("title");
@@ -73,7 +74,7 @@ void DropIntakeTest::takesTheTableOfTheSelectedItem_data()
         << 2 << QStringLiteral("Gone") << QStringLiteral("Gone") << QString();
 }
 
-void DropIntakeTest::takesTheTableOfTheSelectedItem()
+void TestDropIntake::takesTheTableOfTheSelectedItem()
 {
     QFETCH(int, index);
     QFETCH(QString, title);
@@ -92,7 +93,7 @@ void DropIntakeTest::takesTheTableOfTheSelectedItem()
     QVERIFY(!drop->options.theLUTtag);
 }
 
-void DropIntakeTest::tellsWhichKindOfRunBegins_data()
+void TestDropIntake::tellsWhichKindOfRunBegins_data()
 {
     QTest::addColumn<Qt::CheckState>("construct");
     QTest::addColumn<Qt::CheckState>("onlyGenerate");
@@ -106,7 +107,7 @@ void DropIntakeTest::tellsWhichKindOfRunBegins_data()
     QTest::newRow("construction comes first") << Qt::Checked << Qt::Checked << construction;
 }
 
-void DropIntakeTest::tellsWhichKindOfRunBegins()
+void TestDropIntake::tellsWhichKindOfRunBegins()
 {
     QFETCH(Qt::CheckState, construct);
     QFETCH(Qt::CheckState, onlyGenerate);
@@ -119,7 +120,5 @@ void DropIntakeTest::tellsWhichKindOfRunBegins()
     QCOMPARE(run.host.calls, QStringList({call, QStringLiteral("run starts")}));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::DropIntakeTest)
+DRAVOLIN_TEST(TestDropIntake)
 #include "tst_dropintake.moc"

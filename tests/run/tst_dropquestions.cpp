@@ -4,7 +4,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -36,7 +37,7 @@ public:
 
 } // namespace
 
-class DropQuestionsTest : public QObject
+class TestDropQuestions : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +57,7 @@ private Q_SLOTS:
     void anEmptyDropIsARunWithItsQuestions();
 };
 
-void DropQuestionsTest::asksAboutManyFilesOnlyWithoutAFolder_data()
+void TestDropQuestions::asksAboutManyFilesOnlyWithoutAFolder_data()
 {
     QTest::addColumn<qsizetype>("files");
     QTest::addColumn<bool>("withFolder");
@@ -68,7 +69,7 @@ void DropQuestionsTest::asksAboutManyFilesOnlyWithoutAFolder_data()
     QTest::newRow("5000 files") << qsizetype(5000) << false << true;
 }
 
-void DropQuestionsTest::asksAboutManyFilesOnlyWithoutAFolder()
+void TestDropQuestions::asksAboutManyFilesOnlyWithoutAFolder()
 {
     QFETCH(qsizetype, files);
     QFETCH(bool, withFolder);
@@ -89,7 +90,7 @@ void DropQuestionsTest::asksAboutManyFilesOnlyWithoutAFolder()
     QCOMPARE(run.host.calls, large ? validCheck + QStringList(largeDropAlert) : validCheck);
 }
 
-void DropQuestionsTest::backupsAreMadeUnlessTheSourcesAreOverwritten_data()
+void TestDropQuestions::backupsAreMadeUnlessTheSourcesAreOverwritten_data()
 {
     QTest::addColumn<Qt::CheckState>("overwrite");
     QTest::addColumn<bool>("backups");
@@ -98,7 +99,7 @@ void DropQuestionsTest::backupsAreMadeUnlessTheSourcesAreOverwritten_data()
     QTest::newRow("on") << Qt::Checked << false << QStringList(overwriteAlert);
 }
 
-void DropQuestionsTest::backupsAreMadeUnlessTheSourcesAreOverwritten()
+void TestDropQuestions::backupsAreMadeUnlessTheSourcesAreOverwritten()
 {
     QFETCH(Qt::CheckState, overwrite);
     QFETCH(QStringList, questions);
@@ -115,7 +116,7 @@ void DropQuestionsTest::backupsAreMadeUnlessTheSourcesAreOverwritten()
     QCOMPARE(run.host.calls, validCheck + questions);
 }
 
-void DropQuestionsTest::readsTheChoicesBeforeAnyQuestion()
+void TestDropQuestions::readsTheChoicesBeforeAnyQuestion()
 {
     TestRun run;
     FickleHost host;
@@ -137,7 +138,7 @@ void DropQuestionsTest::readsTheChoicesBeforeAnyQuestion()
     QCOMPARE(host.calls, validCheck + QStringList({largeDropAlert, overwriteAlert}));
 }
 
-void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen_data()
+void TestDropQuestions::checksTheRootWhateverKindOfRunIsChosen_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("construction") << 0;
@@ -145,7 +146,7 @@ void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen_data()
     QTest::newRow("only generate") << 2;
 }
 
-void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen()
+void TestDropQuestions::checksTheRootWhateverKindOfRunIsChosen()
 {
     QFETCH(int, kind);
     TestRun run;
@@ -157,7 +158,7 @@ void DropQuestionsTest::checksTheRootWhateverKindOfRunIsChosen()
     QCOMPARE(run.host.calls, validCheck);
 }
 
-void DropQuestionsTest::replacesABadRootOnceAndGoesOn()
+void TestDropQuestions::replacesABadRootOnceAndGoesOn()
 {
     TestRun run;
     run.host.fields.uidRoot = QStringLiteral(" 1.2.3 ");
@@ -171,7 +172,7 @@ void DropQuestionsTest::replacesABadRootOnceAndGoesOn()
     QCOMPARE(run.uuids.uuids, QStringList());
 }
 
-void DropQuestionsTest::stopsWhenTheReplacedRootIsBadToo()
+void TestDropQuestions::stopsWhenTheReplacedRootIsBadToo()
 {
     TestRun run;
     run.host.fields.caseId = QStringLiteral("12a"); // no root fits this one
@@ -187,7 +188,7 @@ void DropQuestionsTest::stopsWhenTheReplacedRootIsBadToo()
     QVERIFY(run.jobs.jobs.isEmpty());
 }
 
-void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo_data()
+void TestDropQuestions::asksInOrderAndStopsAtTheFirstNo_data()
 {
     QTest::addColumn<QList<bool>>("answers");
     QTest::addColumn<QStringList>("questions");
@@ -200,7 +201,7 @@ void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo_data()
         << QList{yes, yes} << QStringList{largeDropAlert, overwriteAlert} << true;
 }
 
-void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo()
+void TestDropQuestions::asksInOrderAndStopsAtTheFirstNo()
 {
     QFETCH(QStringList, questions);
     QFETCH(QList<bool>, answers);
@@ -216,7 +217,7 @@ void DropQuestionsTest::asksInOrderAndStopsAtTheFirstNo()
     QVERIFY(run.host.answers.isEmpty());
 }
 
-void DropQuestionsTest::keepsAskingAboutOverwritingWhenConstructing()
+void TestDropQuestions::keepsAskingAboutOverwritingWhenConstructing()
 {
     TestRun run;
     run.host.fields.uidRoot = validRoot;
@@ -227,7 +228,7 @@ void DropQuestionsTest::keepsAskingAboutOverwritingWhenConstructing()
     QCOMPARE(run.host.calls, validCheck + QStringList(overwriteAlert));
 }
 
-void DropQuestionsTest::anEmptyDropIsARunWithItsQuestions()
+void TestDropQuestions::anEmptyDropIsARunWithItsQuestions()
 {
     TestRun run;
     run.host.fields.uidRoot = validRoot;
@@ -241,7 +242,5 @@ void DropQuestionsTest::anEmptyDropIsARunWithItsQuestions()
     QCOMPARE(run.host.calls, validCheck + QStringList(overwriteAlert));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::DropQuestionsTest)
+DRAVOLIN_TEST(TestDropQuestions)
 #include "tst_dropquestions.moc"

@@ -7,7 +7,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -21,7 +22,7 @@ QString refusal(Refusal reason, const QString &table)
 } // namespace
 
 // The selected table is matched against the configuration and loaded.
-class LutBindingTest : public QObject
+class TestLutBinding : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +53,7 @@ private:
     QStringList m_tags;
 };
 
-void LutBindingTest::init()
+void TestLutBinding::init()
 {
     m_run = std::make_unique<TestRun>();
     m_options = {};
@@ -63,13 +64,13 @@ void LutBindingTest::init()
     m_run->state.set(&RunState::allTagsToAnonymize, m_tags);
 }
 
-void LutBindingTest::select(const QString &name, const QByteArray &content)
+void TestLutBinding::select(const QString &name, const QByteArray &content)
 {
     m_options.selectedLUT = name;
     m_options.selectedLUTpath = m_run->writeFile(str("home/Desktop/table.txt"), fromBytes(content));
 }
 
-void LutBindingTest::bindsTheMarkedAttribute()
+void TestLutBinding::bindsTheMarkedAttribute()
 {
     select(str("Site"), "<missing>\tX\nA\tB\n");
     QVERIFY(bindTable(m_run->context, m_options));
@@ -84,7 +85,7 @@ void LutBindingTest::bindsTheMarkedAttribute()
     QCOMPARE(m_run->host.calls, QStringList());
 }
 
-void LutBindingTest::bindsTheFirstOfEqualMarkers()
+void TestLutBinding::bindsTheFirstOfEqualMarkers()
 {
     m_values.insert(str("0020,0010"), str("<LUT_Site>"));
     m_values.insert(str("0008,0090"), str("<LUT_Site>"));
@@ -97,7 +98,7 @@ void LutBindingTest::bindsTheFirstOfEqualMarkers()
     QCOMPARE(m_run->state.get(&RunState::newValueDict).size(), 4);
 }
 
-void LutBindingTest::bindsATagThatIsNotInTheList()
+void TestLutBinding::bindsATagThatIsNotInTheList()
 {
     m_run->state.set(&RunState::allTagsToAnonymize, QStringList(str("0008,0080")));
     select(str("Site"), "<missing>\tX\n");
@@ -106,7 +107,7 @@ void LutBindingTest::bindsATagThatIsNotInTheList()
     QCOMPARE(m_run->state.get(&RunState::usingLUT), true);
 }
 
-void LutBindingTest::marksAreComparedWhole_data()
+void TestLutBinding::marksAreComparedWhole_data()
 {
     QTest::addColumn<QString>("marker");
     for (const char *marker : {"<LUT_site>", "<lut_Site>", "<LUT_Site", "<LUT_Site> ", " <LUT_Site>",
@@ -114,7 +115,7 @@ void LutBindingTest::marksAreComparedWhole_data()
         QTest::newRow(marker) << str(marker);
 }
 
-void LutBindingTest::marksAreComparedWhole()
+void TestLutBinding::marksAreComparedWhole()
 {
     QFETCH(QString, marker);
     m_values[tag] = marker;
@@ -127,7 +128,7 @@ void LutBindingTest::marksAreComparedWhole()
     QCOMPARE(m_run->state.get(&RunState::selectedLUTdict), old); // the file was not read
 }
 
-void LutBindingTest::aMissingMarkerIsReportedBeforeABadFile()
+void TestLutBinding::aMissingMarkerIsReportedBeforeABadFile()
 {
     m_run->state.set(&RunState::usingLUT, true);
     m_run->state.set(&RunState::newValueDict, NewValueDict());
@@ -141,7 +142,7 @@ void LutBindingTest::aMissingMarkerIsReportedBeforeABadFile()
     QCOMPARE(m_options.theLUTtag, std::nullopt);
 }
 
-void LutBindingTest::filesWithoutATableAreRefused_data()
+void TestLutBinding::filesWithoutATableAreRefused_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<int>("reason");
@@ -156,7 +157,7 @@ void LutBindingTest::filesWithoutATableAreRefused_data()
     QTest::newRow("<missing> without a text") << QByteArray("<missing>\nA\tB\n") << withoutMissing;
 }
 
-void LutBindingTest::filesWithoutATableAreRefused()
+void TestLutBinding::filesWithoutATableAreRefused()
 {
     QFETCH(QByteArray, content);
     QFETCH(int, reason);
@@ -168,7 +169,7 @@ void LutBindingTest::filesWithoutATableAreRefused()
     QCOMPARE(m_options.theLUTtag, std::nullopt);
 }
 
-void LutBindingTest::filesThatPass_data()
+void TestLutBinding::filesThatPass_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("<missing> alone") << QByteArray("<missing>\tX");
@@ -177,7 +178,7 @@ void LutBindingTest::filesThatPass_data()
     QTest::newRow("as it is written") << lutText(tag, {str("A")}).toUtf8();
 }
 
-void LutBindingTest::filesThatPass()
+void TestLutBinding::filesThatPass()
 {
     QFETCH(QByteArray, content);
     select(str("Site"), content);
@@ -185,7 +186,7 @@ void LutBindingTest::filesThatPass()
     QCOMPARE(m_run->host.calls, QStringList());
 }
 
-void LutBindingTest::refusalLeavesTheRulesAsTheyAre()
+void TestLutBinding::refusalLeavesTheRulesAsTheyAre()
 {
     for (const QByteArray &content : {QByteArray("A\tB\n"), QByteArray()}) {
         select(str("Site"), content);
@@ -195,7 +196,7 @@ void LutBindingTest::refusalLeavesTheRulesAsTheyAre()
     }
 }
 
-void LutBindingTest::namesAreNoPlaceholders()
+void TestLutBinding::namesAreNoPlaceholders()
 {
     m_values[tag] = str("<LUT_%2 %1>");
     m_run->state.set(&RunState::newValueDict, m_values);
@@ -204,7 +205,7 @@ void LutBindingTest::namesAreNoPlaceholders()
     QCOMPARE(m_run->host.calls, QStringList(refusal(Refusal::TableWithoutMissing, str("%2 %1"))));
 }
 
-void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead_data()
+void TestLutBinding::keepsTheOldTableWhenAFileCannotBeRead_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("vanished") << str("vanished.txt");
@@ -214,7 +215,7 @@ void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead_data()
     QTest::newRow("no path") << QString();
 }
 
-void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead()
+void TestLutBinding::keepsTheOldTableWhenAFileCannotBeRead()
 {
     QFETCH(QString, path);
     m_run->writeFile(str("empty.txt"));
@@ -228,7 +229,7 @@ void LutBindingTest::keepsTheOldTableWhenAFileCannotBeRead()
     QCOMPARE(m_run->host.calls, QStringList());
 }
 
-void LutBindingTest::otherFilesReplaceTheTable_data()
+void TestLutBinding::otherFilesReplaceTheTable_data()
 {
     QTest::addColumn<QString>("content");
     QTest::addColumn<bool>("loaded");
@@ -239,7 +240,7 @@ void LutBindingTest::otherFilesReplaceTheTable_data()
     QTest::newRow("a line break alone") << str("\n") << false << 0;
 }
 
-void LutBindingTest::otherFilesReplaceTheTable()
+void TestLutBinding::otherFilesReplaceTheTable()
 {
     QFETCH(QString, content);
     QFETCH(bool, loaded);
@@ -251,7 +252,5 @@ void LutBindingTest::otherFilesReplaceTheTable()
     QVERIFY(!table.contains(str("old")));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::LutBindingTest)
+DRAVOLIN_TEST(TestLutBinding)
 #include "tst_lutbinding.moc"

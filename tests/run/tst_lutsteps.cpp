@@ -7,7 +7,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -21,7 +22,7 @@ QString propagating(int done, int all)
 } // namespace
 
 // Constructing and propagating, without the rest of a run.
-class LutStepsTest : public QObject
+class TestLutSteps : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +60,7 @@ private:
     QHash<QString, QString> m_values; // by folder: what the filter leaves of the tool's output
 };
 
-void LutStepsTest::init()
+void TestLutSteps::init()
 {
     m_run = std::make_unique<TestRun>();
     m_options = {};
@@ -75,12 +76,12 @@ void LutStepsTest::init()
 }
 
 // Makes a folder that is to be dropped and gives its path.
-QString LutStepsTest::dropped(const QString &name)
+QString TestLutSteps::dropped(const QString &name)
 {
     return m_run->makeFolder(str("data/") + name);
 }
 
-void LutStepsTest::refreshFillsThePopUp()
+void TestLutSteps::refreshFillsThePopUp()
 {
     m_run->state.set(&RunState::allLUTsPaths, TitleToPath{{str("old"), str("path")}});
     const TitleToPath expected = {{str("B"), m_run->writeFile(str("home/Desktop/AnonymizationLUT_B.txt"))},
@@ -91,7 +92,7 @@ void LutStepsTest::refreshFillsThePopUp()
     QCOMPARE(m_run->host.calls, QStringList(str("tables: |A|B")));
 }
 
-void LutStepsTest::refreshWithoutTablesSaysSo()
+void TestLutSteps::refreshWithoutTablesSaysSo()
 {
     m_run->state.set(&RunState::allLUTsPaths, TitleToPath{{str("old"), str("path")}});
     refreshTables(m_run->context);
@@ -99,7 +100,7 @@ void LutStepsTest::refreshWithoutTablesSaysSo()
     QCOMPARE(m_run->host.calls, QStringList(str("tables: ")));
 }
 
-void LutStepsTest::constructionTakesFoldersThenFiles()
+void TestLutSteps::constructionTakesFoldersThenFiles()
 {
     const QString one = dropped(str("one"));
     const QString two = dropped(str("two"));
@@ -112,7 +113,7 @@ void LutStepsTest::constructionTakesFoldersThenFiles()
     QCOMPARE(m_run->host.calls, QStringList(str("tables: XX"))); // no status text, no progress
 }
 
-void LutStepsTest::constructionCountsWhatWasDropped_data()
+void TestLutSteps::constructionCountsWhatWasDropped_data()
 {
     QTest::addColumn<int>("folders");
     QTest::addColumn<int>("files");
@@ -123,7 +124,7 @@ void LutStepsTest::constructionCountsWhatWasDropped_data()
     QTest::newRow("two folders and a file") << 2 << 1 << quint64(3);
 }
 
-void LutStepsTest::constructionCountsWhatWasDropped()
+void TestLutSteps::constructionCountsWhatWasDropped()
 {
     QFETCH(int, folders);
     QFETCH(int, files);
@@ -143,7 +144,7 @@ void LutStepsTest::constructionCountsWhatWasDropped()
     QCOMPARE(state(&RunState::folderCount), total);
 }
 
-void LutStepsTest::constructionStartsFromNothing()
+void TestLutSteps::constructionStartsFromNothing()
 {
     m_run->state.set(&RunState::numLUTadaptedFiles, quint64(5));
     m_run->state.set(&RunState::numLUTskippedFiles, quint64(6));
@@ -154,7 +155,7 @@ void LutStepsTest::constructionStartsFromNothing()
     QCOMPARE(state(&RunState::LUTtagSet), QSet<QString>());
 }
 
-void LutStepsTest::constructionWritesAndOffersTheTable()
+void TestLutSteps::constructionWritesAndOffersTheTable()
 {
     const QString folder = dropped(str("one"));
     m_values = {{folder, str("b\nA\n")}};
@@ -166,7 +167,7 @@ void LutStepsTest::constructionWritesAndOffersTheTable()
     QCOMPARE(m_run->host.calls, QStringList(str("tables: Site")));
 }
 
-void LutStepsTest::constructionOffersTheNumberedTable()
+void TestLutSteps::constructionOffersTheNumberedTable()
 {
     m_run->writeFile(str("home/Desktop/AnonymizationLUT_PatientID.txt"));
     m_run->writeFile(str("home/Desktop/AnonymizationLUT_PatientID1.txt"));
@@ -177,7 +178,7 @@ void LutStepsTest::constructionOffersTheNumberedTable()
     QCOMPARE(m_run->host.calls, QStringList(str("tables: PatientID|PatientID1|PatientID2")));
 }
 
-void LutStepsTest::constructionWritesAlsoAfterFailures()
+void TestLutSteps::constructionWritesAlsoAfterFailures()
 {
     const QString good = dropped(str("good"));
     m_values = {{good, str("A\n")}};
@@ -187,7 +188,7 @@ void LutStepsTest::constructionWritesAlsoAfterFailures()
     QCOMPARE(readText(desktopPath(str("AnonymizationLUT_XX.txt"))), lutText(tag, {str("A")}));
 }
 
-void LutStepsTest::constructionOfNothingWritesTheExplanation()
+void TestLutSteps::constructionOfNothingWritesTheExplanation()
 {
     m_run->state.set(&RunState::LUTconstructionTag, QString());
     constructTable(m_run->context, {}, {}, m_options);
@@ -195,7 +196,7 @@ void LutStepsTest::constructionOfNothingWritesTheExplanation()
     QCOMPARE(readText(desktopPath(str("AnonymizationLUT_XX.txt"))), lutText(QString(), {}));
 }
 
-void LutStepsTest::propagationShowsItsProgress()
+void TestLutSteps::propagationShowsItsProgress()
 {
     const QString one = dropped(str("one"));
     const QString two = dropped(str("two"));
@@ -211,7 +212,7 @@ void LutStepsTest::propagationShowsItsProgress()
     QCOMPARE(state(&RunState::numLUTskippedFiles), 2U);
 }
 
-void LutStepsTest::propagationTakesFilesInTheFirstOnesFolder()
+void TestLutSteps::propagationTakesFilesInTheFirstOnesFolder()
 {
     const QString one = dropped(str("one"));
     m_run->writeFile(str("data/two/a"));
@@ -224,7 +225,7 @@ void LutStepsTest::propagationTakesFilesInTheFirstOnesFolder()
     QCOMPARE(state(&RunState::folderCount), 1U); // the files have no part in it
 }
 
-void LutStepsTest::propagationStartsItsCountersButOne()
+void TestLutSteps::propagationStartsItsCountersButOne()
 {
     m_run->state.set(&RunState::folderCount, quint64(4));
     m_run->state.set(&RunState::totalFolders, quint64(5));
@@ -237,7 +238,7 @@ void LutStepsTest::propagationStartsItsCountersButOne()
     QCOMPARE(state(&RunState::numLUTskippedFiles), 7U);
 }
 
-void LutStepsTest::propagationAddsErrorsAndGoesOn()
+void TestLutSteps::propagationAddsErrorsAndGoesOn()
 {
     const QString one = dropped(str("one"));
     const QString two = dropped(str("two"));
@@ -253,13 +254,11 @@ void LutStepsTest::propagationAddsErrorsAndGoesOn()
     QCOMPARE(m_run->host.calls.last(), str("propagation ends"));
 }
 
-void LutStepsTest::propagationOfNothing()
+void TestLutSteps::propagationOfNothing()
 {
     propagateTable(m_run->context, {}, {}, m_options);
     QCOMPARE(m_run->host.calls, (QStringList{str("propagation begins"), str("propagation ends")}));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::LutStepsTest)
+DRAVOLIN_TEST(TestLutSteps)
 #include "tst_lutsteps.moc"

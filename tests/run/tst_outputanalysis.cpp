@@ -5,7 +5,8 @@
 
 #include <limits>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -24,7 +25,7 @@ RunReport printed(const QString &output, const QStringList &folderNames = {})
 
 } // namespace
 
-class OutputAnalysisTest : public QObject
+class TestOutputAnalysis : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +44,7 @@ private Q_SLOTS:
     void sumsClosingLines();
 };
 
-void OutputAnalysisTest::firstSummary_data()
+void TestOutputAnalysis::firstSummary_data()
 {
     QTest::addColumn<RunReport>("report");
     QTest::addColumn<QString>("summary");
@@ -77,7 +78,7 @@ void OutputAnalysisTest::firstSummary_data()
         "Done!\nLUT tag propagated to 1000 files.\nSkipped 1 DICOM file.");
 }
 
-void OutputAnalysisTest::firstSummary()
+void TestOutputAnalysis::firstSummary()
 {
     QFETCH(RunReport, report);
     const RunJudgement judgement = judgeOutput(report);
@@ -86,7 +87,7 @@ void OutputAnalysisTest::firstSummary()
     QVERIFY(!judgement.wantsLogWindow);
 }
 
-void OutputAnalysisTest::keepsCountsReversed_data()
+void TestOutputAnalysis::keepsCountsReversed_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<qint64>("count");
@@ -122,13 +123,13 @@ void OutputAnalysisTest::keepsCountsReversed_data()
     row("E: There were \xd9\xa3 errors", 0); // another script's digit
 }
 
-void OutputAnalysisTest::keepsCountsReversed()
+void TestOutputAnalysis::keepsCountsReversed()
 {
     QFETCH(QString, line);
     QTEST(closingLineCount(line), "count");
 }
 
-void OutputAnalysisTest::cutsLinesAtEveryNewline_data()
+void TestOutputAnalysis::cutsLinesAtEveryNewline_data()
 {
     QTest::addColumn<QString>("output");
     QTest::addColumn<QString>("logText");
@@ -151,13 +152,13 @@ void OutputAnalysisTest::cutsLinesAtEveryNewline_data()
                                  << QString(str("E: a") + QChar(0) + str("E: b\n\n"));
 }
 
-void OutputAnalysisTest::cutsLinesAtEveryNewline()
+void TestOutputAnalysis::cutsLinesAtEveryNewline()
 {
     QFETCH(QString, output);
     QTEST(judgeOutput(printed(output)).logText, "logText");
 }
 
-void OutputAnalysisTest::collectsErrorLines_data()
+void TestOutputAnalysis::collectsErrorLines_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("logText");
@@ -195,7 +196,7 @@ void OutputAnalysisTest::collectsErrorLines_data()
     row("E: Unable to load file x: y", "E: Unable to load file x: y\n\n");
 }
 
-void OutputAnalysisTest::collectsErrorLines()
+void TestOutputAnalysis::collectsErrorLines()
 {
     QFETCH(QString, line);
     QFETCH(QString, logText);
@@ -205,7 +206,7 @@ void OutputAnalysisTest::collectsErrorLines()
     QCOMPARE(judgement.summary, logText.isEmpty() ? str("\nDone!") : str("\nDone, with 1 error."));
 }
 
-void OutputAnalysisTest::complaintsAboutFoldersAreNoErrors_data()
+void TestOutputAnalysis::complaintsAboutFoldersAreNoErrors_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QString>("named");
@@ -241,7 +242,7 @@ void OutputAnalysisTest::complaintsAboutFoldersAreNoErrors_data()
         << QStringList({str("series_a"), str("series_a")}) << str("Series_A: x") << true;
 }
 
-void OutputAnalysisTest::complaintsAboutFoldersAreNoErrors()
+void TestOutputAnalysis::complaintsAboutFoldersAreNoErrors()
 {
     QFETCH(QStringList, names);
     QFETCH(QString, named);
@@ -254,7 +255,7 @@ void OutputAnalysisTest::complaintsAboutFoldersAreNoErrors()
     QCOMPARE(judgement.logText, (hit ? QString() : line.trimmed() + str("\n\n")) + str("E: other\n\n"));
 }
 
-void OutputAnalysisTest::sumsClosingLines_data()
+void TestOutputAnalysis::sumsClosingLines_data()
 {
     QTest::addColumn<QString>("output");
     QTest::addColumn<QString>("summary");
@@ -284,7 +285,7 @@ void OutputAnalysisTest::sumsClosingLines_data()
     row("folders alone are not seen", "E: unable to load file sub: x\n", "\nDone!");
 }
 
-void OutputAnalysisTest::sumsClosingLines()
+void TestOutputAnalysis::sumsClosingLines()
 {
     QFETCH(QString, output);
     const RunJudgement judgement = judgeOutput(printed(output, {str("sub")}));
@@ -292,7 +293,5 @@ void OutputAnalysisTest::sumsClosingLines()
     QCOMPARE(judgement.wantsLogWindow, !judgement.logText.isEmpty());
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::OutputAnalysisTest)
+DRAVOLIN_TEST(TestOutputAnalysis)
 #include "tst_outputanalysis.moc"

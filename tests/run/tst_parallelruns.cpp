@@ -8,7 +8,8 @@
 
 #include <thread>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -31,7 +32,7 @@ private:
 
 } // namespace
 
-class ParallelRunsTest : public QObject
+class TestParallelRuns : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +43,7 @@ private Q_SLOTS:
 
 // The first run's first job waits until the second run has come to its end: what the second counts and resets
 // is seen by the first.
-void ParallelRunsTest::keepsNoGuardBetweenRuns()
+void TestParallelRuns::keepsNoGuardBetweenRuns()
 {
     SharedRunState shared;
     OneOfTwo first(shared);
@@ -78,7 +79,7 @@ void ParallelRunsTest::keepsNoGuardBetweenRuns()
                                    endCalls(str("\nDone!")));
 }
 
-void ParallelRunsTest::freelyInterleavedRunsDoAllTheirJobs()
+void TestParallelRuns::freelyInterleavedRunsDoAllTheirJobs()
 {
     constexpr int folders = 200;
     SharedRunState shared;
@@ -106,7 +107,5 @@ void ParallelRunsTest::freelyInterleavedRunsDoAllTheirJobs()
     });
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::ParallelRunsTest)
+DRAVOLIN_TEST(TestParallelRuns)
 #include "tst_parallelruns.moc"

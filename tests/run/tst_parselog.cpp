@@ -5,9 +5,10 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
-class ParseLogTest : public QObject
+class TestParseLog : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +21,7 @@ private Q_SLOTS:
     void givesBackWhatItTold();
 };
 
-void ParseLogTest::tellsTheSummary_data()
+void TestParseLog::tellsTheSummary_data()
 {
     QTest::addColumn<Qt::CheckState>("construct");
     QTest::addColumn<bool>("usingLUT");
@@ -32,7 +33,7 @@ void ParseLogTest::tellsTheSummary_data()
                                  << str("Done!\nLUT tag propagated to 7 files.\nSkipped 1 DICOM file.");
 }
 
-void ParseLogTest::tellsTheSummary()
+void TestParseLog::tellsTheSummary()
 {
     QFETCH(Qt::CheckState, construct);
     QFETCH(bool, usingLUT);
@@ -47,7 +48,7 @@ void ParseLogTest::tellsTheSummary()
     QCOMPARE(run.host.calls, endCalls(summary));
 }
 
-void ParseLogTest::tellsTheLogText()
+void TestParseLog::tellsTheLogText()
 {
     TestRun run;
     run.state.set(&RunState::output,
@@ -57,7 +58,7 @@ void ParseLogTest::tellsTheLogText()
                                       str("E: modifying tag in file a.dcm: Corrupted data\n\n")));
 }
 
-void ParseLogTest::resetsTheCountersOfTheRun()
+void TestParseLog::resetsTheCountersOfTheRun()
 {
     TestRun run;
     run.state.update([](RunState &state) {
@@ -79,7 +80,7 @@ void ParseLogTest::resetsTheCountersOfTheRun()
     });
 }
 
-void ParseLogTest::keepsWhatOutlivesTheRun()
+void TestParseLog::keepsWhatOutlivesTheRun()
 {
     TestRun run;
     const QStringList tags = {str("0010,0020")};
@@ -109,7 +110,7 @@ void ParseLogTest::keepsWhatOutlivesTheRun()
     QCOMPARE(run.host.judgements.last().summary, str("\nDone, with 0 errors."));
 }
 
-void ParseLogTest::givesBackWhatItTold()
+void TestParseLog::givesBackWhatItTold()
 {
     TestRun run;
     const JobTally jobs = {.ran = 3, .couldNotStart = 1, .exitStatuses = {{0, 2}, {139, 1}}};
@@ -128,7 +129,5 @@ void ParseLogTest::givesBackWhatItTold()
     QVERIFY(run.state.get(&RunState::jobs) == JobTally());
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::ParseLogTest)
+DRAVOLIN_TEST(TestParseLog)
 #include "tst_parselog.moc"

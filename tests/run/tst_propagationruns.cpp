@@ -5,7 +5,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -19,7 +20,7 @@ const QString refused = str("Done...\nEncountered 1 error.\nSee messages logged 
 } // namespace
 
 // Whole runs with a selected table.
-class PropagationRunsTest : public QObject
+class TestPropagationRuns : public QObject
 {
     Q_OBJECT
 
@@ -37,7 +38,7 @@ private Q_SLOTS:
     void theLogHoldsTheCounts();
 };
 
-void PropagationRunsTest::propagatesAfterAnonymizing()
+void TestPropagationRuns::propagatesAfterAnonymizing()
 {
     TableRun run;
     run.switchOn(&Choices::overwriteSource);
@@ -75,7 +76,7 @@ void PropagationRunsTest::propagatesAfterAnonymizing()
     QCOMPARE(drop.options.theLUTtag, str("0010,1000"));
 }
 
-void PropagationRunsTest::bindingNothingButItsAttributeStillPropagates()
+void TestPropagationRuns::bindingNothingButItsAttributeStillPropagates()
 {
     TableRun run;
     run.file(str("in/a"), "new");
@@ -87,7 +88,7 @@ void PropagationRunsTest::bindingNothingButItsAttributeStillPropagates()
     QCOMPARE(run.summary(), str("Done!\nLUT tag propagated to 1 file.\nSkipped 0 DICOM files."));
 }
 
-void PropagationRunsTest::keepsErasingOtherMarkedAttributes()
+void TestPropagationRuns::keepsErasingOtherMarkedAttributes()
 {
     TableRun run;
     run.configure(str("0010,0030\tx\t<LUT_Other>\n0010,1000\tx\t<LUT_Site>\n0010,1001\tx\t<LUT_Site>"));
@@ -110,7 +111,7 @@ void PropagationRunsTest::keepsErasingOtherMarkedAttributes()
                                       "-ea \"(0032,4000)\" * >.noxTemp.out 2>&1")));
 }
 
-void PropagationRunsTest::keepsTheSkippedFilesOfEarlierRuns()
+void TestPropagationRuns::keepsTheSkippedFilesOfEarlierRuns()
 {
     TableRun run;
     for (const char *name : {"in/a", "in/b", "in/c"})
@@ -124,7 +125,7 @@ void PropagationRunsTest::keepsTheSkippedFilesOfEarlierRuns()
     }
 }
 
-void PropagationRunsTest::refusedRunsTouchNothing_data()
+void TestPropagationRuns::refusedRunsTouchNothing_data()
 {
     QTest::addColumn<QString>("configuration");
     QTest::addColumn<QString>("table");
@@ -137,7 +138,7 @@ void PropagationRunsTest::refusedRunsTouchNothing_data()
                                   << str("refuse TableWithoutMissing: Site");
 }
 
-void PropagationRunsTest::refusedRunsTouchNothing()
+void TestPropagationRuns::refusedRunsTouchNothing()
 {
     QFETCH(QString, configuration);
     QFETCH(QString, table);
@@ -157,7 +158,7 @@ void PropagationRunsTest::refusedRunsTouchNothing()
     QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
 
-void PropagationRunsTest::fixedAttributesCannotBeBoundByAFile()
+void TestPropagationRuns::fixedAttributesCannotBeBoundByAFile()
 {
     TableRun run;
     run.configure(str("0010,0020\tPatient ID\t<LUT_Site>"));
@@ -167,7 +168,7 @@ void PropagationRunsTest::fixedAttributesCannotBeBoundByAFile()
     QCOMPARE(run.summary(), refused);
 }
 
-void PropagationRunsTest::aMarkerTypedIntoTheWindowBinds()
+void TestPropagationRuns::aMarkerTypedIntoTheWindowBinds()
 {
     TableRun run;
     run.configure(QString());
@@ -177,7 +178,7 @@ void PropagationRunsTest::aMarkerTypedIntoTheWindowBinds()
     QCOMPARE(drop.options.theLUTtag, str("0010,0010"));
 }
 
-void PropagationRunsTest::aTableWithoutANameIsNone()
+void TestPropagationRuns::aTableWithoutANameIsNone()
 {
     TableRun run;
     Drop drop = run.dropWithTable({run.makeFolder(str("in"))}, {}, QString());
@@ -192,7 +193,7 @@ void PropagationRunsTest::aTableWithoutANameIsNone()
                                       validRoot + str("\" -ea \"(0032,4000)\" * >.noxTemp.out 2>&1")));
 }
 
-void PropagationRunsTest::keepsPropagatingWhenOnlyGeneratingAfterwards()
+void TestPropagationRuns::keepsPropagatingWhenOnlyGeneratingAfterwards()
 {
     TableRun run;
     run.file(str("in/a"), "PHANTOM");
@@ -211,7 +212,7 @@ void PropagationRunsTest::keepsPropagatingWhenOnlyGeneratingAfterwards()
     QCOMPARE(run.summary(), str("Done!\nLUT tag propagated to 0 files.\nSkipped 1 DICOM file."));
 }
 
-void PropagationRunsTest::theLogHoldsTheCounts()
+void TestPropagationRuns::theLogHoldsTheCounts()
 {
     TableRun run;
     const QString file = run.file(str("in/a"), "A");
@@ -224,7 +225,5 @@ void PropagationRunsTest::theLogHoldsTheCounts()
                          "LUT tag propagated to 1 file.\nSkipped 0 DICOM files.\n\n")));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::PropagationRunsTest)
+DRAVOLIN_TEST(TestPropagationRuns)
 #include "tst_propagationruns.moc"

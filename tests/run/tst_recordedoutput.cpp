@@ -4,7 +4,8 @@
 #include <QFile>
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -24,7 +25,7 @@ QString recorded(const QString &name)
 
 } // namespace
 
-class RecordedOutputTest : public QObject
+class TestRecordedOutput : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ private Q_SLOTS:
     void notesStandBehindTheErrors();
 };
 
-void RecordedOutputTest::judgesWhatTheToolPrints_data()
+void TestRecordedOutput::judgesWhatTheToolPrints_data()
 {
     QTest::addColumn<QStringList>("folders");
     QTest::addColumn<QString>("summary");
@@ -80,7 +81,7 @@ void RecordedOutputTest::judgesWhatTheToolPrints_data()
         "E: DcmFileFormat: Cannot determine Version of MetaHeader\n\n");
 }
 
-void RecordedOutputTest::judgesWhatTheToolPrints()
+void TestRecordedOutput::judgesWhatTheToolPrints()
 {
     QFETCH(QStringList, folders);
     QFETCH(QString, logText);
@@ -96,7 +97,7 @@ void RecordedOutputTest::judgesWhatTheToolPrints()
     QCOMPARE(judgement.wantsLogWindow, !logText.isEmpty());
 }
 
-void RecordedOutputTest::judgesAWholeRun()
+void TestRecordedOutput::judgesAWholeRun()
 {
     RunReport report;
     for (const char *name : {"ten-subfolders", "empty-folder", "sequence", "two-subfolders-one-unreadable"})
@@ -116,7 +117,7 @@ void RecordedOutputTest::judgesAWholeRun()
                                     "./DICOMDIR\n\n"));
 }
 
-void RecordedOutputTest::notesStandBehindTheErrors_data()
+void TestRecordedOutput::notesStandBehindTheErrors_data()
 {
     QTest::addColumn<RunReport>("report");
     QTest::addColumn<QString>("summary");
@@ -158,7 +159,7 @@ void RecordedOutputTest::notesStandBehindTheErrors_data()
             str("./%1/DICOMDIR\n\n"));
 }
 
-void RecordedOutputTest::notesStandBehindTheErrors()
+void TestRecordedOutput::notesStandBehindTheErrors()
 {
     QFETCH(RunReport, report);
     const RunJudgement judgement = judgeOutput(report);
@@ -167,7 +168,5 @@ void RecordedOutputTest::notesStandBehindTheErrors()
     QVERIFY(judgement.wantsLogWindow);
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::RecordedOutputTest)
+DRAVOLIN_TEST(TestRecordedOutput)
 #include "tst_recordedoutput.moc"

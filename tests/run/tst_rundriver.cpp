@@ -6,9 +6,10 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
-class RunDriverTest : public QObject
+class TestRunDriver : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ private Q_SLOTS:
     void anEmptyDropRunsToItsEnd();
 };
 
-void RunDriverTest::anonymizesFoldersThenFilesAndSearchesDicomdirs()
+void TestRunDriver::anonymizesFoldersThenFilesAndSearchesDicomdirs()
 {
     TracedRun run;
     run.configure(str("0008,0080\tInstitution\tHidden Clinic\n0010,0030\tBirth Date\t..\n"));
@@ -70,7 +71,7 @@ void RunDriverTest::anonymizesFoldersThenFilesAndSearchesDicomdirs()
                               "./DICOMDIR\n./sub/DICOMDIR\n\n")));
 }
 
-void RunDriverTest::loadsTheSelectedConfiguration_data()
+void TestRunDriver::loadsTheSelectedConfiguration_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<QStringList>("tags");
@@ -84,7 +85,7 @@ void RunDriverTest::loadsTheSelectedConfiguration_data()
     QTest::newRow("a file that is not UTF-8") << str("Bad") << fixed;
 }
 
-void RunDriverTest::loadsTheSelectedConfiguration()
+void TestRunDriver::loadsTheSelectedConfiguration()
 {
     QFETCH(QString, title);
     TracedRun run;
@@ -101,7 +102,7 @@ void RunDriverTest::loadsTheSelectedConfiguration()
     QCOMPARE(run.host.calls, loadCalls);
 }
 
-void RunDriverTest::nothingOfAnEarlierLoadSurvives()
+void TestRunDriver::nothingOfAnEarlierLoadSurvives()
 {
     TracedRun run;
     run.state.set(&RunState::allTagsToAnonymize, QStringList(str("0009,0009")));
@@ -122,7 +123,7 @@ void RunDriverTest::nothingOfAnEarlierLoadSurvives()
                                                                    {str("0032,4000"), str("lung")}}));
 }
 
-void RunDriverTest::replacesABadRootForTheRunOnly()
+void TestRunDriver::replacesABadRootForTheRunOnly()
 {
     TracedRun run;
     run.host.fields.uidRoot = str("1.2.3");
@@ -134,7 +135,7 @@ void RunDriverTest::replacesABadRootForTheRunOnly()
     QCOMPARE(run.host.calls, QStringList(rootCall(str("1.2.3"), false)));
 }
 
-void RunDriverTest::tagsThatLostTheirMarkerAreErased()
+void TestRunDriver::tagsThatLostTheirMarkerAreErased()
 {
     TracedRun run;
     run.configure(str("0008,0080\tSite\t<LUT_Site>\n"));
@@ -151,7 +152,7 @@ void RunDriverTest::tagsThatLostTheirMarkerAreErased()
     QCOMPARE(run.state.get(&RunState::firstFoundLUTtagInNewValueDict), str("Site"));
 }
 
-void RunDriverTest::aNameAloneSelectsATable()
+void TestRunDriver::aNameAloneSelectsATable()
 {
     TracedRun run;
     run.configure(QString());
@@ -164,7 +165,7 @@ void RunDriverTest::aNameAloneSelectsATable()
     QCOMPARE(run.host.calls, loadCalls);
 }
 
-void RunDriverTest::keepsAllFilesInTheFolderOfTheFirst()
+void TestRunDriver::keepsAllFilesInTheFolderOfTheFirst()
 {
     TracedRun run;
     run.configure(QString());
@@ -182,7 +183,7 @@ void RunDriverTest::keepsAllFilesInTheFolderOfTheFirst()
     QCOMPARE(run.host.calls, loadCalls + QStringList(str("job ~/in/Second")));
 }
 
-void RunDriverTest::keepsProgressBehindForIndividualFiles()
+void TestRunDriver::keepsProgressBehindForIndividualFiles()
 {
     TracedRun run;
     run.configure(QString());
@@ -198,7 +199,7 @@ void RunDriverTest::keepsProgressBehindForIndividualFiles()
     QCOMPARE(run.state.get(&RunState::totalFolders), quint64(2));
 }
 
-void RunDriverTest::anEmptyDropRunsToItsEnd()
+void TestRunDriver::anEmptyDropRunsToItsEnd()
 {
     TracedRun run;
     run.configure(QString());
@@ -208,7 +209,5 @@ void RunDriverTest::anEmptyDropRunsToItsEnd()
     QCOMPARE(run.jobTexts(), QStringList());
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::RunDriverTest)
+DRAVOLIN_TEST(TestRunDriver)
 #include "tst_rundriver.moc"

@@ -7,7 +7,8 @@
 #include <QTest>
 #include <QTranslator>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -35,7 +36,7 @@ public:
 
 } // namespace
 
-class RunKindsTest : public QObject
+class TestRunKinds : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +54,7 @@ private Q_SLOTS:
     void looksUpItsTexts();
 };
 
-void RunKindsTest::onlyGeneratingReadsNoConfiguration_data()
+void TestRunKinds::onlyGeneratingReadsNoConfiguration_data()
 {
     QTest::addColumn<bool>("generate");
     QTest::addColumn<bool>("overwrite");
@@ -63,7 +64,7 @@ void RunKindsTest::onlyGeneratingReadsNoConfiguration_data()
     QTest::newRow("without new UIDs: no change is asked for") << false << false << str(" -ie -imt");
 }
 
-void RunKindsTest::onlyGeneratingReadsNoConfiguration()
+void TestRunKinds::onlyGeneratingReadsNoConfiguration()
 {
     QFETCH(bool, generate);
     QFETCH(bool, overwrite);
@@ -94,7 +95,7 @@ void RunKindsTest::onlyGeneratingReadsNoConfiguration()
     QCOMPARE(LogCatcher::messages(), QStringList());
 }
 
-void RunKindsTest::keepsTheTagsOfTheLastRunWhenOnlyGenerating()
+void TestRunKinds::keepsTheTagsOfTheLastRunWhenOnlyGenerating()
 {
     const LogCatcher log;
     TracedRun run;
@@ -115,7 +116,7 @@ void RunKindsTest::keepsTheTagsOfTheLastRunWhenOnlyGenerating()
     QCOMPARE(LogCatcher::messages(), QStringList());
 }
 
-void RunKindsTest::keepsPropagatingWhenOnlyGenerating()
+void TestRunKinds::keepsPropagatingWhenOnlyGenerating()
 {
     TracedRun run;
     run.state.set(&RunState::usingLUT, true);
@@ -128,7 +129,7 @@ void RunKindsTest::keepsPropagatingWhenOnlyGenerating()
              endCall(str("Done!\nLUT tag propagated to 0 files.\nSkipped 2 DICOM files.")));
 }
 
-void RunKindsTest::onlyGeneratingCleansAndCountsLikeEveryRun()
+void TestRunKinds::onlyGeneratingCleansAndCountsLikeEveryRun()
 {
     TracedRun run;
     run.switchOn(&Choices::onlyGenerateSOP);
@@ -141,7 +142,7 @@ void RunKindsTest::onlyGeneratingCleansAndCountsLikeEveryRun()
                  endCalls(str("\nDone!")));
 }
 
-void RunKindsTest::constructionNeitherAnonymizesNorSearches()
+void TestRunKinds::constructionNeitherAnonymizesNorSearches()
 {
     TracedRun run;
     run.configure(str("0010,0020\tID\t<LUT_ID>\n"));
@@ -159,7 +160,7 @@ void RunKindsTest::constructionNeitherAnonymizesNorSearches()
         QCOMPARE(recorded.script.indexOf(run.paths.dcmodify()), qsizetype(-1));
 }
 
-void RunKindsTest::refusesAnEmptyTagList_data()
+void TestRunKinds::refusesAnEmptyTagList_data()
 {
     QTest::addColumn<QStringList>("tags");
     QTest::addColumn<bool>("usingLUT");
@@ -170,7 +171,7 @@ void RunKindsTest::refusesAnEmptyTagList_data()
     QTest::newRow("the empty tag is a tag") << QStringList(QString()) << false << false;
 }
 
-void RunKindsTest::refusesAnEmptyTagList()
+void TestRunKinds::refusesAnEmptyTagList()
 {
     QFETCH(QStringList, tags);
     QFETCH(bool, usingLUT);
@@ -183,7 +184,7 @@ void RunKindsTest::refusesAnEmptyTagList()
     QCOMPARE(run.host.calls, refused ? QStringList(refusal) : QStringList());
 }
 
-void RunKindsTest::aRefusedRunEndsWithOneError()
+void TestRunKinds::aRefusedRunEndsWithOneError()
 {
     TestRun run;
     QVERIFY(refusesEmptyTagList(run.context, QString()));
@@ -194,7 +195,7 @@ void RunKindsTest::aRefusedRunEndsWithOneError()
     QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
 
-void RunKindsTest::endsAtOnceWhenItIsCancelled()
+void TestRunKinds::endsAtOnceWhenItIsCancelled()
 {
     TracedRun run;
     run.configure(QString());
@@ -208,7 +209,7 @@ void RunKindsTest::endsAtOnceWhenItIsCancelled()
     QCOMPARE(run.jobTexts(), QStringList());
 }
 
-void RunKindsTest::looksUpItsTexts()
+void TestRunKinds::looksUpItsTexts()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
@@ -220,7 +221,5 @@ void RunKindsTest::looksUpItsTexts()
     QCOMPARE(run.host.calls.last(), endCall(str("#\nDone!")));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::RunKindsTest)
+DRAVOLIN_TEST(TestRunKinds)
 #include "tst_runkinds.moc"

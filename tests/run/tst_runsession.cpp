@@ -6,9 +6,10 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
-class RunSessionTest : public QObject
+class TestRunSession : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ private Q_SLOTS:
     void keepsTheSkippedFilesOfEarlierRuns();
 };
 
-void RunSessionTest::keepsNoCountOfErrors_data()
+void TestRunSession::keepsNoCountOfErrors_data()
 {
     QTest::addColumn<QString>("configuration");
     QTest::addColumn<QStringList>("unstartable");
@@ -34,7 +35,7 @@ void RunSessionTest::keepsNoCountOfErrors_data()
                           << quint64(8);
 }
 
-void RunSessionTest::keepsNoCountOfErrors()
+void TestRunSession::keepsNoCountOfErrors()
 {
     QFETCH(QString, configuration);
     QFETCH(QStringList, unstartable);
@@ -55,7 +56,7 @@ void RunSessionTest::keepsNoCountOfErrors()
     QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
 
-void RunSessionTest::logsAMalformedTagOnceAFolder()
+void TestRunSession::logsAMalformedTagOnceAFolder()
 {
     const LogCatcher log;
     TracedRun run;
@@ -67,7 +68,7 @@ void RunSessionTest::logsAMalformedTagOnceAFolder()
                                                   str("Ignoring malformed tag: 0008,0080X")}));
 }
 
-void RunSessionTest::removesStaleOutputInDroppedTreesAlone()
+void TestRunSession::removesStaleOutputInDroppedTreesAlone()
 {
     TracedRun run;
     run.configure(QString());
@@ -81,7 +82,7 @@ void RunSessionTest::removesStaleOutputInDroppedTreesAlone()
     QCOMPARE(run.host.calls.last(), endCall(str("\nDone, with 1 error."), str("E: stale beside files\n\n")));
 }
 
-void RunSessionTest::keepsDicomdirsForTheSession()
+void TestRunSession::keepsDicomdirsForTheSession()
 {
     TracedRun run;
     run.configure(QString());
@@ -100,7 +101,7 @@ void RunSessionTest::keepsDicomdirsForTheSession()
     QCOMPARE(run.host.calls.last(), endCall(str("\nDone, with 0 errors."), note + str("./DICOMDIR\n\n")));
 }
 
-void RunSessionTest::keepsTheSkippedFilesOfEarlierRuns()
+void TestRunSession::keepsTheSkippedFilesOfEarlierRuns()
 {
     TracedRun run;
     run.configure(QString());
@@ -110,7 +111,5 @@ void RunSessionTest::keepsTheSkippedFilesOfEarlierRuns()
     QCOMPARE(run.state.get(&RunState::numLUTskippedFiles), quint64(3));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::RunSessionTest)
+DRAVOLIN_TEST(TestRunSession)
 #include "tst_runsession.moc"

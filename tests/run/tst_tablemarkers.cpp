@@ -3,7 +3,8 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 namespace {
 
@@ -32,7 +33,7 @@ QStringList lines(const Values &values)
 
 } // namespace
 
-class TableMarkersTest : public QObject
+class TestTableMarkers : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ private Q_SLOTS:
     void keepsTheNameForTheSession();
 };
 
-void TableMarkersTest::removesAMarkersValue_data()
+void TestTableMarkers::removesAMarkersValue_data()
 {
     QTest::addColumn<Values>("before");
     QTest::addColumn<Values>("after");
@@ -72,7 +73,7 @@ void TableMarkersTest::removesAMarkersValue_data()
     QTest::newRow("only nearly markers") << others << others;
 }
 
-void TableMarkersTest::removesAMarkersValue()
+void TestTableMarkers::removesAMarkersValue()
 {
     QFETCH(Values, before);
     QFETCH(Values, after);
@@ -82,7 +83,7 @@ void TableMarkersTest::removesAMarkersValue()
     QCOMPARE(lines(state.get(&RunState::newValueDict)), lines(after));
 }
 
-void TableMarkersTest::keepsIndexesWhileKeysMoveUp_data()
+void TestTableMarkers::keepsIndexesWhileKeysMoveUp_data()
 {
     QTest::addColumn<Values>("before");
     QTest::addColumn<Values>("after");
@@ -133,12 +134,12 @@ void TableMarkersTest::keepsIndexesWhileKeysMoveUp_data()
         << values({{"0020,000d", "1.2"}, {"0020,000e", "<LUT_2>"}});
 }
 
-void TableMarkersTest::keepsIndexesWhileKeysMoveUp()
+void TestTableMarkers::keepsIndexesWhileKeysMoveUp()
 {
     removesAMarkersValue();
 }
 
-void TableMarkersTest::keepsTagsThatLoseTheirValue()
+void TestTableMarkers::keepsTagsThatLoseTheirValue()
 {
     SharedRunState state;
     const QStringList tags = {str("0008,0080"), str("0010,0020"), str("0020,000d")};
@@ -149,7 +150,7 @@ void TableMarkersTest::keepsTagsThatLoseTheirValue()
     QCOMPARE(state.get(&RunState::allTagsToAnonymize), tags);
 }
 
-void TableMarkersTest::keepsTheFirstTablesNameWithoutItsLastCharacter_data()
+void TestTableMarkers::keepsTheFirstTablesNameWithoutItsLastCharacter_data()
 {
     QTest::addColumn<Values>("before");
     QTest::addColumn<QString>("name");
@@ -169,7 +170,7 @@ void TableMarkersTest::keepsTheFirstTablesNameWithoutItsLastCharacter_data()
         << values({{"0010,0020", "<LUT_ID>"}, {"0008,0080", "<LUT_>"}}) << QString();
 }
 
-void TableMarkersTest::keepsTheFirstTablesNameWithoutItsLastCharacter()
+void TestTableMarkers::keepsTheFirstTablesNameWithoutItsLastCharacter()
 {
     QFETCH(Values, before);
     SharedRunState state;
@@ -178,7 +179,7 @@ void TableMarkersTest::keepsTheFirstTablesNameWithoutItsLastCharacter()
     QTEST(state.get(&RunState::firstFoundLUTtagInNewValueDict), "name");
 }
 
-void TableMarkersTest::keepsTheNameForTheSession()
+void TestTableMarkers::keepsTheNameForTheSession()
 {
     SharedRunState state;
     const auto nameAfter = [&state](const char *value) {
@@ -192,7 +193,5 @@ void TableMarkersTest::keepsTheNameForTheSession()
     QCOMPARE(nameAfter("no marker"), str("First"));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::TableMarkersTest)
+DRAVOLIN_TEST(TestTableMarkers)
 #include "tst_tablemarkers.moc"

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace dravolin {
+
+enum class NewFile {
+    Written,
+    Taken, // something has this name already, be it a link that leads nowhere; it was left alone
+    Failed // a partly written file may stay behind
+};
+
+// Creates `path`, a name of base/PathText.h, with `text`. Of two that want the same name beside each other
+// one gets it, and the other learns that it is taken. Any thread.
+[[nodiscard]] NewFile writeNewText(const QString &path, const QString &text);
+
+} // namespace dravolin

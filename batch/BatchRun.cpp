@@ -1,0 +1,145 @@
+#include "batch/BatchRun.h"
+
+#include "base/Files.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
+#include "batch/CaseWork.h"
+#include "batch/Evidence.h"
+#include "batch/ProjectKey.h"
+#include "batch/Workers.h"
+#include "dicom/SourceFile.h"
+
+#include <QCryptographicHash>
+
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <fcntl.h>
+
+namespace dravolin {
+
+namespace {
+
+// The journal names sources and destinations, and the folder may have been there, open to others.
+void closeToOthers(const QString &path)
+{
+    (void)::chmod(systemPath(path).constData(), 0600);
+}
+
+// Keeps a second call out of the run's folder as long as it lives.
+Descriptor lockFolder(const QString &folder, QString *problem)
+{
+    for (const QString &made : {folder, secretFolder(folder)})
+        (void)::mkdir(systemPath(made).constData(), 0700);
+    Descriptor lock(::open(systemPath(joinPath(folder, QStringLiteral("lock"))).constData(),
+                           O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+    if (!lock.isOpen())
+        *problem = Texts::tr("the folder %1 cannot be written to").arg(folder);
+    else if (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0)
+        *problem = Texts::tr("another call is at work in %1").arg(folder);
+    return lock;
+}
+
+BatchOutcome refused(const QString &text)
+{
+    BatchOutcome outcome;
+    outcome.problems.append({0, text});
+    return outcome;
+}
+
+QByteArray fingerprint(const ProjectKey &key)
+{
+    return key.newUid("fingerprint");
+}
+
+// One call, with everything that it needs open.
+class BatchCall
+{
+public:
+    BatchCall(const BatchOptions &options, const BatchEvents &events, Journal &journal)
+        : m_options(options), m_events(events), m_journal(journal)
+    {
+    }
+
+    BatchOutcome run()
+    {
+        Plan plan = judgeList(m_options, [this](const CaseRow &row) { return m_journal.knows(row); });
+        m_outcome.problems = plan.problems;
+        const std::optional<ProjectKey> key = plan.problems.isEmpty() ? openKey() : std::nullopt;
+        if (!key)
+            return m_outcome;
+        scanSources(plan, m_options.workers, m_events.stop);
+        if (!m_events.stop())
+            work(plan, *key);
+        m_outcome.interrupted = m_events.stop();
+        return m_outcome;
+    }
+
+private:
+    std::optional<ProjectKey> openKey()
+    {
+        QString problem;
+        std::optional<ProjectKey> key = ProjectKey::readOrMake(m_options.key, &problem);
+        const QString name = QStringLiteral("key");
+        const QByteArray known = m_journal.value(name);
+        if (key && !known.isEmpty() && known != fingerprint(*key))
+            problem = Texts::tr("the run was begun with another key than %1").arg(m_options.key);
+        if (key && known.isEmpty() && !m_journal.setValue(name, fingerprint(*key)))
+            problem = Texts::tr("the journal cannot be written");
+        if (!problem.isEmpty())
+            m_outcome.problems.append({0, problem});
+        return problem.isEmpty() ? key : std::nullopt;
+    }
+
+    void work(const Plan &plan, const ProjectKey &key)
+    {
+        CaseWork work(plan, m_options, key, m_journal);
+        m_outcome.nothingToDo = work.open() == 0;
+        workThrough(
+            work.open(), m_options.workers, [&](qsizetype number) { work.treat(number); },
+            [&] { return m_events.stop() || work.hasFailed(); },
+            [&] {
+                work.save();
+                if (m_events.progress)
+                    m_events.progress(work.progress());
+            });
+        m_outcome.cases = work.counts();
+        m_outcome.failure = work.failure();
+        if (m_outcome.failure.isEmpty() && !writeEvidence(plan, m_options, m_journal, m_outcome.cases))
+            m_outcome.failure = Texts::tr("the evidence in %1 cannot be written").arg(m_options.runFolder);
+    }
+
+    const BatchOptions &m_options;
+    const BatchEvents &m_events;
+    Journal &m_journal;
+    BatchOutcome m_outcome;
+};
+
+} // namespace
+
+Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
+{
+    QString problem;
+    const QString path = joinPath(options.runFolder, QStringLiteral("journal.sqlite"));
+    const std::unique_ptr<Journal> journal = pathExists(path) ? Journal::open(path, &problem) : nullptr;
+    Plan plan =
+        judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
+    if (plan.problems.isEmpty())
+        scanSources(plan, options.workers, stop);
+    return plan;
+}
+
+BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events)
+{
+    QString problem;
+    const Descriptor lock = lockFolder(options.runFolder, &problem);
+    if (!problem.isEmpty())
+        return refused(problem);
+    const std::unique_ptr<Journal> journal =
+        Journal::open(joinPath(options.runFolder, QStringLiteral("journal.sqlite")), &problem);
+    if (!journal)
+        return refused(problem);
+    closeToOthers(joinPath(options.runFolder, QStringLiteral("journal.sqlite")));
+    return BatchCall(options, events, *journal).run();
+}
+
+} // namespace dravolin

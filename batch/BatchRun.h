@@ -1,0 +1,55 @@
+#pragma once
+
+#include "batch/Journal.h"
+#include "batch/Plan.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+// Carrying out a list of cases.
+namespace dravolin {
+
+struct BatchProgress
+{
+    qsizetype files = 0; // done in this call, or found done
+    qsizetype allFiles = 0;
+    quint64 bytes = 0;
+    qsizetype cases = 0; // finished
+    qsizetype allCases = 0;
+};
+
+struct CaseCounts
+{
+    QString caseId;
+    qsizetype done = 0;        // with a result, from this call or an earlier one
+    qsizetype directories = 0; // DICOMDIRs, which are left out
+    qsizetype movedToUtf8 = 0; // in this call
+    QList<FileRecord> notDone; // with a problem
+};
+
+struct BatchOutcome
+{
+    QList<ListProblem> problems; // the list or the call is wrong; nothing was done
+    bool interrupted = false;
+    bool nothingToDo = false; // everything had been done before
+    QList<CaseCounts> cases;
+    QString failure; // what kept the run from going on, such as a journal that cannot be written
+};
+
+struct BatchEvents
+{
+    std::function<void(const BatchProgress &)> progress; // about ten times a second, in the calling thread
+    std::function<bool()> stop;                          // called from any thread; true ends the run early
+};
+
+// Plans without writing anything. The journal of an earlier call is not looked at.
+[[nodiscard]] Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop);
+
+// Carries the list out, or goes on where an earlier call was. Sources are only read. A result gets its name
+// when its bytes are safe on the disk; the journal knows it after that. Two calls with one run folder exclude
+// each other.
+[[nodiscard]] BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events);
+
+} // namespace dravolin

@@ -1,0 +1,252 @@
+#include "batch/CaseWork.h"
+
+#include "base/Files.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
+
+#include <QCryptographicHash>
+#include <QMutexLocker>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace dravolin {
+
+namespace {
+
+// Everything that decides what becomes of an object, in one hash.
+QByteArray hashOf(const AttributeRules &rules, const LutTable &table, const BatchOptions &options,
+                  const QByteArray &studyUid)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    const auto add = [&hash](const QString &text) {
+        hash.addData(QByteArray::number(text.size()));
+        hash.addData(text.toUtf8());
+    };
+    for (auto rule = rules.begin(); rule != rules.end(); ++rule)
+        add(tagText(rule.key()) + QString::number(int(rule->kind)) + QString::number(int(rule->copies)) +
+            rule->value);
+    QStringList rest = options.keptPrivate.values();
+    for (auto row = table.begin(); row != table.end(); ++row)
+        rest.append(row.key() + u'\t' + row.value());
+    std::sort(rest.begin(), rest.end());
+    for (const QString &text : rest)
+        add(text);
+    add(QStringLiteral("%1 %2 %3")
+            .arg(options.removePrivate)
+            .arg(options.mapUids)
+            .arg(QString::fromLatin1(studyUid)));
+    return hash.result();
+}
+
+QString temporaryName(qsizetype number)
+{
+    return QStringLiteral(".dravolin-%1.part").arg(number);
+}
+
+void removeTemporaries(const QString &folder)
+{
+    for (const QString &name : listNames(folder))
+        if (name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part")))
+            removeFile(joinPath(folder, name));
+}
+
+} // namespace
+
+CaseWork::CaseWork(const Plan &plan, const BatchOptions &options, const ProjectKey &key, Journal &journal)
+    : m_plan(plan), m_options(options), m_key(key), m_journal(journal)
+{
+    const auto count = static_cast<size_t>(plan.cases.size());
+    m_treatments.reserve(count); // rules are pointed to
+    m_openFiles.resize(count);
+    m_counts.resize(plan.cases.size());
+    m_progress.allCases = plan.cases.size();
+    for (const PlannedCase &planned : plan.cases)
+        if (!planned.studyUid.isEmpty() && !planned.studies.isEmpty() &&
+            !m_studies.contains(*planned.studies.begin()))
+            m_studies.insert(*planned.studies.begin(), planned.studyUid);
+    for (size_t i = 0; i < count; ++i)
+        beginCase(i);
+}
+
+void CaseWork::beginCase(size_t index)
+{
+    const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(index));
+    m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
+    m_treatments.push_back(treatmentOf(planned));
+    const QByteArray rules = hashOf(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
+    SystemError error;
+    if (!m_journal.begin(planned.row, rules))
+        fail(Texts::tr("the journal cannot be written"));
+    if (!createFolder(planned.row.destination, &error))
+        fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
+    removeTemporaries(planned.row.destination);
+    const QHash<QString, FileRecord> known = m_journal.files(planned.row.caseId);
+    QSet<QString> taken;
+    for (const PlannedFile &file : planned.files) {
+        ++m_progress.allFiles;
+        if (file.isDirectory || !file.problem.isEmpty())
+            countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
+        else
+            beginFile(index, file, resultName(file, taken), known.value(file.path));
+    }
+    m_progress.cases += m_openFiles[index] == 0 ? 1 : 0;
+}
+
+// Two objects with one UID get two names; their order is that of the source's paths.
+QString CaseWork::resultName(const PlannedFile &file, QSet<QString> &taken) const
+{
+    const QString stem = joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance));
+    QString name = stem + QStringLiteral(".dcm");
+    for (int copy = 2; taken.contains(name); ++copy)
+        name = QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
+    taken.insert(name);
+    return name;
+}
+
+void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &result,
+                         const FileRecord &known)
+{
+    const QString destination = m_plan.cases.at(static_cast<qsizetype>(index)).row.destination;
+    const bool unchanged = known.size == file.size && known.modified == file.modified;
+    if (unchanged && known.result == result && pathExists(joinPath(destination, result))) {
+        countKnown(index, known);
+        return;
+    }
+    m_tasks.push_back({index, &file, result});
+    ++m_openFiles[index];
+}
+
+Treatment CaseWork::treatmentOf(const PlannedCase &planned)
+{
+    QStringList problems; // the list was judged: there are none
+    Treatment treatment;
+    treatment.rules = rulesOf(planned, m_options, &problems);
+    treatment.table = planned.table;
+    treatment.removePrivate = m_options.removePrivate;
+    treatment.keptPrivate = m_options.keptPrivate;
+    if (m_options.mapUids)
+        treatment.newUid = [this, &planned](const QByteArray &old) { return newUid(planned, old); };
+    return treatment;
+}
+
+// A study that a case holds alone has the UID that the window gives it, wherever it is named.
+QByteArray CaseWork::newUid(const PlannedCase &planned, const QByteArray &old)
+{
+    QByteArray result;
+    if (!planned.studyUid.isEmpty() && planned.studies.contains(old))
+        result = planned.studyUid;
+    else
+        result = m_studies.value(old);
+    if (result.isEmpty())
+        result = m_key.newUid(old);
+    const QMutexLocker locker(&m_mutex);
+    m_uids.insert(old, result);
+    return result;
+}
+
+void CaseWork::treat(qsizetype number)
+{
+    const Task &task = m_tasks[static_cast<size_t>(number)];
+    const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(task.ofCase));
+    Treated treated;
+    treated.task = &task;
+    treated.temporary = joinPath(planned.row.destination, temporaryName(number));
+    treated.file = treatFile(joinPath(planned.sourceFolder(), task.file->path), treated.temporary,
+                             m_treatments[task.ofCase]);
+    const QMutexLocker locker(&m_mutex);
+    m_treated.push_back(std::move(treated));
+}
+
+void CaseWork::save()
+{
+    std::vector<Treated> treated;
+    QHash<QByteArray, QByteArray> uids;
+    {
+        const QMutexLocker locker(&m_mutex);
+        treated.swap(m_treated);
+        uids.swap(m_uids);
+    }
+    if (treated.empty() && uids.isEmpty())
+        return;
+    syncDestinations(treated);
+    QList<QPair<QString, FileRecord>> records;
+    for (const Treated &one : treated) {
+        const FileRecord record = nameResult(one);
+        records.append({m_plan.cases.at(static_cast<qsizetype>(one.task->ofCase)).row.caseId, record});
+        countTreated(one, record);
+    }
+    if (!m_journal.add(records, uids))
+        fail(Texts::tr("the journal cannot be written"));
+}
+
+// A result's bytes have to be on the disk before its name is.
+void CaseWork::syncDestinations(const std::vector<Treated> &treated) const
+{
+    QSet<QString> folders;
+    for (const Treated &one : treated)
+        folders.insert(parentPath(one.temporary));
+    QSet<quint64> synced; // file systems
+    for (const QString &folder : folders) {
+        const Descriptor opened(::open(systemPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        struct stat attributes = {};
+        if (!opened.isOpen() || ::fstat(opened.get(), &attributes) != 0 || synced.contains(attributes.st_dev))
+            continue;
+        (void)::syncfs(opened.get());
+        synced.insert(attributes.st_dev);
+    }
+}
+
+FileRecord CaseWork::nameResult(const Treated &treated) const
+{
+    const Task &task = *treated.task;
+    const QString destination = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row.destination;
+    FileRecord record = {
+        task.file->path,         treated.file.facts.size, treated.file.facts.modified, task.result,
+        treated.file.hashBefore, treated.file.hashAfter,  treated.file.facts.problem};
+    const QString target = joinPath(destination, task.result);
+    if (record.problem.isEmpty() &&
+        (!createFolder(parentPath(target)) ||
+         std::rename(systemPath(treated.temporary).constData(), systemPath(target).constData()) != 0)) {
+        record.problem =
+            Texts::tr("cannot be given its name: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
+        removeFile(treated.temporary);
+    }
+    if (!record.problem.isEmpty())
+        record.result.clear();
+    return record;
+}
+
+void CaseWork::countKnown(size_t index, const FileRecord &record)
+{
+    CaseCounts &counts = m_counts[static_cast<qsizetype>(index)];
+    ++m_progress.files;
+    if (!record.problem.isEmpty())
+        counts.notDone.append(record);
+    else if (record.result.isEmpty())
+        ++counts.directories;
+    else
+        ++counts.done;
+}
+
+void CaseWork::countTreated(const Treated &treated, const FileRecord &record)
+{
+    countKnown(treated.task->ofCase, record);
+    m_counts[static_cast<qsizetype>(treated.task->ofCase)].movedToUtf8 += treated.file.movedToUtf8 ? 1 : 0;
+    m_progress.bytes += treated.file.sizeBefore;
+    m_progress.cases += --m_openFiles[treated.task->ofCase] == 0 ? 1 : 0;
+}
+
+void CaseWork::fail(const QString &text)
+{
+    m_failure = text;
+    m_failed = true;
+}
+
+} // namespace dravolin

@@ -1,0 +1,132 @@
+#include "batch/Journal.h"
+
+#include "base/PathText.h"
+#include "base/Texts.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUuid>
+#include <QVariant>
+
+namespace dravolin {
+
+namespace {
+
+constexpr const char *schema[] = {
+    "PRAGMA journal_mode=WAL",
+    "PRAGMA synchronous=FULL",
+    "CREATE TABLE IF NOT EXISTS kept (name TEXT PRIMARY KEY, value BLOB) WITHOUT ROWID",
+    "CREATE TABLE IF NOT EXISTS cases (id TEXT PRIMARY KEY, destination BLOB, rules BLOB) WITHOUT ROWID",
+    "CREATE TABLE IF NOT EXISTS files (id TEXT, path BLOB, size INTEGER, modified INTEGER, result TEXT, "
+    "before BLOB, after BLOB, problem TEXT, PRIMARY KEY (id, path)) WITHOUT ROWID",
+    "CREATE TABLE IF NOT EXISTS uids (old BLOB PRIMARY KEY, new BLOB) WITHOUT ROWID",
+};
+
+QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const QVariantList &values)
+{
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    query.prepare(statement);
+    for (const QVariant &value : values)
+        query.addBindValue(value);
+    query.exec();
+    return query;
+}
+
+} // namespace
+
+std::unique_ptr<Journal> Journal::open(const QString &path, QString *problem)
+{
+    const QString connection = QUuid::createUuid().toString();
+    std::unique_ptr<Journal> journal(new Journal(connection));
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+    database.setDatabaseName(path);
+    bool done = database.open();
+    for (const char *statement : schema)
+        done = done && journal->run(QString::fromLatin1(statement));
+    if (done)
+        return journal;
+    *problem = Texts::tr("the journal %1 cannot be used: %2").arg(path, database.lastError().text());
+    return nullptr;
+}
+
+Journal::~Journal()
+{
+    database().close();
+    QSqlDatabase::removeDatabase(m_connection);
+}
+
+bool Journal::knows(const CaseRow &row) const
+{
+    return prepared(database(), QStringLiteral("SELECT 1 FROM cases WHERE id = ? AND destination = ?"),
+                    {row.caseId, toBytes(row.destination)})
+        .next();
+}
+
+bool Journal::begin(const CaseRow &row, const QByteArray &rules)
+{
+    QSqlQuery query =
+        prepared(database(), QStringLiteral("SELECT rules FROM cases WHERE id = ?"), {row.caseId});
+    const bool same = query.next() && query.value(0).toByteArray() == rules;
+    query.finish();
+    return same || (run(QStringLiteral("DELETE FROM files WHERE id = ?"), {row.caseId}) &&
+                    run(QStringLiteral("INSERT OR REPLACE INTO cases VALUES (?, ?, ?)"),
+                        {row.caseId, toBytes(row.destination), rules}));
+}
+
+QHash<QString, FileRecord> Journal::files(const QString &caseId) const
+{
+    QHash<QString, FileRecord> found;
+    QSqlQuery query = prepared(
+        database(),
+        QStringLiteral("SELECT path, size, modified, result, before, after, problem FROM files WHERE id = ?"),
+        {caseId});
+    while (query.next()) {
+        const QString path = fromBytes(query.value(0).toByteArray());
+        found.insert(path, {path, query.value(1).toULongLong(), query.value(2).toLongLong(),
+                            query.value(3).toString(), query.value(4).toByteArray().toHex(),
+                            query.value(5).toByteArray().toHex(), query.value(6).toString()});
+    }
+    return found;
+}
+
+bool Journal::add(const QList<QPair<QString, FileRecord>> &filesOfCases,
+                  const QHash<QByteArray, QByteArray> &uids)
+{
+    bool done = run(QStringLiteral("BEGIN IMMEDIATE"));
+    for (const auto &[id, file] : filesOfCases)
+        done = done &&
+               run(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+                   {id, toBytes(file.path), file.size, file.modified, file.result,
+                    QByteArray::fromHex(file.hashBefore), QByteArray::fromHex(file.hashAfter), file.problem});
+    for (auto uid = uids.begin(); uid != uids.end(); ++uid)
+        done = done &&
+               run(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"), {uid.key(), uid.value()});
+    return run(done ? QStringLiteral("COMMIT") : QStringLiteral("ROLLBACK")) && done;
+}
+
+void Journal::forEachUid(
+    const std::function<void(const QByteArray &old, const QByteArray &replacement)> &visit) const
+{
+    QSqlQuery query = prepared(database(), QStringLiteral("SELECT old, new FROM uids ORDER BY old"), {});
+    while (query.next())
+        visit(query.value(0).toByteArray(), query.value(1).toByteArray());
+}
+
+QByteArray Journal::value(const QString &name) const
+{
+    QSqlQuery query = prepared(database(), QStringLiteral("SELECT value FROM kept WHERE name = ?"), {name});
+    return query.next() ? query.value(0).toByteArray() : QByteArray();
+}
+
+bool Journal::setValue(const QString &name, const QByteArray &value)
+{
+    return run(QStringLiteral("INSERT OR REPLACE INTO kept VALUES (?, ?)"), {name, value});
+}
+
+bool Journal::run(const QString &statement, const QVariantList &values) const
+{
+    return !prepared(database(), statement, values).lastError().isValid();
+}
+
+} // namespace dravolin

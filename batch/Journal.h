@@ -1,0 +1,70 @@
+#pragma once
+
+#include "batch/CaseList.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QPair>
+#include <QSqlDatabase>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+// What a run has done so far, in an SQLite file: after a crash the same call goes on where it was.
+namespace dravolin {
+
+// What became of a file of a source.
+struct FileRecord
+{
+    QString path;     // in the source
+    quint64 size = 0; // of the source, as it was
+    qint64 modified = 0;
+    QString result; // path in the destination; "" when it was not done
+    QByteArray hashBefore;
+    QByteArray hashAfter;
+    QString problem;
+
+    bool operator==(const FileRecord &) const = default;
+};
+
+// One thread, the one that opened it.
+class Journal
+{
+public:
+    // Opens or makes the file; null on failure, and `problem` gets a text for people.
+    [[nodiscard]] static std::unique_ptr<Journal> open(const QString &path, QString *problem);
+    ~Journal();
+    Journal(const Journal &) = delete;
+    Journal &operator=(const Journal &) = delete;
+
+    // Whether a case with that id and destination was begun.
+    [[nodiscard]] bool knows(const CaseRow &row) const;
+    // Begins a case, or goes on with it. With other rules than last time, said by their hash, its files count
+    // as not done.
+    bool begin(const CaseRow &row, const QByteArray &rules);
+    // The files of a case, by path.
+    [[nodiscard]] QHash<QString, FileRecord> files(const QString &caseId) const;
+
+    // All of it or nothing is written; on return it is safe.
+    bool add(const QList<QPair<QString, FileRecord>> &filesOfCases,
+             const QHash<QByteArray, QByteArray> &uids);
+
+    // Calls `visit` with every new UID and its old one.
+    void
+    forEachUid(const std::function<void(const QByteArray &old, const QByteArray &replacement)> &visit) const;
+
+    // A value that the run keeps; "" when it was never set.
+    [[nodiscard]] QByteArray value(const QString &name) const;
+    bool setValue(const QString &name, const QByteArray &value);
+
+private:
+    explicit Journal(const QString &connection) : m_connection(connection) {}
+    [[nodiscard]] QSqlDatabase database() const { return QSqlDatabase::database(m_connection); }
+    bool run(const QString &statement, const QVariantList &values = {}) const;
+
+    QString m_connection;
+};
+
+} // namespace dravolin

@@ -1,0 +1,191 @@
+#include "batch/Plan.h"
+
+#include "base/Files.h"
+#include "base/NOXUtils.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
+#include "identifiers/UidRoot.h"
+#include "processing/Edits.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace dravolin {
+
+namespace {
+
+constexpr TagNumber studyTag = 0x0020000d;
+constexpr TagNumber identityRemovedTag = 0x00120062;
+constexpr TagNumber methodTag = 0x00120063;
+
+// Whether `inner` is `outer` or lies in it.
+bool isInside(const QString &inner, const QString &outer)
+{
+    return inner == outer || inner.startsWith(joinPath(outer, QString()));
+}
+
+// Places that the run writes to.
+QString overlap(const CaseRow &row, const QList<CaseRow> &rows, const QString &runFolder)
+{
+    if (isInside(runFolder, row.source))
+        return Texts::tr("the source holds the run's own folder");
+    for (const CaseRow &other : rows) {
+        if (isInside(row.destination, other.source) || isInside(other.source, row.destination))
+            return Texts::tr("the destination and the source of line %1 lie one inside the other")
+                .arg(other.line);
+        if (other.line != row.line && isInside(row.destination, other.destination))
+            return Texts::tr("the destination lies inside that of line %1").arg(other.line);
+    }
+    return {};
+}
+
+QString markerOf(const CaseRow &row)
+{
+    QString title = withoutExtension(lastPathComponent(row.table));
+    const QString prefix = QStringLiteral("AnonymizationLUT_");
+    if (title.startsWith(prefix))
+        title = title.mid(prefix.size());
+    return tableMarkerPrefix + title + u'>';
+}
+
+// Loads configuration and table, and says what is wrong with them.
+class RowJudge
+{
+public:
+    RowJudge(const BatchOptions &options, PlannedCase &planned) : m_options(options), m_case(planned) {}
+
+    QStringList judge()
+    {
+        judgeSource();
+        judgeRoot();
+        judgeConfiguration();
+        judgeTable();
+        return m_problems;
+    }
+
+private:
+    void judgeSource()
+    {
+        if (!m_case.row.source.isEmpty() && !pathExists(m_case.row.source))
+            m_problems.append(Texts::tr("there is no source %1").arg(m_case.row.source));
+    }
+
+    void judgeRoot()
+    {
+        const CaseRow &row = m_case.row;
+        if (!row.uidRoot.isEmpty() && !checkRoot(row.uidRoot, row.caseId).valid)
+            m_problems.append(
+                Texts::tr("the UID root %1 makes no UID with the case id %2").arg(row.uidRoot, row.caseId));
+    }
+
+    void judgeConfiguration()
+    {
+        const QString path =
+            m_case.row.configuration.isEmpty() ? m_options.defaultConfiguration : m_case.row.configuration;
+        const std::optional<QString> text = readText(path);
+        if (!text) {
+            m_problems.append(Texts::tr("the configuration %1 cannot be read, or is not UTF-8").arg(path));
+            return;
+        }
+        m_case.configuration = parseConfiguration(*text);
+        for (const QString &tag : edits(m_case.configuration, {}).malformedTags)
+            m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(tag));
+        QStringList problems;
+        (void)rulesOf(m_case, m_options, &problems);
+        for (const QString &problem : problems)
+            m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(problem));
+    }
+
+    void judgeTable()
+    {
+        const QString marker = m_case.row.table.isEmpty() ? QString() : markerOf(m_case.row);
+        bool used = marker.isEmpty();
+        for (const QString &value : m_case.configuration.newValueDict) {
+            used = used || value == marker;
+            if (value.startsWith(tableMarkerPrefix) && value != marker)
+                m_problems.append(
+                    Texts::tr("the configuration names the table %1, the row does not").arg(value));
+        }
+        if (!used)
+            m_problems.append(Texts::tr("the configuration does not name the table %1").arg(marker));
+        if (!marker.isEmpty())
+            loadTable();
+    }
+
+    void loadTable()
+    {
+        const std::optional<LutTable> table = loadLut(m_case.row.table);
+        if (!table)
+            m_problems.append(
+                Texts::tr("the table %1 cannot be read, or is not UTF-8").arg(m_case.row.table));
+        else if (!table->contains(missingValue))
+            m_problems.append(
+                Texts::tr("the table %1 has no line for %2").arg(m_case.row.table, missingValue));
+        else
+            m_case.table = *table;
+    }
+
+    const BatchOptions &m_options;
+    PlannedCase &m_case;
+    QStringList m_problems;
+};
+
+bool isInUse(const QString &destination)
+{
+    return pathExists(destination) && (!isFolder(destination) || !listNames(destination).isEmpty());
+}
+
+QString deidentificationMethod()
+{
+    return QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+}
+
+} // namespace
+
+QString PlannedCase::sourceFolder() const
+{
+    return isFolder(row.source) ? row.source : parentPath(row.source);
+}
+
+Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn)
+{
+    const CaseList list = readCaseList(options.list);
+    Plan plan;
+    plan.problems = list.problems;
+    for (const CaseRow &row : list.rows) {
+        PlannedCase planned;
+        planned.row = row;
+        QStringList problems = RowJudge(options, planned).judge();
+        if (isInUse(row.destination) && !isOwn(row))
+            problems.append(Texts::tr("the destination %1 is in use").arg(row.destination));
+        if (const QString problem = overlap(row, list.rows, options.runFolder); !problem.isEmpty())
+            problems.append(problem);
+        for (const QString &problem : problems)
+            plan.problems.append({row.line, problem});
+        plan.cases.append(planned);
+    }
+    std::stable_sort(plan.problems.begin(), plan.problems.end(),
+                     [](const ListProblem &one, const ListProblem &other) { return one.line < other.line; });
+    return plan;
+}
+
+AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)
+{
+    TagRules rules = planned.configuration;
+    const CaseRow &row = planned.row;
+    addFixedTags(rules, {row.diagnosis, row.caseId, row.credits, row.keywords},
+                 QString::fromLatin1(planned.studyUid));
+    AttributeRules result = attributeRules(edits(rules, {}).list, !row.table.isEmpty(), problems);
+    if (planned.studyUid.isEmpty())
+        result.remove(studyTag); // the empty text would erase it
+    else if (options.mapUids && result.value(studyTag).copies == AttributeRule::Copies::Set)
+        result[studyTag].copies = AttributeRule::Copies::AsWithoutRule; // they may name other studies
+    if (options.removePrivate && options.mapUids && !result.contains(identityRemovedTag))
+        result.insert(identityRemovedTag, {AttributeRule::Kind::Set, QStringLiteral("YES")});
+    if (options.removePrivate && options.mapUids && !result.contains(methodTag))
+        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod()});
+    return result;
+}
+
+} // namespace dravolin

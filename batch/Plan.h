@@ -1,0 +1,76 @@
+#pragma once
+
+#include "batch/CaseList.h"
+#include "config/ConfigurationFile.h"
+#include "config/LutFile.h"
+#include "dicom/Treatment.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QSet>
+#include <QString>
+
+#include <functional>
+
+// What a run over a list of cases would do.
+namespace dravolin {
+
+// What holds for all cases of a run.
+struct BatchOptions
+{
+    QString list;      // absolute path of the list of cases
+    QString runFolder; // absolute; the journal, the evidence and, unless named elsewhere, the key lie there
+    QString key;       // absolute path of the key file
+    QString defaultConfiguration;
+    bool removePrivate = true;
+    QSet<QString> keptPrivate; // as in Treatment
+    bool mapUids = true;
+    int workers = 1;
+};
+
+struct PlannedFile
+{
+    QString path; // relative to the source; the file's own name when the source is a file
+    quint64 size = 0;
+    qint64 modified = 0; // nanoseconds since 1970
+    QByteArray sopInstance;
+    QByteArray series;
+    bool isDirectory = false; // a DICOMDIR, whatever its name
+    QString problem;          // why it will not be done
+};
+
+struct PlannedCase
+{
+    CaseRow row;
+    TagRules configuration;
+    LutTable table;
+    QList<PlannedFile> files; // in the order of their paths
+    qsizetype folders = 0;
+    quint64 bytes = 0;
+    QSet<QByteArray> studies;
+    QSet<QByteArray> patients; // the Patient IDs in the source, as they are written there
+    QByteArray studyUid;       // the new Study Instance UID that the window would give; "" when it is mapped
+
+    [[nodiscard]] QString sourceFolder() const;
+};
+
+struct Plan
+{
+    QList<PlannedCase> cases;
+    QList<ListProblem> problems;
+};
+
+// Judges every row of the list without looking into the sources: all problems at once. `isOwn` tells whether
+// a destination that exists was begun by the same run; any other has to be missing or empty. Writes nothing.
+[[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
+
+// Looks at every file of the sources, several at a time, and fills in what that tells. `stop` ends it early.
+void scanSources(Plan &plan, int workers, const std::function<bool()> &stop);
+
+// The rules of a case, the five fixed attributes and what tells that an object was treated among them.
+// Problems with lines of the configuration are added to `problems`.
+[[nodiscard]] AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options,
+                                     QStringList *problems);
+
+} // namespace dravolin

@@ -1,0 +1,221 @@
+#include "check/Check.h"
+
+#include "base/PathText.h"
+#include "base/Texts.h"
+#include "check/FileTree.h"
+#include "check/Harvest.h"
+#include "check/InOrder.h"
+
+#include <algorithm>
+#include <set>
+
+namespace dravolin::check {
+
+namespace {
+
+const QString backupSuffix = QStringLiteral(".bak");
+
+// The files of both sides.
+struct Trees
+{
+    FileTree originals;
+    FileTree results;
+    QStringList originalNames; // what an original is called in the result, in the order of its files
+};
+
+void moveBackups(Trees &trees)
+{
+    trees.originals = {.root = trees.results.root, .files = {}, .links = {}, .others = {}, .unlisted = {}};
+    for (const QString &file : std::as_const(trees.results.files)) {
+        if (file.endsWith(backupSuffix))
+            trees.originals.files.append(file);
+    }
+    trees.results.files.removeIf([](const QString &file) { return file.endsWith(backupSuffix); });
+}
+
+Trees listBoth(const CheckOptions &options)
+{
+    Trees trees{.originals = {}, .results = listTree(options.result), .originalNames = {}};
+    if (options.backups)
+        moveBackups(trees);
+    else
+        trees.originals = listTree(options.originals);
+    for (const QString &file : std::as_const(trees.originals.files))
+        trees.originalNames.append(options.backups ? file.chopped(backupSuffix.size()) : file);
+    return trees;
+}
+
+class Checking
+{
+public:
+    Checking(const CheckOptions &options, const CheckEvents &events)
+        : m_options(options), m_events(events), m_trees(listBoth(options)),
+          m_values(std::make_shared<Values>())
+    {
+        if (options.rules)
+            m_rules.emplace(*options.rules);
+    }
+
+    CheckReport run()
+    {
+        initialiseReader();
+        noteUnlisted(m_trees.originals, UncheckedFile::Side::Original);
+        noteUnlisted(m_trees.results, UncheckedFile::Side::Result);
+        prepareValues();
+        harvest();
+        search();
+        finish();
+        return std::move(m_report);
+    }
+
+private:
+    void noteUnlisted(const FileTree &tree, UncheckedFile::Side side)
+    {
+        for (const QString &folder : tree.unlisted)
+            m_report.unchecked.append({side, folder, Texts::tr("the folder cannot be listed")});
+        for (const QString &other : tree.others)
+            m_report.unchecked.append({side, other, Texts::tr("it is no regular file, and was not opened")});
+        for (const FileTree::Link &link : tree.links)
+            m_report.unchecked.append({side, link.path, Texts::tr("it is a link, and was not followed")});
+    }
+
+    void prepareValues()
+    {
+        if (m_rules) {
+            for (const QString &value : m_rules->values())
+                m_values->leaveOut(value);
+        }
+        for (const QString &line : m_options.identifiers)
+            m_values->addListed(line);
+    }
+
+    void tell(bool searching, quint64 bytes)
+    {
+        m_progress.searching = searching;
+        ++m_progress.files;
+        m_progress.bytes += bytes;
+        if (m_events.progress)
+            m_events.progress(m_progress);
+    }
+
+    // What both sides keep of a file.
+    void keep(const FileRecord &record, const QString &path, UncheckedFile::Side side,
+              std::vector<FileRecord> &records)
+    {
+        if (record.state == FileRecord::State::Damaged || record.state == FileRecord::State::Unreadable)
+            m_report.unchecked.append({side, path, record.reason});
+        if (record.state == FileRecord::State::Object)
+            ++(side == UncheckedFile::Side::Original ? m_report.originalObjects : m_report.resultObjects);
+        m_report.bytes += record.bytes;
+        records.push_back(record);
+    }
+
+    void harvest()
+    {
+        const QStringList &files = m_trees.originals.files;
+        m_progress.allFiles = files.size() + m_trees.results.files.size();
+        const auto makeWorker = [this, &files] {
+            return [this, &files, harvester = Harvester()](qsizetype index) mutable {
+                return harvester.harvest(joinPath(m_trees.originals.root, files[index]));
+            };
+        };
+        inOrder<HarvestedFile>(
+            files.size(), m_options.workers, makeWorker, [&](qsizetype index, HarvestedFile &file) {
+                keep(file.record, files[index], UncheckedFile::Side::Original, m_originals);
+                for (const HarvestedValue &value : file.values)
+                    m_values->add(value.valueClass, value.source, value.text);
+                m_values->addPath(m_trees.originalNames[index]);
+                tell(false, file.record.bytes);
+            });
+    }
+
+    void search()
+    {
+        const QStringList &files = m_trees.results.files;
+        const Patterns &patterns = m_values->patterns();
+        m_groups.emplace(patterns);
+        const auto makeSearcher = [&] {
+            return Searcher(patterns, m_rules ? &*m_rules : nullptr, m_options.pixels);
+        };
+        const auto makeWorker = [&] {
+            return [&, searcher = makeSearcher()](qsizetype index) mutable {
+                return searcher.search(m_trees.results.root, files[index]);
+            };
+        };
+        inOrder<SearchedFile>(files.size(), m_options.workers, makeWorker,
+                              [&](qsizetype index, SearchedFile &file) {
+                                  keep(file.record, files[index], UncheckedFile::Side::Result, m_results);
+                                  take(files[index], file);
+                                  tell(true, file.record.bytes);
+                              });
+        for (const FileTree::Link &link : m_trees.results.links)
+            takeFindings(link.path, makeSearcher().searchLink(link.path, link.target));
+    }
+
+    void takeFindings(const QString &path, const QList<Finding> &findings)
+    {
+        m_groups->add(findings);
+        if (m_events.findings && !findings.isEmpty())
+            m_events.findings(path, findings, m_values->patterns());
+    }
+
+    void take(const QString &path, const SearchedFile &file)
+    {
+        takeFindings(path, file.findings);
+        m_report.emptied += file.emptied;
+        if (!file.record.mayShow.isEmpty())
+            m_report.mayShowText.append({path, file.record.mayShow});
+        std::set<std::pair<Tag, bool>> tags;
+        for (const Deviation &deviation : file.deviations)
+            tags.insert({deviation.tag, deviation.wanted});
+        for (const auto &tag : tags)
+            ++m_deviations[tag];
+    }
+
+    void finish()
+    {
+        m_report.values = m_values;
+        m_report.pairing = pairUp({m_originals, m_trees.originalNames}, {m_results, m_trees.results.files});
+        for (const qsizetype index : m_report.pairing.noObjects)
+            m_report.unchecked.append({UncheckedFile::Side::Result, m_trees.results.files[index],
+                                       Texts::tr("its original is a DICOM object, and it is none")});
+        for (const auto &[tag, files] : m_deviations)
+            m_report.deviations.append({tagText(tag.first), attributeName(tag.first), tag.second, files});
+        m_report.groups = m_groups->groups();
+        m_report.files = m_groups->files();
+        m_report.originalFiles = m_trees.originals.files;
+        m_report.resultFiles = m_trees.results.files;
+    }
+
+    const CheckOptions &m_options;
+    const CheckEvents &m_events;
+    Trees m_trees;
+    std::shared_ptr<Values> m_values;
+    std::optional<Rules> m_rules;
+    std::optional<FindingGroups> m_groups;
+    std::vector<FileRecord> m_originals;
+    std::vector<FileRecord> m_results;
+    std::map<std::pair<Tag, bool>, quint64> m_deviations; // files
+    CheckProgress m_progress;
+    CheckReport m_report;
+};
+
+} // namespace
+
+bool CheckReport::found(Grade atLeast) const
+{
+    const auto end = files.cbegin() + static_cast<qsizetype>(atLeast) + 1;
+    return !deviations.isEmpty() || std::any_of(files.cbegin(), end, [](quint64 count) { return count > 0; });
+}
+
+bool CheckReport::incomplete() const
+{
+    return !unchecked.isEmpty() || !values || values->searched() == 0 || resultFiles.isEmpty();
+}
+
+CheckReport check(const CheckOptions &options, const CheckEvents &events)
+{
+    return Checking(options, events).run();
+}
+
+} // namespace dravolin::check

@@ -1,0 +1,65 @@
+#include "check/FileTree.h"
+
+#include "base/PathText.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace dravolin::check {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+QString below(const QString &folder, const QString &name)
+{
+    return folder.isEmpty() ? name : joinPath(folder, name);
+}
+
+QString textOf(const fs::path &path)
+{
+    return fromBytes(QByteArray::fromStdString(path.string()));
+}
+
+void sortIn(FileTree &tree, QStringList &folders, const fs::directory_entry &entry, const QString &path)
+{
+    std::error_code error;
+    const fs::file_status status = entry.symlink_status(error);
+    switch (status.type()) {
+    case fs::file_type::directory: folders.append(path); break;
+    case fs::file_type::regular: tree.files.append(path); break;
+    case fs::file_type::symlink:
+        tree.links.append({path, textOf(fs::read_symlink(entry.path(), error))});
+        break;
+    default: tree.others.append(path);
+    }
+}
+
+void list(FileTree &tree, const QString &folder, QStringList &folders)
+{
+    std::error_code error;
+    const QString path = folder.isEmpty() ? tree.root : joinPath(tree.root, folder);
+    fs::directory_iterator entry(toBytes(path).toStdString(), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
+        sortIn(tree, folders, *entry, below(folder, textOf(entry->path().filename())));
+    if (error)
+        tree.unlisted.append(folder);
+}
+
+} // namespace
+
+FileTree listTree(const QString &root)
+{
+    FileTree tree{.root = root, .files = {}, .links = {}, .others = {}, .unlisted = {}};
+    QStringList folders = {QString()};
+    while (!folders.isEmpty())
+        list(tree, folders.takeLast(), folders);
+    std::sort(tree.files.begin(), tree.files.end());
+    std::sort(tree.others.begin(), tree.others.end());
+    std::sort(tree.unlisted.begin(), tree.unlisted.end());
+    std::sort(tree.links.begin(), tree.links.end(),
+              [](const FileTree::Link &a, const FileTree::Link &b) { return a.path < b.path; });
+    return tree;
+}
+
+} // namespace dravolin::check

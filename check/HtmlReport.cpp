@@ -1,0 +1,225 @@
+#include "base/Texts.h"
+#include "check/Report.h"
+#include "check/Summary.h"
+
+#include <algorithm>
+
+namespace dravolin::check {
+
+namespace {
+
+constexpr qsizetype mostPaths = 100;
+
+constexpr char style[] =
+    "body{font-family:sans-serif;max-width:60em;margin:2em auto;padding:0 1em;color:#111}"
+    "table{border-collapse:collapse;width:100%;margin:.5em 0 1.5em}"
+    "th,td{border:1px solid #999;padding:.25em "
+    ".5em;text-align:left;vertical-align:top;overflow-wrap:anywhere}"
+    "th{background:#eee}pre{border:1px solid #999;padding:.5em;white-space:pre-wrap}"
+    ".verdict{border:3px solid;padding:.5em "
+    "1em;font-size:1.2em}.found{border-color:#b00}.incomplete{border-color:#b60}"
+    ".clean{border-color:#070}.sign{margin-top:4em}.sign span{display:inline-block;width:45%;border-top:1px "
+    "solid;"
+    "margin-right:4%}@media print{body{margin:0;max-width:none}tr{break-inside:avoid}h2{break-after:avoid}}";
+
+class Page
+{
+public:
+    void heading(const QString &text) { m_html += QStringLiteral("<h2>%1</h2>\n").arg(text.toHtmlEscaped()); }
+    void paragraph(const QString &text) { m_html += QStringLiteral("<p>%1</p>\n").arg(text.toHtmlEscaped()); }
+    void raw(const QString &html) { m_html += html; }
+
+    void table(const QStringList &columns, const QList<QStringList> &rows)
+    {
+        m_html += QStringLiteral("<table>\n") + row(columns, QStringLiteral("th"));
+        for (const QStringList &cells : rows)
+            m_html += row(cells, QStringLiteral("td"));
+        m_html += QStringLiteral("</table>\n");
+    }
+    [[nodiscard]] QString html() const { return m_html; }
+
+private:
+    static QString row(const QStringList &cells, const QString &element)
+    {
+        QString html = QStringLiteral("<tr>");
+        for (const QString &cell : cells)
+            html += u'<' + element + u'>' + cell.toHtmlEscaped() + QStringLiteral("</") + element + u'>';
+        return html + QStringLiteral("</tr>\n");
+    }
+
+    QString m_html;
+};
+
+QString number(quint64 count)
+{
+    return QString::number(count);
+}
+
+QString verdictClass(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Clean: return QStringLiteral("clean");
+    case Verdict::Found: return QStringLiteral("found");
+    case Verdict::Incomplete: return QStringLiteral("incomplete");
+    }
+    return {};
+}
+
+void addVerdict(Page &page, const CheckReport &report, const ReportedCall &call)
+{
+    const Verdict verdict = verdictOf(report, call.atLeast);
+    page.raw(QStringLiteral("<h1>%1</h1>\n").arg(Texts::tr("Check by value").toHtmlEscaped()));
+    page.paragraph(call.time.toString(Qt::ISODate));
+    page.raw(QStringLiteral("<p class=\"verdict %1\">%2</p>\n")
+                 .arg(verdictClass(verdict), textOf(verdict).toHtmlEscaped()));
+    if (call.atLeast != Grade::Possible)
+        page.paragraph(Texts::tr("Findings below the grade %1 are told, but do not count for this.")
+                           .arg(nameOf(call.atLeast)));
+}
+
+void addWhat(Page &page, const CheckReport &report, const ReportedCall &call)
+{
+    page.heading(Texts::tr("What was checked"));
+    page.table(
+        {Texts::tr("Side"), Texts::tr("Files"), Texts::tr("DICOM objects")},
+        {{Texts::tr("Originals"), QString::number(report.originalFiles.size()),
+          number(report.originalObjects)},
+         {Texts::tr("Result"), QString::number(report.resultFiles.size()), number(report.resultObjects)}});
+    QList<QStringList> rows;
+    for (int i = 0; i <= static_cast<int>(ValueClass::FileName); ++i) {
+        const auto valueClass = static_cast<ValueClass>(i);
+        rows.append({nameOf(valueClass), number(report.values->searched(valueClass))});
+    }
+    page.table({Texts::tr("Values searched for"), Texts::tr("Number")}, rows);
+    page.heading(Texts::tr("How"));
+    page.paragraph(Texts::tr(
+        "Every value of an identifying attribute of the originals was searched in every attribute of "
+        "the result at every level, in preambles, in bytes behind the end, in files that are no "
+        "DICOM object, and in the names of files and folders: names of persons by their parts in "
+        "any order and spelling, identifiers and UIDs as whole words, dates in the usual forms."));
+    page.heading(Texts::tr("What was not checked"));
+    page.paragraph(call.options.pixels
+                       ? Texts::tr("What pixels show, and what compressed or encrypted bytes hold.")
+                       : Texts::tr("Pixel data, and what compressed or encrypted bytes hold."));
+    page.paragraph(Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
+                       .arg(report.values->tooShort()));
+}
+
+void addUnchecked(Page &page, const CheckReport &report)
+{
+    if (report.unchecked.isEmpty())
+        return;
+    page.paragraph(Texts::tr("Not checked, or not as a whole: %1.")
+                       .arg(filesText(static_cast<quint64>(report.unchecked.size()))));
+    QList<QStringList> rows;
+    for (const UncheckedFile &file : report.unchecked.first(std::min(report.unchecked.size(), mostPaths)))
+        rows.append({file.side == UncheckedFile::Side::Original ? Texts::tr("original") : Texts::tr("result"),
+                     maskedPath(file.path, report.values->patterns()), file.reason});
+    page.table({Texts::tr("Side"), Texts::tr("File"), Texts::tr("Reason")}, rows);
+}
+
+void addGroups(Page &page, const CheckReport &report)
+{
+    page.heading(Texts::tr("What was found"));
+    page.paragraph(Texts::tr("Files with findings: certain %1, likely %2, possible %3.")
+                       .arg(number(report.files[0]), number(report.files[1]), number(report.files[2])));
+    if (report.groups.isEmpty())
+        return;
+    QList<QStringList> rows;
+    QStringList lines;
+    for (const FindingGroup &group : report.groups) {
+        rows.append(
+            {nameOf(group.worst), placeText(group), number(group.files), group.sources, group.advice});
+        if (!group.line.isEmpty() && !lines.contains(group.line))
+            lines.append(group.line);
+    }
+    page.table({Texts::tr("Grade"), Texts::tr("Place"), Texts::tr("Files"), Texts::tr("Values of"),
+                Texts::tr("Advice")},
+               rows);
+    if (lines.isEmpty())
+        return;
+    page.paragraph(Texts::tr("Lines for a configuration file that take these attributes away:"));
+    page.raw(QStringLiteral("<pre>%1</pre>\n").arg(lines.join(u'\n').toHtmlEscaped()));
+}
+
+void addFindings(Page &page, const std::array<QList<ToldFinding>, 3> &findings)
+{
+    QList<QStringList> rows;
+    for (const QList<ToldFinding> &some : findings) {
+        for (const ToldFinding &finding : some)
+            rows.append({nameOf(finding.grade), finding.file, finding.place, finding.source, finding.mask});
+    }
+    if (rows.isEmpty())
+        return;
+    page.paragraph(Texts::tr("The first findings of each grade; report.json has them all."));
+    page.table({Texts::tr("Grade"), Texts::tr("File"), Texts::tr("Place"), Texts::tr("Value of"),
+                Texts::tr("Value")},
+               rows);
+}
+
+void addFiles(Page &page, const QString &title, const QList<qsizetype> &indices, const QStringList &files,
+              const CheckReport &report)
+{
+    page.paragraph(title.arg(indices.size()));
+    if (indices.isEmpty())
+        return;
+    QStringList paths;
+    for (const qsizetype index : indices.first(std::min(indices.size(), mostPaths)))
+        paths.append(maskedPath(files[index], report.values->patterns()));
+    page.raw(QStringLiteral("<pre>%1</pre>\n").arg(paths.join(u'\n').toHtmlEscaped()));
+}
+
+void addBesides(Page &page, const CheckReport &report)
+{
+    page.heading(Texts::tr("Beside the values"));
+    const Pairing &pairing = report.pairing;
+    addFiles(page, Texts::tr("Originals without a result: %1."), pairing.missing, report.originalFiles,
+             report);
+    addFiles(page, Texts::tr("Results without an original: %1."), pairing.added, report.resultFiles, report);
+    addFiles(page, Texts::tr("Results that are unchanged: %1."), pairing.unchanged, report.resultFiles,
+             report);
+    addFiles(page, Texts::tr("Results with other pixel data: %1."), pairing.pixelsChanged, report.resultFiles,
+             report);
+    page.paragraph(
+        Texts::tr("Identifying attributes that are empty or hold a dummy: %1.").arg(number(report.emptied)));
+    QList<QStringList> rows;
+    for (const TagCount &count : report.deviations)
+        rows.append({count.tag, count.name,
+                     count.wanted ? Texts::tr("has another value") : Texts::tr("is there"),
+                     number(count.files)});
+    if (!rows.isEmpty()) {
+        page.paragraph(Texts::tr("Not as the configuration says:"));
+        page.table({Texts::tr("Tag"), Texts::tr("Attribute"), Texts::tr("What is wrong"), Texts::tr("Files")},
+                   rows);
+    }
+    rows.clear();
+    for (const auto &[path, reason] :
+         report.mayShowText.first(std::min(report.mayShowText.size(), mostPaths)))
+        rows.append({maskedPath(path, report.values->patterns()), reason});
+    page.paragraph(Texts::tr("Files whose pixels may show text, and that somebody has to look at: %1.")
+                       .arg(report.mayShowText.size()));
+    if (!rows.isEmpty())
+        page.table({Texts::tr("File"), Texts::tr("Reason")}, rows);
+}
+
+} // namespace
+
+QString htmlReport(const CheckReport &report, const ReportedCall &call,
+                   const std::array<QList<ToldFinding>, 3> &findings)
+{
+    Page page;
+    addVerdict(page, report, call);
+    addWhat(page, report, call);
+    addUnchecked(page, report);
+    addGroups(page, report);
+    addFindings(page, findings);
+    addBesides(page, report);
+    page.raw(QStringLiteral("<p class=\"sign\"><span>%1</span><span>%2</span></p>\n")
+                 .arg(Texts::tr("Place, date"), Texts::tr("Signature")));
+    return QStringLiteral(
+               "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
+               "<style>%2</style>\n</head>\n<body>\n%3</body>\n</html>\n")
+        .arg(Texts::tr("Check by value"), QLatin1String(style), page.html());
+}
+
+} // namespace dravolin::check

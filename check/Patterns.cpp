@@ -1,0 +1,214 @@
+#include "check/Patterns.h"
+
+#include "base/Texts.h"
+
+#include <algorithm>
+
+namespace dravolin::check {
+
+namespace {
+
+constexpr size_t pairDistance = 8;        // words between the components of one name
+constexpr quint32 shortestInBytes = 4;    // letters; fewer stand in any bytes by chance
+constexpr quint32 shortestIdeographs = 3; // of a component in bytes, as above
+constexpr quint32 surelyNoNumber = 8;     // digits; fewer may be a measured value
+
+bool isWholeWord(ValueClass valueClass)
+{
+    return valueClass != ValueClass::Person && valueClass != ValueClass::Date;
+}
+
+bool startsApart(std::span<const Word> words, size_t at)
+{
+    return at >= words.size() || !words[at].joined || words[at].ideograph ||
+           (at > 0 && words[at - 1].ideograph);
+}
+
+quint64 pairKey(quint32 first, quint32 second)
+{
+    return (quint64{std::min(first, second)} << 32) | std::max(first, second);
+}
+
+Grade gradeIn(const Pattern &pattern, TextKind kind)
+{
+    if (kind == TextKind::Numbers && pattern.digits && pattern.letters < surelyNoNumber)
+        return Grade::Possible;
+    return pattern.grade;
+}
+
+bool isTooShortFor(const Pattern &pattern, TextKind kind)
+{
+    return kind == TextKind::Bytes &&
+           pattern.letters < (pattern.ideographs ? shortestIdeographs : shortestInBytes);
+}
+
+} // namespace
+
+QString nameOf(Grade grade)
+{
+    switch (grade) {
+    case Grade::Certain: return Texts::tr("certain");
+    case Grade::Likely: return Texts::tr("likely");
+    case Grade::Possible: return Texts::tr("possible");
+    }
+    return {};
+}
+
+const Patterns::Slot *Patterns::slot(quint64 state) const
+{
+    if (m_slots.empty())
+        return nullptr;
+    const size_t mask = m_slots.size() - 1;
+    for (size_t at = state & mask;; at = (at + 1) & mask) {
+        if (m_slots[at].state == state)
+            return &m_slots[at];
+        if (m_slots[at].state == 0)
+            return nullptr;
+    }
+}
+
+void Patterns::grow()
+{
+    const std::vector<Slot> old =
+        std::exchange(m_slots, std::vector<Slot>(std::max<size_t>(64, m_slots.size() * 2)));
+    m_used = 0;
+    for (const Slot &slot : old) {
+        if (slot.state != 0)
+            makeSlot(slot.state) = slot;
+    }
+}
+
+Patterns::Slot &Patterns::makeSlot(quint64 state)
+{
+    if ((m_used + 1) * 2 > m_slots.size())
+        grow();
+    const size_t mask = m_slots.size() - 1;
+    size_t at = state & mask;
+    while (m_slots[at].state != 0 && m_slots[at].state != state)
+        at = (at + 1) & mask;
+    if (m_slots[at].state == 0) {
+        m_slots[at].state = state;
+        ++m_used;
+    }
+    return m_slots[at];
+}
+
+quint32 &Patterns::patternOf(std::span<const Word> words)
+{
+    quint64 state = 0;
+    for (size_t i = 0; i + 1 < words.size(); ++i) {
+        state = mixed(state, words[i].hash);
+        makeSlot(state).longer = true;
+    }
+    return makeSlot(mixed(state, words.back().hash)).pattern;
+}
+
+quint32 Patterns::add(const Pattern &pattern, std::span<const Word> words)
+{
+    quint32 &index = patternOf(words);
+    if (index == none) {
+        index = addNamed(pattern);
+    } else if (Pattern &known = m_patterns[index]; pattern.valueClass < known.valueClass) {
+        const Grade grade = std::min(known.grade, pattern.grade);
+        known = pattern;
+        known.grade = grade;
+    } else {
+        known.grade = std::min(known.grade, pattern.grade);
+        known.component = known.component && pattern.component;
+    }
+    return index;
+}
+
+void Patterns::addSpelling(quint32 pattern, std::span<const Word> words)
+{
+    if (quint32 &index = patternOf(words); index == none)
+        index = pattern;
+}
+
+quint32 Patterns::addNamed(const Pattern &pattern)
+{
+    m_patterns.push_back(pattern);
+    m_ideographs = m_ideographs || pattern.ideographs;
+    return static_cast<quint32>(m_patterns.size() - 1);
+}
+
+void Patterns::addPair(quint32 first, quint32 second, quint32 whole)
+{
+    m_pairs.try_emplace(pairKey(first, second), whole);
+}
+
+bool Patterns::fits(const Pattern &pattern, std::span<const Word> words, size_t first, size_t last) const
+{
+    return !isWholeWord(pattern.valueClass) || (startsApart(words, first) && startsApart(words, last + 1));
+}
+
+void Patterns::findDatePrefix(const Word &word, size_t at, std::vector<Hit> &hits) const
+{
+    if (word.datePrefix == 0)
+        return;
+    const Slot *const found = slot(mixed(0, word.datePrefix));
+    if (found && found->pattern != none && m_patterns[found->pattern].valueClass == ValueClass::Date)
+        hits.push_back({found->pattern, at});
+}
+
+std::vector<Patterns::Hit> Patterns::hits(std::span<const Word> words) const
+{
+    std::vector<Hit> hits;
+    for (size_t first = 0; first < words.size(); ++first) {
+        findDatePrefix(words[first], first, hits);
+        quint64 state = 0;
+        for (size_t last = first; last < words.size(); ++last) {
+            state = mixed(state, words[last].hash);
+            const Slot *const found = slot(state);
+            if (!found)
+                break;
+            if (found->pattern != none && fits(m_patterns[found->pattern], words, first, last))
+                hits.push_back({found->pattern, last});
+            if (!found->longer)
+                break;
+        }
+    }
+    return hits;
+}
+
+void Patterns::findPairs(std::vector<Hit> &hits) const
+{
+    if (m_pairs.empty())
+        return;
+    const size_t count = hits.size();
+    std::vector<quint32> parts;
+    for (size_t i = 0; i < count; ++i) {
+        for (size_t j = i + 1; j < count && hits[j].word <= hits[i].word + pairDistance; ++j) {
+            const auto whole = m_pairs.find(pairKey(hits[i].pattern, hits[j].pattern));
+            if (whole == m_pairs.end())
+                continue;
+            hits.push_back({whole->second, hits[j].word});
+            parts.push_back(hits[i].pattern);
+            parts.push_back(hits[j].pattern);
+        }
+    }
+    std::sort(parts.begin(), parts.end());
+    std::erase_if(hits, [&parts](const Hit &hit) {
+        return std::binary_search(parts.cbegin(), parts.cend(), hit.pattern);
+    });
+}
+
+std::vector<Match> Patterns::find(std::span<const Word> words, TextKind kind) const
+{
+    std::vector<Hit> found = hits(words);
+    if (found.empty())
+        return {};
+    findPairs(found);
+    std::sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) { return a.pattern < b.pattern; });
+    std::vector<Match> matches;
+    for (const Hit &hit : found) {
+        const Pattern &pattern = m_patterns[hit.pattern];
+        if (isTooShortFor(pattern, kind)) // only now: it may have been a part of a whole name
+            continue;
+        if (matches.empty() || matches.back().pattern != hit.pattern)
+            matches.push_back({hit.pattern, gradeIn(pattern, kind)});
+    }
+    return matches;
+}
+
+} // namespace dravolin::check

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "check/Check.h"
+
+#include <QElapsedTimer>
+#include <QString>
+
+#include <functional>
+
+namespace dravolin::cli {
+
+// How a check goes on, told on standard error: a bar that is written over itself on a terminal, a line every
+// ten seconds elsewhere. One thread at a time.
+class Progress
+{
+public:
+    enum class Form { None, Bar, Lines };
+    // What standard error is.
+    [[nodiscard]] static Form formHere();
+
+    using Write = std::function<void(const QString &)>;
+    Progress(Form form, Write write);
+
+    void show(const check::CheckProgress &progress);
+    // Takes the bar away.
+    void finish();
+
+private:
+    Form m_form;
+    Write m_write;
+    QElapsedTimer m_sinceStart;
+    qint64 m_lastShown; // milliseconds since the start
+    bool m_barShown = false;
+};
+
+// "12 of 48 files, 3.4 MB/s, 10 s left"
+[[nodiscard]] QString progressText(const check::CheckProgress &progress, qint64 milliseconds);
+
+} // namespace dravolin::cli
