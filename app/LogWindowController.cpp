@@ -1,9 +1,16 @@
 #include "app/LogWindowController.h"
 
+#include "app/AlertSheetRunner.h"
+#include "base/Files.h"
+#include "base/Texts.h"
 #include "ui_LogWindow.h"
 
+#include <QClipboard>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QGuiApplication>
 #include <QScreen>
+#include <QShortcut>
 #include <QTextCursor>
 
 namespace dravolin {
@@ -32,11 +39,56 @@ LogWindowController::LogWindowController() : m_window(std::make_unique<QWidget>(
     Ui::LogWindow layout;
     layout.setupUi(m_window.get());
     m_logTextView = layout.logTextView;
+    connectTools(layout);
     m_nextTurn.setInterval(0);
     QObject::connect(&m_nextTurn, &QTimer::timeout, m_window.get(), [this] { appendForOneTurn(); });
 }
 
 LogWindowController::~LogWindowController() = default;
+
+void LogWindowController::connectTools(const Ui::LogWindow &layout)
+{
+    QWidget *const window = m_window.get();
+    for (const QKeySequence &keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
+        QObject::connect(new QShortcut(keys, window), &QShortcut::activated, window, &QWidget::close);
+    QLineEdit *const field = layout.findField;
+    QObject::connect(new QShortcut(QKeySequence::Find, window), &QShortcut::activated, field,
+                     [field] { field->setFocus(); });
+    QObject::connect(field, &QLineEdit::returnPressed, window, [this, field, result = layout.findResult] {
+        result->setText(findNext(field->text()) ? QString() : Texts::tr("Not found"));
+    });
+    QObject::connect(layout.copyButton, &QPushButton::clicked, window,
+                     [this] { QGuiApplication::clipboard()->setText(m_text); });
+    QObject::connect(layout.saveButton, &QPushButton::clicked, window, [this] { save(); });
+}
+
+bool LogWindowController::findNext(const QString &text)
+{
+    if (m_logTextView->find(text))
+        return true;
+    const QTextCursor first = m_logTextView->document()->find(text);
+    if (first.isNull())
+        return false;
+    m_logTextView->setTextCursor(first);
+    return true;
+}
+
+void LogWindowController::save()
+{
+    auto *const dialog = new QFileDialog(m_window.get(), Texts::tr("Save the log"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    QObject::connect(dialog, &QFileDialog::fileSelected, m_window.get(), [this](const QString &path) {
+        if (writeText(path, m_text))
+            return;
+        auto *const alert =
+            createAlert(Texts::tr("The log could not be saved."), path, {Texts::tr("OK")}, 0, m_window.get());
+        alert->setAttribute(Qt::WA_DeleteOnClose);
+        alert->open();
+    });
+    dialog->open();
+}
 
 void LogWindowController::showWithText(const QString &text)
 {

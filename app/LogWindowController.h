@@ -31,6 +31,11 @@ public:
     [[nodiscard]] QWidget *window() const { return m_window.get(); }
 
 private:
+    void connectTools(const Ui::LogWindow &layout);
+    // The next place of `text` behind the caret, or the first when there is none; false when there is none at
+    // all.
+    bool findNext(const QString &text);
+    void save();
     void appendForOneTurn();
     [[nodiscard]] QString nextSlice() const; // whole lines
 

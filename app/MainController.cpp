@@ -8,9 +8,11 @@
 #include "run/UidRootFields.h"
 #include "ui_MainWindow.h"
 
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QSettings>
+#include <QShortcut>
 #include <QTimer>
 
 #include <algorithm>
@@ -31,6 +33,7 @@ std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
     auto controls = std::make_unique<Ui::MainWindow>();
     controls->setupUi(&window);
     controls->dragDropView->setImageFolder(paths.resourceFolder);
+    controls->uidRootTextField->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     controls->horLine->hide();
     controls->progressBar->hide();
     QGuiApplication::setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
@@ -96,6 +99,10 @@ void MainController::connectControls()
     connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
     connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
     connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
+    connect(new QShortcut(QKeySequence::Open, m_window.get()), &QShortcut::activated, c.dragDropView,
+            &QVDragDropView::chooseFolder);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, m_window.get()), &QShortcut::activated, m_window.get(),
+            &QWidget::close);
     connect(m_window.get(), &MainWindow::willClose, this, &MainController::windowWillClose);
 }
 

@@ -2,6 +2,7 @@
 #include "app/MainController.h"
 
 #include "app/MainWindow.h"
+#include "app/PopupPaths.h"
 #include "base/SystemLog.h"
 #include "base/Texts.h"
 #include "config/DirectoryLocations.h"
@@ -100,6 +101,7 @@ void MainController::getConfigurationFilePathsAndPopulateButton()
     m_controls->selectConfigPopupButton->addItems(
         inOrder(found.allConfigPaths.keys(), m_chosenConfiguration));
     m_controls->selectConfigPopupButton->setCurrentIndex(0);
+    showPaths(*m_controls->selectConfigPopupButton, found.allConfigPaths);
     if (found.revertedToDefault)
         tellDefaultConfiguration();
 }

@@ -1,6 +1,7 @@
 #include "app/MainWindowHost.h"
 
 #include "app/FieldText.h"
+#include "app/PopupPaths.h"
 #include "app/RunDialogs.h"
 #include "base/Texts.h"
 #include "ui_MainWindow.h"
@@ -167,11 +168,15 @@ void MainWindowHost::tablesFound(const TitleToPath &tables)
         if (tables.isEmpty()) {
             popup->addItem(Texts::tr("No look-up table files found"));
             popup->setEnabled(false);
+            popup->setToolTip(
+                Texts::tr("A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the "
+                          "configuration folder"));
             return;
         }
         popup->addItem(Texts::tr("Don't use a look-up table"));
         popup->addItems(tables.keys());
         popup->setCurrentIndex(0);
+        showPaths(*popup, tables);
     });
 }
 

@@ -4,6 +4,9 @@
 #include "base/Texts.h"
 
 #include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QSet>
 #include <QSysInfo>
@@ -62,8 +65,9 @@ QStringList droppedPaths(const QMimeData &drag)
     return paths;
 }
 
-QVDragDropView::QVDragDropView(QWidget *parent) : QWidget(parent)
+QVDragDropView::QVDragDropView(QWidget *parent) : QAbstractButton(parent)
 {
+    connect(this, &QAbstractButton::clicked, this, &QVDragDropView::chooseFolder);
     setAcceptDrops(true);
     setImageForLUTcheckboxState(0);
     setConstructing(false);
@@ -185,15 +189,67 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
     return place;
 }
 
+void QVDragDropView::paintFrame(QPainter &painter) const
+{
+    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
+    QColor border = palette().color(QPalette::Text);
+    border.setAlphaF(0.5F);
+    painter.setPen(hasFocus() ? QPen(palette().highlight(), 2) : QPen(border, 1.5, Qt::DashLine));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(frame, 10, 10);
+}
+
+void QVDragDropView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void QVDragDropView::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(Texts::tr("Choose a folder..."), this, &QVDragDropView::chooseFolder);
+    menu->addAction(Texts::tr("Choose files..."), this, &QVDragDropView::chooseFiles);
+    menu->popup(event->globalPos());
+}
+
+void QVDragDropView::chooseFolder()
+{
+    auto *const dialog = new QFileDialog(window(), Texts::tr("Choose a folder"));
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    choose(*dialog);
+}
+
+void QVDragDropView::chooseFiles()
+{
+    auto *const dialog = new QFileDialog(window(), Texts::tr("Choose files"));
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    choose(*dialog);
+}
+
+void QVDragDropView::choose(QFileDialog &dialog)
+{
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    connect(&dialog, &QFileDialog::filesSelected, this, [this](const QStringList &paths) {
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        QMimeData chosen;
+        chosen.setUrls(urls);
+        (void)performDragOperation(chosen);
+    });
+    dialog.open();
+}
+
 void QVDragDropView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1.5, Qt::DashLine));
-    painter.setBrush(palette().base());
-    painter.drawRoundedRect(frame, 10, 10);
-
+    paintFrame(painter);
     const QRectF textArea = paintHint(painter);
     const QRectF imageArea(margin, margin, width() - 2 * margin, textArea.top() - 2 * margin);
     if (!m_image.isNull() && imageArea.height() > 0) {

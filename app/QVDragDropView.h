@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QMimeData>
 #include <QPainter>
 #include <QPixmap>
 #include <QStringList>
-#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QFileDialog;
+QT_END_NAMESPACE
 
 namespace dravolin {
 
@@ -17,8 +21,9 @@ public:
 };
 
 // The picture on which folders and files are dropped. It tells what a drop will do and highlights itself
-// while an acceptable drag is over it. Main thread only.
-class QVDragDropView : public QWidget
+// while an acceptable drag is over it. A click, Space or Enter asks for a folder instead, its context menu
+// for a folder or files; what is chosen is taken as if it had been dropped. Main thread only.
+class QVDragDropView : public QAbstractButton
 {
     Q_OBJECT
 
@@ -42,6 +47,10 @@ public:
     // handed on all the same. The delegate is called later, so that the source is free while it asks.
     bool performDragOperation(const QMimeData &drag);
 
+    // Opens the platform's chooser and returns; what is chosen later goes the way of a drop.
+    void chooseFolder();
+    void chooseFiles();
+
     [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
     void setHighlighted(bool highlighted);
 
@@ -53,8 +62,12 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void choose(QFileDialog &dialog);
+    void paintFrame(QPainter &painter) const;
     [[nodiscard]] QString hint() const;
     [[nodiscard]] QRectF paintHint(QPainter &painter) const; // gives the place that it takes
     void handOn(const QStringList &paths);

@@ -3,7 +3,9 @@
 #include "base/PathText.h"
 #include "support/TestEntry.h"
 
+#include <QAccessible>
 #include <QDragEnterEvent>
+#include <QFileDialog>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
@@ -50,6 +52,9 @@ private Q_SLOTS:
     void imageFollowsTheState_data();
     void imageFollowsTheState();
     void wordsSayWhatADropWillDo();
+    void askingForPathsIsLikeADrop_data();
+    void askingForPathsIsLikeADrop();
+    void isAButtonToAScreenReader();
 
 private:
     [[nodiscard]] bool perform(const QStringList &paths)
@@ -246,6 +251,46 @@ void TestDragDropView::wordsSayWhatADropWillDo()
     m_view->setConstructing(false);
     QCOMPARE(m_view->accessibleDescription(), QStringLiteral("anonymize"));
     QCOMPARE(words(), anonymize);
+}
+
+void TestDragDropView::askingForPathsIsLikeADrop_data()
+{
+    QTest::addColumn<int>("key"); // 0: a click
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("handedOn");
+    const QString folder = QStringLiteral("/data/study #1");
+    QTest::newRow("a click") << 0 << folder << true;
+    QTest::newRow("Space") << int(Qt::Key_Space) << folder << true;
+    QTest::newRow("Return") << int(Qt::Key_Return) << folder << true;
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << folder << true;
+    QTest::newRow("a single picture does nothing") << 0 << QStringLiteral("/data/a.png") << false;
+}
+
+void TestDragDropView::askingForPathsIsLikeADrop()
+{
+    QFETCH(int, key);
+    QFETCH(QString, path);
+    QFETCH(bool, handedOn);
+    if (key == 0)
+        QTest::mouseClick(m_view.get(), Qt::LeftButton);
+    else
+        QTest::keyClick(m_view.get(), Qt::Key(key));
+    auto *const dialog = m_view->findChild<QFileDialog *>();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->fileMode(), QFileDialog::Directory);
+    QVERIFY(m_delegate.drops.isEmpty());
+    Q_EMIT dialog->filesSelected({path});
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate.drops, handedOn ? QList<QStringList>{{path}} : QList<QStringList>());
+}
+
+void TestDragDropView::isAButtonToAScreenReader()
+{
+    QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(m_view.get());
+    QCOMPARE(interface->role(), QAccessible::PushButton);
+    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("anonymize"));
+    interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_VERIFY(m_view->findChild<QFileDialog *>());
 }
 
 } // namespace

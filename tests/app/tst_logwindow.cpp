@@ -1,8 +1,15 @@
 #include "app/AlertSheetRunner.h"
 #include "app/LogWindowController.h"
 #include "app/TestApp.h"
+#include "base/Files.h"
 #include "support/TestEntry.h"
 
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTest>
 
@@ -22,6 +29,12 @@ private Q_SLOTS:
     void opensAtTheTopWithNothingSelected();
     void breaksLinesAtWords_data();
     void breaksLinesAtWords();
+    void closesByKeys_data();
+    void closesByKeys();
+    void copiesEverything();
+    void findsOneAfterTheOther();
+    void savesEverything();
+    void tellsWhenItCannotSave();
     void aSheetStaysInFront_data();
     void aSheetStaysInFront();
 
@@ -76,6 +89,82 @@ void TestLogWindow::breaksLinesAtWords()
     LogWindowController log;
     log.showWithText(text);
     QTEST(int(log.logTextView()->wordWrapMode()), "mode");
+}
+
+void TestLogWindow::closesByKeys_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::newRow("Escape") << QKeySequence(Qt::Key_Escape);
+    QTest::newRow("Ctrl+W") << QKeySequence(Qt::CTRL | Qt::Key_W);
+}
+
+void TestLogWindow::closesByKeys()
+{
+    QFETCH(QKeySequence, keys);
+    LogWindowController log;
+    log.showWithText(QStringLiteral("E: bad"));
+    log.window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(log.window()));
+    QTest::keySequence(log.window(), keys);
+    QTRY_VERIFY(!log.window()->isVisible());
+}
+
+void TestLogWindow::copiesEverything()
+{
+    const QString text = QStringLiteral("E: bad\n").repeated(20000); // more than comes in at once
+    LogWindowController log;
+    log.showWithText(text);
+    QTest::mouseClick(log.window()->findChild<QPushButton *>(QStringLiteral("copyButton")), Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), text);
+}
+
+void TestLogWindow::findsOneAfterTheOther()
+{
+    LogWindowController log;
+    log.showWithText(QStringLiteral("one two\nthree Two"));
+    auto *const field = log.window()->findChild<QLineEdit *>(QStringLiteral("findField"));
+    auto *const result = log.window()->findChild<QLabel *>(QStringLiteral("findResult"));
+    const auto find = [&](const QString &text) {
+        field->setText(text);
+        QTest::keyClick(field, Qt::Key_Return);
+        return log.logTextView()->textCursor().selectionStart();
+    };
+    QCOMPARE(find(QStringLiteral("two")), 4);
+    QCOMPARE(find(QStringLiteral("two")), 14);
+    QCOMPARE(find(QStringLiteral("two")), 4); // from the top again
+    QCOMPARE(result->text(), QString());
+    QCOMPARE(find(QStringLiteral("four")), 4);
+    QCOMPARE(result->text(), QStringLiteral("Not found"));
+    QCOMPARE(find(QStringLiteral("one")), 0);
+    QCOMPARE(result->text(), QString());
+}
+
+void TestLogWindow::savesEverything()
+{
+    const QString text = QStringLiteral("E: bäd\n").repeated(20000);
+    const QString file = joinPath(m_home.path(), QStringLiteral("saved.txt"));
+    LogWindowController log;
+    log.showWithText(text);
+    QTest::mouseClick(log.window()->findChild<QPushButton *>(QStringLiteral("saveButton")), Qt::LeftButton);
+    auto *const dialog = log.window()->findChild<QFileDialog *>();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+    Q_EMIT dialog->fileSelected(file);
+    QCOMPARE(readText(file), text);
+    QVERIFY(!log.window()->findChild<QMessageBox *>());
+}
+
+void TestLogWindow::tellsWhenItCannotSave()
+{
+    const QString file = joinPath(m_home.path(), QStringLiteral("missing/saved.txt"));
+    LogWindowController log;
+    log.showWithText(QStringLiteral("E: bad"));
+    QTest::mouseClick(log.window()->findChild<QPushButton *>(QStringLiteral("saveButton")), Qt::LeftButton);
+    Q_EMIT log.window()->findChild<QFileDialog *>()->fileSelected(file);
+    auto *const alert = log.window()->findChild<QMessageBox *>();
+    QVERIFY(alert);
+    QCOMPARE(alert->text(), QStringLiteral("The log could not be saved."));
+    QCOMPARE(alert->informativeText(), file);
 }
 
 void TestLogWindow::aSheetStaysInFront_data()

@@ -187,7 +187,7 @@ void TestMainWindow::tabGoesFromTopToBottom()
     window.activateWindow();
     m_app->controls->selectConfigPopupButton->setFocus();
     QStringList order;
-    for (int i = 0; i < 14; ++i) {
+    for (int i = 0; i < 15; ++i) {
         order.append(window.focusWidget()->objectName());
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
@@ -195,7 +195,7 @@ void TestMainWindow::tabGoesFromTopToBottom()
                                    "overWriteSourceCheckbox prepopulateLUTcheckbox generateSOPCheckbox "
                                    "onlyGenerateSOPCheckbox caseIDTextField diagnosisTextField "
                                    "keywordsTextField creditsTextField uidRootTextField createUIDrootButton "
-                                   "webSiteButton")
+                                   "dragDropView webSiteButton")
                         .split(u' '));
 }
 

@@ -4,6 +4,7 @@
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
+#include <QFileDialog>
 #include <QSettings>
 #include <QTest>
 
@@ -61,6 +62,10 @@ private Q_SLOTS:
     void theFocusComesBackAfterARun();
     void theFocusStaysWhereTheUserPutIt();
     void statusIsInSightOnALowScreen();
+    void popUpsTellThePathsOfWhatTheyOffer();
+    void anEmptyTablePopUpTellsHowATableIsNamed();
+    void theWindowClosesByItsKeys();
+    void keysAskForAFolder();
 
 private:
     void configure(const QString &title, const QString &text)
@@ -261,6 +266,51 @@ void TestWindowChanges::statusIsInSightOnALowScreen()
         const int lowerEdge = widget->mapTo(&window, widget->rect().bottomLeft()).y();
         QVERIFY2(lowerEdge < lowScreen, qPrintable(QString::number(lowerEdge)));
     }
+}
+
+void TestWindowChanges::popUpsTellThePathsOfWhatTheyOffer()
+{
+    configure(QStringLiteral("Zebra"), marker);
+    const QString table = m_app->run.writeFile(QStringLiteral("home/Desktop/AnonymizationLUT_Site.txt"));
+    m_app->controller->getConfigurationFilePathsAndPopulateButton();
+    m_app->controller->getLUTpathsAndPopulateButton();
+    QComboBox &popup = *m_app->controls->selectConfigPopupButton;
+    QCOMPARE(popup.toolTip(), m_app->configurationPath());
+    popup.setCurrentIndex(1);
+    const QString zebra =
+        m_app->run.path(QStringLiteral("home/Desktop/AnonymizationConfiguration_Zebra.txt"));
+    QCOMPARE(popup.toolTip(), zebra);
+    QCOMPARE(popup.itemData(1, Qt::ToolTipRole).toString(), zebra);
+
+    QComboBox &tables = *m_app->controls->selectLUTpopupButton;
+    QCOMPARE(tables.toolTip(), QString());
+    tables.setCurrentIndex(1);
+    QCOMPARE(tables.toolTip(), table);
+}
+
+void TestWindowChanges::anEmptyTablePopUpTellsHowATableIsNamed()
+{
+    QCOMPARE(m_app->controls->selectLUTpopupButton->toolTip(),
+             QStringLiteral("A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the "
+                            "configuration folder"));
+}
+
+void TestWindowChanges::theWindowClosesByItsKeys()
+{
+    QWidget &window = m_app->controller->window();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_Q, Qt::ControlModifier);
+    QTRY_VERIFY(!window.isVisible());
+}
+
+void TestWindowChanges::keysAskForAFolder()
+{
+    QWidget &window = m_app->controller->window();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_O, Qt::ControlModifier);
+    QTRY_VERIFY(window.findChild<QFileDialog *>());
 }
 
 DRAVOLIN_TEST(TestWindowChanges)
