@@ -17,8 +17,8 @@ constexpr const char *schema[] = {
     "PRAGMA synchronous=FULL",
     "CREATE TABLE IF NOT EXISTS kept (name TEXT PRIMARY KEY, value BLOB) WITHOUT ROWID",
     "CREATE TABLE IF NOT EXISTS cases (id TEXT PRIMARY KEY, destination BLOB, rules BLOB) WITHOUT ROWID",
-    "CREATE TABLE IF NOT EXISTS files (id TEXT, path BLOB, size INTEGER, modified INTEGER, result TEXT, "
-    "before BLOB, after BLOB, problem TEXT, PRIMARY KEY (id, path)) WITHOUT ROWID",
+    ("CREATE TABLE IF NOT EXISTS files (id TEXT, path BLOB, size INTEGER, modified INTEGER, result TEXT, "
+     "before BLOB, after BLOB, problem TEXT, PRIMARY KEY (id, path)) WITHOUT ROWID"),
     "CREATE TABLE IF NOT EXISTS uids (old BLOB PRIMARY KEY, new BLOB) WITHOUT ROWID",
 };
 

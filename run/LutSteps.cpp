@@ -24,7 +24,7 @@ void refuse(const RunContext &context, Refusal refusal, const QString &table)
 std::optional<QString> prepareConstruction(const RunContext &context)
 {
     loadTagsToAnonymize(context, selectedConfiguration(context));
-    const std::optional<QString> tag = firstTagWithTableMarker(context.state.get(&RunState::newValueDict));
+    std::optional<QString> tag = firstTagWithTableMarker(context.state.get(&RunState::newValueDict));
     context.state.set(&RunState::LUTconstructionTag, tag.value_or(QString()));
     return tag;
 }

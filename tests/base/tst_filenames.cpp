@@ -196,6 +196,7 @@ void TestFileNames::takesPathsApart_data()
     row("/data/a.", "/data", "a.", "", "a");
     row("/data/a b.txt", "/data", "a b.txt", "txt", "a b");
     row("a.txt", "", "a.txt", "txt", "a");
+    row("/data/.hidden", "/data", ".hidden", "", ".hidden");
     row("/data/.hidden.txt", "/data", ".hidden.txt", "txt", ".hidden");
 }
 

@@ -5,10 +5,11 @@
 
 #include <QTest>
 
-namespace dravolin::test {
+using namespace dravolin;
+using namespace dravolin::test;
 
 // Whole runs that construct a table.
-class ConstructionRunsTest : public QObject
+class TestConstructionRuns : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ private Q_SLOTS:
     void constructionIsNamedAfter();
 };
 
-void ConstructionRunsTest::constructionSetsTheSkippedFilesBack()
+void TestConstructionRuns::constructionSetsTheSkippedFilesBack()
 {
     TableRun run;
     run.state.set(&RunState::numLUTskippedFiles, quint64(3));
@@ -31,7 +32,7 @@ void ConstructionRunsTest::constructionSetsTheSkippedFilesBack()
     QCOMPARE(run.state.get(&RunState::numLUTskippedFiles), quint64(0));
 }
 
-void ConstructionRunsTest::constructionChangesNoFile()
+void TestConstructionRuns::constructionChangesNoFile()
 {
     TableRun run;
     run.switchOn(&Choices::prepopulate);
@@ -53,7 +54,7 @@ void ConstructionRunsTest::constructionChangesNoFile()
     QCOMPARE(run.state.get(&RunState::LUTtagSet), QSet<QString>());
 }
 
-void ConstructionRunsTest::constructionWithATableBindsButDoesNotPropagate()
+void TestConstructionRuns::constructionWithATableBindsButDoesNotPropagate()
 {
     TableRun run;
     run.switchOn(&Choices::prepopulate);
@@ -67,7 +68,7 @@ void ConstructionRunsTest::constructionWithATableBindsButDoesNotPropagate()
     QVERIFY(pathExists(run.path(str("home/Desktop/AnonymizationLUT_Site1.txt"))));
 }
 
-void ConstructionRunsTest::refusedConstructionStillNamesTheDesktop()
+void TestConstructionRuns::refusedConstructionStillNamesTheDesktop()
 {
     TableRun run;
     run.switchOn(&Choices::prepopulate);
@@ -79,7 +80,7 @@ void ConstructionRunsTest::refusedConstructionStillNamesTheDesktop()
     QCOMPARE(listNames(run.paths.desktopFolder), QStringList());
 }
 
-void ConstructionRunsTest::constructionIsNamedAfter_data()
+void TestConstructionRuns::constructionIsNamedAfter_data()
 {
     QTest::addColumn<QString>("configuration");
     QTest::addColumn<QString>("name");
@@ -89,7 +90,7 @@ void ConstructionRunsTest::constructionIsNamedAfter_data()
     QTest::newRow("no marker") << QString() << str("XX");
 }
 
-void ConstructionRunsTest::constructionIsNamedAfter()
+void TestConstructionRuns::constructionIsNamedAfter()
 {
     QFETCH(QString, configuration);
     QFETCH(QString, name);
@@ -101,7 +102,5 @@ void ConstructionRunsTest::constructionIsNamedAfter()
     QCOMPARE(listNames(run.paths.desktopFolder), QStringList(str("AnonymizationLUT_") + name + str(".txt")));
 }
 
-} // namespace dravolin::test
-
-DRAVOLIN_TEST(dravolin::test::ConstructionRunsTest)
+DRAVOLIN_TEST(TestConstructionRuns)
 #include "tst_constructionruns.moc"
