@@ -21,7 +21,7 @@ struct RunReport
     QStringList DICOMDIRpaths;
 };
 
-// The summary and the log text of a run; without its jobs. Pure; time grows with the output plus the number
+// The summary and the log text of a run; without its jobs and files. Pure; time grows with the output plus the number
 // of folder names.
 [[nodiscard]] RunJudgement judgeOutput(const RunReport &report);
 
