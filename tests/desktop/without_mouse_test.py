@@ -18,10 +18,11 @@ from outside import mouse, reader, table_job  # noqa: E402
 from outside.configuration import asked_for  # noqa: E402
 from outside.controls import Role, State, settled  # noqa: E402
 from outside.main_job import CASE, default_rules, prepare  # noqa: E402
-from outside.program import (DEFAULT_CONFIGURATION, LOG_WINDOW, OVERWRITE, WINDOW, Home, Lines,  # noqa: E402
+from outside.program import (DEFAULT_CONFIGURATION, LOG_WINDOW, OVERWRITE, Home, Lines,  # noqa: E402
                              Program)
 from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
 from outside.waiting import arrives, wait_until  # noqa: E402
+from outside.waiting_tool import copy_with_waiting_tool  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
 ROOT = "2.25.271828182845904523536028747135"
@@ -36,8 +37,8 @@ class WithoutAMouse(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
         self.home = Home(self.folder / "home")
 
-    def start(self):
-        return self.enterContext(Program(EXECUTABLE, self.home))
+    def start(self, executable=None):
+        return self.enterContext(Program(executable or EXECUTABLE, self.home))
 
     def test_the_whole_job_by_names_alone(self):
         study = prepare(self.folder)
@@ -124,26 +125,40 @@ class WithoutAMouse(unittest.TestCase):
 
     def test_a_user_who_looks_elsewhere_is_notified_of_the_end(self):
         study = prepare(self.folder)
+        said = self.start_notifications()
+        self.home.configurations.mkdir(parents=True)
+        (self.home.configurations / "AnonymizationConfiguration_A.txt").write_text("0010,0030\n")
+        executable = copy_with_waiting_tool(EXECUTABLE, self.folder / "program")
+        program = self.start(executable)
+        wait_until(lambda: program.control("Configuration").name == "A", "the configuration")
+        reader.fill(program, "UID root", ROOT)
+        reader.choose_folder(program, study.after / "disc/IMAGES/AXIAL")
+        wait_until((executable.parent / "resources/started").exists, "the start of the tool")
+        self.assertIn("Working. Another drop would run beside this one", program.control("Drop area").description)
+        self.assertTrue(program.control("Drop area").has(State.BUSY))
+        self.look_elsewhere(program)
+        (executable.parent / "resources/go").touch()
+        line = said.wait_for(lambda text: text != "ready", "the notification", 60)
+        self.assertEqual(line, "Dravolin|dravolin|Done!|2 files changed, in 1 folder|example.dravolin.Dravolin")
+
+    def start_notifications(self):
+        """A notification service; what it prints."""
         service = pathlib.Path(reader.__file__).with_name("notifications.py")
         notifications = subprocess.Popen([sys.executable, str(service)], stdout=subprocess.PIPE)
         self.addCleanup(notifications.communicate)
         self.addCleanup(notifications.kill)
         said = Lines(notifications.stdout)
         said.wait_for("ready".__eq__, "the notification service")
-        self.home.configurations.mkdir(parents=True)
-        (self.home.configurations / "AnonymizationConfiguration_A.txt").write_text("0010,0030\n")
-        program = self.start()
-        wait_until(lambda: program.control("Configuration").name == "A", "the configuration")
-        reader.fill(program, "UID root", ROOT)
-        reader.choose_folder(program, study.after / "disc/IMAGES/AXIAL")
-        self.minimize()
-        line = said.wait_for(lambda text: text != "ready", "the notification", 60)
-        self.assertEqual(line, "Dravolin|dravolin|Done!|2 files changed, in 1 folder|example.dravolin.Dravolin")
+        return said
 
-    def minimize(self):
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{WINDOW}$"], check=True, timeout=30,
-                               stdout=subprocess.PIPE, text=True).stdout.split()
-        mouse.tell("windowminimize", found[0])
+    def look_elsewhere(self, program):
+        """Has another program's window take the keyboard."""
+        window = "import gi; gi.require_version('Gtk', '3.0'); from gi.repository import Gtk; "\
+                 "window = Gtk.Window(title='Elsewhere'); window.show_all(); Gtk.main()"
+        elsewhere = subprocess.Popen([sys.executable, "-c", window])
+        self.addCleanup(elsewhere.wait)
+        self.addCleanup(elsewhere.kill)
+        wait_until(lambda: settled(lambda: not program.window.has(State.ACTIVE)), "the keyboard elsewhere")
 
 
 if __name__ == "__main__":
