@@ -4,25 +4,16 @@
 
 #include <QStringList>
 
-#include <algorithm>
-#include <limits>
-
 namespace dravolin {
 
 namespace {
-
-// For the forms of a plural.
-int number(quint64 count)
-{
-    return static_cast<int>(std::min<quint64>(count, std::numeric_limits<int>::max()));
-}
 
 QString constructionFacts(quint64 rows)
 {
     if (rows == 0)
         return Texts::tr("No value found, no file changed");
     return rows == 1 ? Texts::tr("1 value found, no file changed")
-                     : Texts::tr("%n values found, no file changed", nullptr, number(rows));
+                     : Texts::tr("%n values found, no file changed", nullptr, pluralNumber(rows));
 }
 
 QString changed(const FileCounts &files)
@@ -30,7 +21,7 @@ QString changed(const FileCounts &files)
     if (files.changed == 0)
         return files.unchanged == 0 ? Texts::tr("No file found") : Texts::tr("No file changed");
     return files.changed == 1 ? Texts::tr("1 file changed")
-                              : Texts::tr("%n files changed", nullptr, number(files.changed));
+                              : Texts::tr("%n files changed", nullptr, pluralNumber(files.changed));
 }
 
 } // namespace
@@ -54,13 +45,13 @@ QString factsOf(const RunJudgement &judgement)
     const FileCounts &files = judgement.files;
     QStringList facts = {changed(files)};
     if (files.unchanged > 0)
-        facts.append(Texts::tr("%n unchanged", nullptr, number(files.unchanged)));
+        facts.append(Texts::tr("%n unchanged", nullptr, pluralNumber(files.unchanged)));
     if (files.leftOut > 0)
-        facts.append(Texts::tr("%n left out", nullptr, number(files.leftOut)));
+        facts.append(Texts::tr("%n left out", nullptr, pluralNumber(files.leftOut)));
     if (files.folders == 1)
         facts.append(Texts::tr("in 1 folder"));
     else if (files.folders > 1)
-        facts.append(Texts::tr("in %n folders", nullptr, number(files.folders)));
+        facts.append(Texts::tr("in %n folders", nullptr, pluralNumber(files.folders)));
     return facts.join(Texts::tr(", "));
 }
 
