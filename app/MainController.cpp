@@ -118,7 +118,7 @@ void MainController::connectControls()
     connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
     connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
     connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
-    connect(c.helpButton, &QPushButton::clicked, this, [this] { m_help.popUp(*m_controls->helpButton); });
+    connect(c.helpButton, &QToolButton::clicked, this, [this] { m_help.popUp(*m_controls->helpButton); });
     connect(c.showLogButton, &QPushButton::clicked, this, &MainController::showLogAgain);
     connect(m_window.get(), &MainWindow::willClose, this, &MainController::windowWillClose);
 }

@@ -102,16 +102,16 @@ class Program:
         choice = self.control(name, (Role.COMBO_BOX,))
         if choice.name == item:
             return
+
         def entry():
             return settled(lambda: self.entry(choice, item))
         click_until(lambda: choice, entry, f"'{item}' in the list of '{name}'")
         click_until(entry, lambda: choice.name == item, f"'{item}' chosen in '{name}'")
 
     def entry(self, choice, item):
-        for control in choice.all():
-            if control.role == Role.LIST_ITEM and control.name == item and control.box[1] > 0 and control.showing:
-                return control
-        return None
+        """The item in the list of an open pop-up; None when it is not open: its items say that they show all the same."""
+        lists = (control for control in choice.all() if control.role == Role.LIST and control.showing)
+        return next((entry for entries in lists for entry in entries.children() if entry.name == item), None)
 
     def answer(self, text, button):
         """Waits for the question that says this text and presses the button with that name."""
