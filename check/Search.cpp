@@ -83,7 +83,8 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
     const qsizetype known = result.findings.size();
     QString text;
     if (element.kind == Element::Kind::Bytes) {
-        searchText(decimalText(element.bytes, element.numbers), TextKind::Numbers);
+        text = decimalText(element.bytes, element.numbers);
+        searchText(text, TextKind::Numbers);
         searchBytes(element.bytes, placeOf(element), element.sets, result.findings);
     } else {
         text = element.sets.decode(element.bytes);
@@ -111,10 +112,9 @@ void Searcher::searchPath(const QString &path, QList<Finding> &findings)
     }
 }
 
-SearchedFile Searcher::search(const QString &root, const QString &path)
+SearchedFile Searcher::search(LoadedFile file, const QString &path)
 {
     SearchedFile result;
-    LoadedFile file = loadFile(joinPath(root, path));
     readLoaded(file, [&](const Element &element) { searchElement(element, result); });
     const auto bytes = [&](QByteArrayView some, Place::Kind kind) {
         searchBytes(some, {kind, 0, 0, {}}, {}, result.findings);
