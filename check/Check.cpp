@@ -116,7 +116,7 @@ private:
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
-                return harvester.harvest(joinPath(m_trees.originals.root, files[index]));
+                return harvester.harvest(loadFile(joinPath(m_trees.originals.root, files[index])));
             };
         };
         inOrder<HarvestedFile>(
@@ -139,7 +139,7 @@ private:
         };
         const auto makeWorker = [&] {
             return [&, searcher = makeSearcher()](qsizetype index) mutable {
-                return searcher.search(m_trees.results.root, files[index]);
+                return searcher.search(loadFile(joinPath(m_trees.results.root, files[index])), files[index]);
             };
         };
         inOrder<SearchedFile>(files.size(), m_options.workers, makeWorker,
