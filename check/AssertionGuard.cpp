@@ -12,6 +12,7 @@ thread_local std::jmp_buf *guard = nullptr;
 
 // Takes the place of the C library's function for the whole program: the libraries are built with it as the
 // end of the process, and an exception cannot leave it.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" [[noreturn]] void __assert_fail(const char *assertion, const char *file, unsigned int line,
                                            const char *function) noexcept
 {

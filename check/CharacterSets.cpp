@@ -74,7 +74,8 @@ public:
             char *out = reinterpret_cast<char *>(part.data());
             size_t room = sizeof(part);
             const size_t result = iconv(m_handle, &in, &left, &out, &room);
-            text += QStringView(part.data(), (sizeof(part) - room) / sizeof(char16_t));
+            text +=
+                QStringView(part.data(), static_cast<qsizetype>((sizeof(part) - room) / sizeof(char16_t)));
             if (result == static_cast<size_t>(-1) && room >= sizeof(char16_t) * 2) {
                 text += QChar(QChar::ReplacementCharacter);
                 ++in;
@@ -86,6 +87,7 @@ public:
     }
 
 private:
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): so does iconv tell that it failed
     [[nodiscard]] bool isOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
     iconv_t m_handle;
 };

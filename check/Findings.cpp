@@ -31,7 +31,7 @@ QString groupName(const Place &place)
 {
     if (place.kind != Place::Kind::Attribute)
         return textOf(place);
-    const QString name = attributeName(place.tag);
+    QString name = attributeName(place.tag);
     if (!name.isEmpty())
         return name;
     return (place.tag >> 16) % 2 == 1 ? Texts::tr("private attribute") : Texts::tr("unknown attribute");

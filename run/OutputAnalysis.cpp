@@ -5,6 +5,7 @@
 #include "base/Texts.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <string_view>
 #include <unordered_set>
@@ -63,10 +64,11 @@ qint64 leadingInteger(QStringView text)
     return negative ? -value : value;
 }
 
-// Inline and leaving at the first difference: most lines differ early.
+// Inline, unlike QStringView's own: it is asked several times a line.
 bool startsWith(QStringView text, QStringView prefix)
 {
-    return text.size() >= prefix.size() && std::equal(prefix.begin(), prefix.end(), text.begin());
+    return text.size() >= prefix.size() &&
+           std::memcmp(text.utf16(), prefix.utf16(), static_cast<size_t>(prefix.size()) * sizeof(QChar)) == 0;
 }
 
 bool endsWith(QStringView text, QStringView suffix)

@@ -166,6 +166,7 @@ void TestFileSystem::followsLinksOnlyForExistence()
     m_scratch->link(QStringLiteral("broken"), QStringLiteral("nowhere"));
     QVERIFY(pathExists(path(QStringLiteral("link"))));
     QVERIFY(!isFolder(path(QStringLiteral("link"))));
+    QVERIFY(entryKind(path(QStringLiteral("link"))) == EntryKind::Other);
     QVERIFY(!pathExists(path(QStringLiteral("broken"))));
 }
 

@@ -53,6 +53,7 @@ void TestUidRoot::checksRootAndCaseId_data()
     row("blanks around it", QStringLiteral("  1.2.12345678901234567890  "), none, true);
     row("wrong prefix 1.3.", QStringLiteral("1.3.12345678901234567890123"), none, false);
     row("prefix 2.25.", QStringLiteral("2.25.12345678901234567890"), none, true);
+    row("prefix 2.25 without its dot", QStringLiteral("2.2512345678901234567890"), none, false);
     row("prefix 2.26.", QStringLiteral("2.26.12345678901234567890"), none, false);
     row("prefix without its dot", QStringLiteral("1.23456789012345678901234"), none, false);
     row("prefix 2.2.", QStringLiteral("2.2.123456789012345678901234"), none, false);
