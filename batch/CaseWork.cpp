@@ -64,7 +64,6 @@ CaseWork::CaseWork(const Plan &plan, const BatchOptions &options, const ProjectK
 {
     const auto count = static_cast<size_t>(plan.cases.size());
     m_treatments.reserve(count); // rules are pointed to
-    m_openFiles.resize(count);
     m_counts.resize(plan.cases.size());
     m_progress.allCases = plan.cases.size();
     for (const PlannedCase &planned : plan.cases)
@@ -96,7 +95,23 @@ void CaseWork::beginCase(size_t index)
         else
             beginFile(index, file, resultName(file, taken), known.value(file.path));
     }
-    m_progress.cases += m_openFiles[index] == 0 ? 1 : 0;
+    removeStale(planned, known, taken);
+}
+
+// What became of files that are no longer in the source, or that now have another name.
+void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
+                           const QSet<QString> &results)
+{
+    QSet<QString> paths;
+    for (const PlannedFile &file : planned.files)
+        if (!file.isDirectory && file.problem.isEmpty())
+            paths.insert(file.path);
+    for (const FileRecord &record : known) {
+        if (!record.result.isEmpty() && !results.contains(record.result))
+            removeFile(joinPath(planned.row.destination, record.result));
+        if (!paths.contains(record.path) && !m_journal.remove(planned.row.caseId, record.path))
+            fail(Texts::tr("the journal cannot be written"));
+    }
 }
 
 // Two objects with one UID get two names; their order is that of the source's paths.
@@ -120,7 +135,27 @@ void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &r
         return;
     }
     m_tasks.push_back({index, &file, result});
-    ++m_openFiles[index];
+}
+
+qsizetype CaseWork::roundEnd(qsizetype begin) const
+{
+    constexpr qsizetype enoughFiles = 2000;
+    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
+    quint64 bytes = 0;
+    auto end = static_cast<size_t>(begin);
+    for (; end < m_tasks.size(); ++end) {
+        const bool isEnough = static_cast<qsizetype>(end) - begin >= enoughFiles || bytes >= enoughBytes;
+        if (isEnough && m_tasks[end].ofCase != m_tasks[end - 1].ofCase)
+            break;
+        bytes += m_tasks[end].file->size;
+    }
+    return static_cast<qsizetype>(end);
+}
+
+qsizetype CaseWork::casesBefore(qsizetype number) const
+{
+    return number < open() ? static_cast<qsizetype>(m_tasks[static_cast<size_t>(number)].ofCase)
+                           : m_plan.cases.size();
 }
 
 Treatment CaseWork::treatmentOf(const PlannedCase &planned)
@@ -240,7 +275,6 @@ void CaseWork::countTreated(const Treated &treated, const FileRecord &record)
     countKnown(treated.task->ofCase, record);
     m_counts[static_cast<qsizetype>(treated.task->ofCase)].movedToUtf8 += treated.file.movedToUtf8 ? 1 : 0;
     m_progress.bytes += treated.file.sizeBefore;
-    m_progress.cases += --m_openFiles[treated.task->ofCase] == 0 ? 1 : 0;
 }
 
 void CaseWork::fail(const QString &text)

@@ -23,6 +23,11 @@ public:
 
     // The number of files that are to be treated.
     [[nodiscard]] qsizetype open() const { return static_cast<qsizetype>(m_tasks.size()); }
+    // Files are in the order of their cases. Where a round of whole cases ends that begins with this file:
+    // enough of them for all workers, but no more than the system may still have in memory at its end.
+    [[nodiscard]] qsizetype roundEnd(qsizetype begin) const;
+    // How many cases, from the first one on, have all their open files before this one.
+    [[nodiscard]] qsizetype casesBefore(qsizetype number) const;
     // Treats one of them, from 0; any thread. The result has a temporary name afterwards.
     void treat(qsizetype number);
     [[nodiscard]] bool hasFailed() const { return m_failed; }
@@ -50,6 +55,8 @@ private:
 
     void beginCase(size_t index);
     void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
+    void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
+                     const QSet<QString> &results);
     [[nodiscard]] QString resultName(const PlannedFile &file, QSet<QString> &taken) const;
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
     [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
@@ -66,7 +73,6 @@ private:
     std::vector<Treatment> m_treatments; // of the cases
     std::vector<Task> m_tasks;
     QHash<QByteArray, QByteArray> m_studies; // new UIDs of the studies that cases hold alone
-    std::vector<qsizetype> m_openFiles;      // of the cases
     QList<CaseCounts> m_counts;
     BatchProgress m_progress;
     QString m_failure;

@@ -207,7 +207,8 @@ QString CharacterSets::decode(QByteArrayView bytes) const
 QByteArray escapesInForce(QByteArrayView bytes)
 {
     State state{.initial = ""};
-    for (qsizetype at = std::max<qsizetype>(0, bytes.indexOf(escapeByte)); at < bytes.size(); ++at) {
+    const qsizetype first = bytes.indexOf(escapeByte);
+    for (qsizetype at = first < 0 ? bytes.size() : first; at < bytes.size(); ++at) {
         const Escape *const escape = bytes[at] == escapeByte ? escapeAt(bytes.sliced(at + 1)) : nullptr;
         if (escape)
             state.apply(*escape);

@@ -106,7 +106,8 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
     const qsizetype known = result.findings.size();
     QString text;
     if (element.kind == Element::Kind::Bytes) {
-        searchText(decimalText(element.bytes, element.numbers), TextKind::Numbers);
+        text = decimalText(element.bytes, element.numbers);
+        searchText(text, TextKind::Numbers);
         searchBytes(element.bytes, placeOf(element), element.sets, result.findings);
     } else {
         text = element.sets.decode(element.bytes);

@@ -21,7 +21,7 @@ public:
     // `rules` may be null. Both outlive the searcher.
     Searcher(const Patterns &patterns, const Rules *rules, bool searchPixels);
 
-    // A file, and the name and folders that its relative path has.
+    // A file, and the name and folders that its relative path has; "" when these tell nothing.
     [[nodiscard]] SearchedFile search(LoadedFile file, const QString &path);
     // Only the path, and where the link leads.
     [[nodiscard]] QList<Finding> searchLink(const QString &path, const QString &target);

@@ -1,4 +1,5 @@
 #include "base/Files.h"
+#include "support/OddNames.h"
 #include "support/ScratchFolder.h"
 #include "support/TestEntry.h"
 
@@ -8,36 +9,8 @@
 #include <memory>
 
 using namespace dravolin;
+using test::oddNames;
 using test::ScratchFolder;
-
-namespace {
-
-// Every name here is one that the file system allows.
-const QList<QByteArray> oddNames = {"plain",
-                                    "with blank",
-                                    "quote\"s",
-                                    "apostrophe's",
-                                    "$HOME",
-                                    "`id`",
-                                    "back\\slash",
-                                    "line\nbreak",
-                                    "-nb",
-                                    "[",
-                                    "*",
-                                    ".hidden",
-                                    "Latin-1 \xFC",
-                                    "\xFF\xFE",
-                                    "cut \xE2\x82",
-                                    "\xEF\xBB\xBFmark",
-                                    "\xED\xA0\x80 surrogate",
-                                    "\xF0\x9F\x98\x80",
-                                    "combining e\xCC\x81",
-                                    "precomposed \xC3\xA9",
-                                    " ",
-                                    "~",
-                                    "%s %1 %n"};
-
-} // namespace
 
 class TestFileSystem : public QObject
 {

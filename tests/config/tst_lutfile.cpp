@@ -1,25 +1,15 @@
 #include "base/Files.h"
 #include "config/LutFile.h"
+#include "support/TableText.h"
 #include "support/TestEntry.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace dravolin;
+using test::described;
 
 namespace {
-
-// The table as text: "key=value" in order, joined by "|"; "none" for no table.
-QString described(const std::optional<LutTable> &table)
-{
-    if (!table)
-        return QStringLiteral("none");
-    QStringList entries;
-    for (auto entry = table->cbegin(); entry != table->cend(); ++entry)
-        entries.append(entry.key() + u'=' + entry.value());
-    entries.sort();
-    return entries.join(u'|');
-}
 
 void row(const char *name, const QByteArray &content, const char *table)
 {

@@ -1,10 +1,12 @@
 #include "base/Files.h"
 #include "config/LutFile.h"
+#include "support/TableText.h"
 #include "support/TestEntry.h"
 
 #include <QTest>
 
 using namespace dravolin;
+using test::described;
 
 namespace {
 
@@ -33,18 +35,6 @@ const QString explanation = QStringLiteral(R"(#
 #
 <missing>		<supply missing value replacement, eg: Unknown>
 )");
-
-// The table as text: "key=value" in order, joined by "|"; "none" for no table.
-QString described(const std::optional<LutTable> &table)
-{
-    if (!table)
-        return QStringLiteral("none");
-    QStringList entries;
-    for (auto entry = table->cbegin(); entry != table->cend(); ++entry)
-        entries.append(entry.key() + u'=' + entry.value());
-    entries.sort();
-    return entries.join(u'|');
-}
 
 } // namespace
 

@@ -1,19 +1,18 @@
 #include "base/Files.h"
 #include "processing/FolderAnonymization.h"
+#include "support/ScriptHeader.h"
 #include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
 
 using namespace dravolin;
+using test::header;
 using test::LogCatcher;
 using test::TestRun;
 
 namespace {
 
-const QString header =
-    QStringLiteral("#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading "
-                   "this, the file is garbage that can safely be deleted.\n");
 const QStringList tags = {QStringLiteral("0010,0010"), QStringLiteral("0010,0030")};
 const QString tagArguments = QStringLiteral(" -i \"(0010,0010)=ANON\" -ea \"(0010,0030)\"");
 constexpr qsizetype suffixLength = 21; // of " >>.noxTemp.out 2>>&1"

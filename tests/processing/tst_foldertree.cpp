@@ -1,5 +1,6 @@
 #include "base/Files.h"
 #include "processing/FolderTree.h"
+#include "support/OddNames.h"
 #include "support/TestEntry.h"
 #include "support/TestRun.h"
 
@@ -9,27 +10,8 @@
 #include <unistd.h>
 
 using namespace dravolin;
+using test::oddNames;
 using test::TestRun;
-
-namespace {
-
-// Every name here is one that the file system allows.
-const QList<QByteArray> oddNames = {"quote\"s",
-                                    "apostrophe's",
-                                    "$HOME",
-                                    "`id`",
-                                    "back\\slash",
-                                    "line\nbreak",
-                                    "-nb",
-                                    "*",
-                                    " ",
-                                    "Latin-1 \xFC",
-                                    "cut \xE2\x82",
-                                    "\xEF\xBB\xBFmark",
-                                    "\xF0\x9F\x98\x80",
-                                    "%1 %s"};
-
-} // namespace
 
 class TestFolderTree : public QObject
 {

@@ -1,19 +1,18 @@
 #include "base/Files.h"
 #include "processing/LutConstruction.h"
+#include "support/ScriptHeader.h"
 #include "support/TestEntry.h"
 #include "support/TestRun.h"
 
 #include <QTest>
 
 using namespace dravolin;
+using test::header;
 using test::LogCatcher;
 using test::TestRun;
 
 namespace {
 
-const QString header =
-    QStringLiteral("#!/bin/sh\n#This is a temporary file created by Dravolin. If you are reading "
-                   "this, the file is garbage that can safely be deleted.\n");
 const QString filter = QStringLiteral("| awk -F [][] '{print $2}' ");
 const QString tag = QStringLiteral("0010,1000");
 constexpr qsizetype countedSuffix = 41; // of "| awk -F [][] '{print $2}' >>.noxTemp.out"
