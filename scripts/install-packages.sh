@@ -18,7 +18,7 @@ packages_of() {
             libqt6dbus6 xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core ;;
-        test) echo python3 dcmtk dicom3tools libgmp-dev clang-format clang-tidy ;;
+        test) echo python3 dcmtk dicom3tools parallel libgmp-dev clang-format clang-tidy ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
         *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package)" >&2; exit 2 ;;
     esac
