@@ -82,8 +82,9 @@ void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
     for (PlannedCase *found : cases) {
         PlannedCase &planned = *found;
         listSource(planned);
+        const QString folder = planned.sourceFolder();
         for (const PlannedFile &file : planned.files)
-            paths.append(joinPath(planned.sourceFolder(), file.path));
+            paths.append(joinPath(folder, file.path));
     }
     std::vector<ObjectFacts> facts(static_cast<size_t>(paths.size()));
     workThrough(
