@@ -8,6 +8,7 @@
 #   desktop  a screen without a monitor, and what drives a program on it
 #   test     what the tests need beside these
 #   package  what makes and checks the Debian package
+#   bare     what tries it on a Debian of its own
 set -eu
 
 packages_of() {
@@ -18,11 +19,12 @@ packages_of() {
             libqt6dbus6 qt6-translations-l10n xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
-            pcmanfm libatk-adaptor libgail-common adwaita-icon-theme ;;
+            pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
         test) echo python3 dcmtk dicom3tools libgmp-dev clang-format clang-tidy qt6-translations-l10n \
             fonts-noto-cjk sway grim qt6-wayland ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package)" >&2; exit 2 ;;
+        bare) echo debootstrap libgtk-3-bin wmctrl ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package, bare)" >&2; exit 2 ;;
     esac
 }
 

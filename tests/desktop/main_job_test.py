@@ -13,17 +13,16 @@ import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "desktop"))
+from failures import run_tests  # noqa: E402
 from outside import table_job  # noqa: E402
 from outside.configuration import asked_for, read_rules  # noqa: E402
 from outside.controls import Role  # noqa: E402
 from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge  # noqa: E402
-from outside.program import (DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program,  # noqa: E402
-                             take_picture)
+from outside.program import DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program  # noqa: E402
 from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
 from outside.waiting import wait_until  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
-PICTURES = pathlib.Path()
 ROOT = "2.25.271828182845904523536028747135"
 GENERATE = "Generate new instance UIDs"
 GENERATE_ONLY = "Only generate new instance UIDs"
@@ -42,21 +41,6 @@ while [ ! -e "$here/go" ]; do sleep 0.05; done
 def contents(folder):
     """Every path of the tree with its bytes; a folder has none."""
     return {path.relative_to(folder): path.read_bytes() if path.is_file() else None for path in folder.rglob("*")}
-
-
-class ResultWithPictures(unittest.TextTestResult):
-    """Takes a picture as soon as a test fails, while the program is still on the screen."""
-
-    def addFailure(self, test, err):
-        self.failed(test)
-        super().addFailure(test, err)
-
-    def addError(self, test, err):
-        self.failed(test)
-        super().addError(test, err)
-
-    def failed(self, test):
-        take_picture(PICTURES / (test.id().rpartition(".")[2] + ".png"))
 
 
 class MainJob(unittest.TestCase):
@@ -239,5 +223,5 @@ class MainJob(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    EXECUTABLE, PICTURES = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
-    unittest.main(argv=sys.argv[:1], testRunner=unittest.TextTestRunner(verbosity=2, resultclass=ResultWithPictures))
+    EXECUTABLE = pathlib.Path(sys.argv[1]).resolve()
+    run_tests(sys.argv[2])
