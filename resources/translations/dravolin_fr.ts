@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Off: each original stays as NAME.bak, with the patient&apos;s name in it.</source>
-        <translation>Désactivé : chaque original reste sous NOM.bak, avec le nom du patient.</translation>
+        <translation>Désactivé : chaque original reste sous NOM.bak, avec le nom du patient.</translation>
     </message>
     <message>
         <source>Describe the case</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Becomes the Patient ID and the end of the Study Instance UID; digits only</source>
-        <translation>Devient l&apos;ID du patient et la fin du Study Instance UID ; chiffres uniquement</translation>
+        <translation>Devient l&apos;ID du patient et la fin du Study Instance UID ; chiffres uniquement</translation>
     </message>
     <message>
         <source>Digits</source>
@@ -127,11 +127,11 @@
     </message>
     <message>
         <source>Patient ID; empty erases it</source>
-        <translation>ID du patient ; vide l&apos;efface</translation>
+        <translation>ID du patient ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>Patient&apos;s Name; empty erases it</source>
-        <translation>Nom du patient ; vide l&apos;efface</translation>
+        <translation>Nom du patient ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>&amp;Keywords</source>
@@ -151,11 +151,11 @@
     </message>
     <message>
         <source>Study Comments; empty erases them</source>
-        <translation>Commentaire de l&apos;examen ; vide l&apos;efface</translation>
+        <translation>Commentaire de l&apos;examen ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>Accession Number; empty erases it</source>
-        <translation>Numéro d&apos;accession ; vide l&apos;efface</translation>
+        <translation>Numéro d&apos;accession ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>&amp;UID root</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>The Study Instance UID begins with it: 1.2. or 2.25. and at least 20 digits</source>
-        <translation>Le Study Instance UID commence par elle : 1.2. ou 2.25. et au moins 20 chiffres</translation>
+        <translation>Le Study Instance UID commence par elle : 1.2. ou 2.25. et au moins 20 chiffres</translation>
     </message>
     <message>
         <source>Gen&amp;erate root</source>
@@ -257,19 +257,19 @@ Table de correspondance construite. Fichier placé sur le bureau.</translation>
 LUT tag propagated to %1 file%2.
 Skipped %3 DICOM file%4.</source>
         <translation>
-            <numerusform>Terminé !
+            <numerusform>Terminé !
 Table de correspondance appliquée à %1 fichier.
-Fichiers DICOM ignorés : %3.</numerusform>
-            <numerusform>Terminé !
+Fichiers DICOM ignorés : %3.</numerusform>
+            <numerusform>Terminé !
 Table de correspondance appliquée à %1 fichiers.
-Fichiers DICOM ignorés : %3.</numerusform>
+Fichiers DICOM ignorés : %3.</numerusform>
         </translation>
     </message>
     <message>
         <source>
 Done!</source>
         <translation>
-Terminé !</translation>
+Terminé !</translation>
     </message>
     <message numerus="yes">
         <source>
@@ -314,13 +314,13 @@ Skipped %3 DICOM file%4.
             <numerusform>
 
 Table de correspondance appliquée à %1 fichier.
-Fichiers DICOM ignorés : %3.
+Fichiers DICOM ignorés : %3.
 
 </numerusform>
             <numerusform>
 
 Table de correspondance appliquée à %1 fichiers.
-Fichiers DICOM ignorés : %3.
+Fichiers DICOM ignorés : %3.
 
 </numerusform>
         </translation>
@@ -329,8 +329,8 @@ Fichiers DICOM ignorés : %3.
         <source>Mind you: DICOMDIR files were found.
 They do not contain DICOM tags to anonymize but still contain PHI:
 </source>
-        <translation>Attention : des fichiers DICOMDIR ont été trouvés.
-Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des données de patients :
+        <translation>Attention : des fichiers DICOMDIR ont été trouvés.
+Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des données de patients :
 </translation>
     </message>
     <message>
@@ -363,7 +363,7 @@ Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des donn�
     </message>
     <message>
         <source>Reverting to default anonymization config from &apos;DefaultAnonymizationConfiguration.txt&apos;from the Application Bundle.</source>
-        <translation>La configuration d&apos;anonymisation par défaut « DefaultAnonymizationConfiguration.txt » fournie avec l&apos;application est utilisée.</translation>
+        <translation>La configuration d&apos;anonymisation par défaut « DefaultAnonymizationConfiguration.txt » fournie avec l&apos;application est utilisée.</translation>
     </message>
     <message>
         <source>
@@ -379,7 +379,7 @@ If not found in any of those places, it reverts to the default configuration, wh
 
 </source>
         <translation>
-L&apos;application cherche « AnonymizationConfiguration.txt » à 4 emplacements, dans cet ordre :
+L&apos;application cherche « AnonymizationConfiguration.txt » à 4 emplacements, dans cet ordre :
 
 1. dans l&apos;application elle-même
 2. sur le bureau
@@ -410,7 +410,7 @@ S&apos;il n&apos;est à aucun de ces emplacements, la configuration par défaut 
 Saving a copy of the default Configuration to the Desktop instead.
 
 </source>
-        <translation>Impossible d&apos;ouvrir ou de créer le dossier de configuration :
+        <translation>Impossible d&apos;ouvrir ou de créer le dossier de configuration :
 %1
 
 Une copie de la configuration par défaut est enregistrée à la place sur le bureau.
@@ -423,7 +423,7 @@ Une copie de la configuration par défaut est enregistrée à la place sur le bu
     </message>
     <message>
         <source>Open the web site %1 in your web browser?</source>
-        <translation>Ouvrir le site web %1 dans votre navigateur ?</translation>
+        <translation>Ouvrir le site web %1 dans votre navigateur ?</translation>
     </message>
     <message>
         <source>Yes, sure</source>
@@ -500,14 +500,14 @@ Selected LUT: %1%2
 
 </source>
         <translation>
-Table de correspondance choisie : %1%2
+Table de correspondance choisie : %1%2
 
 
 </translation>
     </message>
     <message>
         <source>Your configuration file provided no tags to anonymize!</source>
-        <translation>Votre fichier de configuration n&apos;indique aucun attribut à anonymiser !</translation>
+        <translation>Votre fichier de configuration n&apos;indique aucun attribut à anonymiser !</translation>
     </message>
     <message>
         <source>
@@ -516,7 +516,7 @@ Path: %1
 
 </source>
         <translation>
-Chemin : %1
+Chemin : %1
 
 
 </translation>
@@ -536,11 +536,11 @@ If this enclosing folder contains subfolders that should not be anonymized, cons
 
 Continue with dropped files?
 </source>
-        <translation>Vous avez déposé un grand nombre de fichiers : le traitement est plus rapide si vous déposez le dossier qui les contient.
+        <translation>Vous avez déposé un grand nombre de fichiers : le traitement est plus rapide si vous déposez le dossier qui les contient.
 
 Si ce dossier contient des sous-dossiers à ne pas anonymiser, placez provisoirement les fichiers dans un nouveau dossier et déposez celui-ci.
 
-Continuer avec les fichiers déposés ?
+Continuer avec les fichiers déposés ?
 </translation>
     </message>
     <message>
@@ -549,7 +549,7 @@ Continuer avec les fichiers déposés ?
     </message>
     <message>
         <source>Yes, get on with it!</source>
-        <translation>Oui, continuer !</translation>
+        <translation>Oui, continuer !</translation>
     </message>
     <message>
         <source>About to anonymize your data</source>
@@ -557,7 +557,7 @@ Continuer avec les fichiers déposés ?
     </message>
     <message>
         <source>Your source data will be overwritten. Continue?</source>
-        <translation>Vos données sources seront écrasées. Continuer ?</translation>
+        <translation>Vos données sources seront écrasées. Continuer ?</translation>
     </message>
     <message>
         <source>No, Cancel</source>
@@ -580,12 +580,12 @@ Only digits and &apos;.&apos; are allowed, and the total maximum length is 64 ch
         <translation>L&apos;identifiant du cas et la racine UID donneraient ensemble un Study Instance UID non valide.
 Ce n&apos;est pas autorisé.
 
-Seuls les chiffres et « . » sont autorisés, pour une longueur totale de 64 caractères au plus.
+Seuls les chiffres et « . » sont autorisés, pour une longueur totale de 64 caractères au plus.
 </translation>
     </message>
     <message>
         <source>Ran out of file handles!</source>
-        <translation>Plus aucun descripteur de fichier disponible !</translation>
+        <translation>Plus aucun descripteur de fichier disponible !</translation>
     </message>
     <message>
         <source>Please try and process your data in slightly smaller batches.
@@ -597,7 +597,7 @@ Cela n&apos;aurait cependant pas dû se produire. Si cela se reproduit, merci de
     </message>
     <message>
         <source>Your configuration file provided no tags matching the selected LUT!</source>
-        <translation>Votre fichier de configuration n&apos;indique aucun attribut correspondant à la table de correspondance choisie !</translation>
+        <translation>Votre fichier de configuration n&apos;indique aucun attribut correspondant à la table de correspondance choisie !</translation>
     </message>
     <message>
         <source>
@@ -606,7 +606,7 @@ Selected LUT: %1
 
 </source>
         <translation>
-Table de correspondance choisie : %1
+Table de correspondance choisie : %1
 
 
 </translation>
@@ -643,7 +643,7 @@ so you can continue to use your computer
 (stop watching this).</source>
         <translation>Le traitement peut prendre *très* longtemps…
 
-Il s&apos;exécute en arrière-plan :
+Il s&apos;exécute en arrière-plan :
 vous pouvez continuer à utiliser votre ordinateur
 (inutile de rester devant).</translation>
     </message>
