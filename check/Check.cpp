@@ -151,7 +151,7 @@ private:
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
-                return harvester.harvest(joinPath(m_trees.originals.root, files[index]));
+                return harvester.harvest(loadFile(joinPath(m_trees.originals.root, files[index])));
             };
         };
         inOrder<HarvestedFile>(

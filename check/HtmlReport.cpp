@@ -27,7 +27,7 @@ void addVerdict(HtmlPage &page, const CheckReport &report, const ReportedCall &c
                            .arg(nameOf(call.atLeast)));
 }
 
-void addWhat(HtmlPage &page, const CheckReport &report, const ReportedCall &call)
+void addWhat(HtmlPage &page, const CheckReport &report)
 {
     page.heading(Texts::tr("What was checked"));
     page.table(
@@ -47,12 +47,24 @@ void addWhat(HtmlPage &page, const CheckReport &report, const ReportedCall &call
         "the result at every level, in preambles, in bytes behind the end, in files that are no "
         "DICOM object, and in the names of files and folders: names of persons by their parts in "
         "any order and spelling, identifiers and UIDs as whole words, dates in the usual forms."));
+}
+
+void addWhatNot(HtmlPage &page, const CheckReport &report, const ReportedCall &call)
+{
     page.heading(Texts::tr("What was not checked"));
-    page.paragraph(call.options.pixels
-                       ? Texts::tr("What pixels show, and what compressed or encrypted bytes hold.")
-                       : Texts::tr("Pixel data, and what compressed or encrypted bytes hold."));
-    page.paragraph(Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
-                       .arg(report.values->tooShort()));
+    page.paragraph(call.options.pixels ? Texts::tr("What pixels show; their bytes were searched.")
+                                       : Texts::tr("Pixel data, neither its bytes nor what it shows."));
+    page.paragraph(Texts::tr("What compressed or encrypted bytes hold, and what links lead to."));
+    page.paragraph(Texts::tr(
+        "Not searched for: times of day without fractions of a second; ages, sizes, weights and sex; dates "
+        "up "
+        "to 1900-01-01; registered UIDs and coded terms; common words alone as a description; what programs "
+        "write in the place of a value, such as \"Anonymized\"; counters in the names of files; and what the "
+        "originals hold in pixel data or in bytes that are no text."));
+    if (call.options.rules)
+        page.paragraph(Texts::tr("Not searched for either: values that the configuration itself sets."));
+    page.paragraph(
+        Texts::tr("Values that were too short to be searched for: %1.").arg(report.values->tooShort()));
 }
 
 void addUnchecked(HtmlPage &page, const CheckReport &report)
@@ -159,7 +171,8 @@ QString htmlReport(const CheckReport &report, const ReportedCall &call,
 {
     HtmlPage page;
     addVerdict(page, report, call);
-    addWhat(page, report, call);
+    addWhat(page, report);
+    addWhatNot(page, report, call);
     addUnchecked(page, report);
     addGroups(page, report);
     addFindings(page, findings);

@@ -31,7 +31,7 @@ private:
     void searchElement(const Element &element, SearchedFile &result);
     void searchBytes(QByteArrayView bytes, const Place &place, const CharacterSets &sets,
                      QList<Finding> &findings);
-    void searchPiece(QByteArrayView bytes, const CharacterSets &sets);
+    void searchPiece(QByteArrayView bytes, const QByteArray &escapes, const CharacterSets &sets);
     void searchText(QStringView text, TextKind kind);
     void takeMatches(const Place &place, QList<Finding> &findings);
 

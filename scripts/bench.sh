@@ -22,5 +22,6 @@ run bench_memory
 run bench_analysis
 run bench_lut
 run bench_configuration
+run bench_run
 run bench_bigint
 exit $result
