@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Progression</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Guide, raccourcis, versions</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>Afficher le &amp;journal</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Affiche ce que les outils ont signalé lors du dernier traitement qui avait quelque chose à signaler</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>ce dossier : %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ Une copie de la configuration par défaut est enregistrée à la place sur le bu
         <translation>Aucune table de correspondance trouvée</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Une table est un fichier nommé AnonymizationLUT_NAME.txt, sur le bureau ou dans le dossier de configuration</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Sans table de correspondance</translation>
     </message>
@@ -658,6 +674,159 @@ Traitement en cours… %1/%2 dossiers</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Application de la table de correspondance… %1/%2 dossiers</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>introuvable</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>À propos de Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Le guide de l&apos;utilisateur n&apos;est pas installé.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Outils, images et configuration par défaut :</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>choisir un dossier au lieu de le déposer</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>afficher le journal du dernier traitement</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>quitter</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt et une lettre soulignée : aller à ce champ ou changer cette case</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>Dans le journal, %1 : rechercher, %2 : fermer</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Ce qui est modifié dans les fichiers</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Une table est un fichier nommé AnonymizationLUT_NAME.txt dans
+%1
+ou
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Nouvelles valeurs d&apos;un attribut</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Traitement en cours. Un autre dépôt serait traité en parallèle.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Aucune valeur trouvée, aucun fichier modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 valeur trouvée, aucun fichier modifié</numerusform>
+            <numerusform>%1 valeurs trouvées, aucun fichier modifié</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Aucun fichier trouvé</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Aucun fichier modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 fichier modifié</numerusform>
+            <numerusform>%1 fichiers modifiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 inchangé</numerusform>
+            <numerusform>%1 inchangés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 laissé de côté</numerusform>
+            <numerusform>%1 laissés de côté</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>dans %1 dossier</numerusform>
+            <numerusform>dans %1 dossiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID du patient ; vide l&apos;efface</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Trop long avec la racine</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Chiffres uniquement</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Refusé</translation>
     </message>
 </context>
 </TS>

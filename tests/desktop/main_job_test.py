@@ -7,7 +7,6 @@ A failing test leaves a picture of the screen in the picture folder.
 """
 import pathlib
 import shutil
-import stat
 import sys
 import tempfile
 import unittest
@@ -21,6 +20,7 @@ from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepar
 from outside.program import DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program  # noqa: E402
 from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
 from outside.waiting import wait_until  # noqa: E402
+from outside.waiting_tool import copy_with_waiting_tool  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
 ROOT = "2.25.271828182845904523536028747135"
@@ -29,13 +29,6 @@ GENERATE_ONLY = "Only generate new instance UIDs"
 CONSTRUCT = "Construct look-up table"
 BOXES = ("Overwrite source files", CONSTRUCT, GENERATE, GENERATE_ONLY)
 PRIVATE = "0009,1001\n0011,1010\n"
-WAITING_TOOL = """#!/bin/sh
-here="${0%/*}"
-: > "$here/started"
-while [ ! -e "$here/go" ]; do sleep 0.05; done
-"$here/real-dcmodify" "$@"
-: > "$here/finished"
-"""
 
 
 def contents(folder):
@@ -187,7 +180,7 @@ class MainJob(unittest.TestCase):
 
     def test_a_window_closed_in_mid_run_leaves_the_tool_to_finish_its_file(self):
         study = prepare(self.folder)
-        executable = self.copy_with_waiting_tool()
+        executable = copy_with_waiting_tool(EXECUTABLE, self.folder / "program")
         resources = executable.parent / "resources"
         program = self.start(executable)
         program.start_with_default_configuration()
@@ -209,17 +202,6 @@ class MainJob(unittest.TestCase):
         asked = asked_for(default_rules(EXECUTABLE), CASE, ROOT)
         wrong, _ = problems(study.before, study.after, files, asked, new_instances=False)
         self.assertEqual([line for line in wrong if line.startswith("disc/IMAGES/AXIAL")], [])
-
-    def copy_with_waiting_tool(self):
-        """A copy of the program whose dcmodify says when it has started and waits until it may go on."""
-        copy = self.folder / "program"
-        shutil.copytree(EXECUTABLE.parent / "resources", copy / "resources", symlinks=True)
-        shutil.copy2(EXECUTABLE, copy)
-        tool = copy / "resources/dcmodify"
-        tool.rename(tool.with_name("real-dcmodify"))
-        tool.write_text(WAITING_TOOL, encoding="ascii")
-        tool.chmod(tool.stat().st_mode | stat.S_IXUSR)
-        return copy / EXECUTABLE.name
 
 
 if __name__ == "__main__":
