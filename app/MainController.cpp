@@ -37,6 +37,14 @@ void showWholeRoots(QLineEdit &field)
     field.setMinimumWidth(field.fontMetrics().horizontalAdvance(QString(characters, u'0')) + frameAndCaret);
 }
 
+// The screen's server keeps every icon in its full size.
+QIcon smallIcon(const QPixmap &picture)
+{
+    constexpr QSize size(128, 128);
+    return picture.isNull() ? QIcon()
+                            : QIcon(picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
 std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
 {
     auto controls = std::make_unique<Ui::MainWindow>();
@@ -48,7 +56,6 @@ std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
     controls->caseIDIcon->setLabel(controls->caseIDHint);
     controls->horLine->hide();
     controls->progressBar->hide();
-    QGuiApplication::setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
     return controls;
 }
 
@@ -146,6 +153,9 @@ void MainController::initAndShow()
     centerOnScreen(*m_window);
     m_window->show();
     m_controls->dragDropView->setDelegate(this);
+    QTimer::singleShot(0, this, [this] { // the window comes first
+        QGuiApplication::setWindowIcon(smallIcon(m_controls->dragDropView->image()));
+    });
     getLUTpathsAndPopulateButton();
     restoreUidRoot();
     QTimer::singleShot(m_delays.beforeConfigurationScan, this,
