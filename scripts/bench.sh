@@ -23,4 +23,5 @@ run bench_analysis
 run bench_lut
 run bench_configuration
 run bench_bigint
+run bench_check
 exit $result
