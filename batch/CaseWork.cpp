@@ -79,6 +79,7 @@ void CaseWork::beginCase(size_t index)
     const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(index));
     m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
     m_treatments.push_back(treatmentOf(planned));
+    m_sources.push_back(planned.sourceFolder());
     const QByteArray rules = hashOf(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
     SystemError error;
     if (!m_journal.begin(planned.row, rules))
@@ -87,15 +88,19 @@ void CaseWork::beginCase(size_t index)
         fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
     removeTemporaries(planned.row.destination);
     const QHash<QString, FileRecord> known = m_journal.files(planned.row.caseId);
-    QSet<QString> taken;
+    QHash<QString, int> taken;
+    QSet<QString> results;
     for (const PlannedFile &file : planned.files) {
         ++m_progress.allFiles;
-        if (file.isDirectory || !file.problem.isEmpty())
+        if (file.isDirectory || !file.problem.isEmpty()) {
             countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
-        else
-            beginFile(index, file, resultName(file, taken), known.value(file.path));
+        } else {
+            const QString result = resultName(file, taken);
+            results.insert(result);
+            beginFile(index, file, result, known.value(file.path));
+        }
     }
-    removeStale(planned, known, taken);
+    removeStale(planned, known, results);
 }
 
 // What became of files that are no longer in the source, or that now have another name.
@@ -115,14 +120,11 @@ void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, File
 }
 
 // Two objects with one UID get two names; their order is that of the source's paths.
-QString CaseWork::resultName(const PlannedFile &file, QSet<QString> &taken) const
+QString CaseWork::resultName(const PlannedFile &file, QHash<QString, int> &taken) const
 {
     const QString stem = joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance));
-    QString name = stem + QStringLiteral(".dcm");
-    for (int copy = 2; taken.contains(name); ++copy)
-        name = QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
-    taken.insert(name);
-    return name;
+    const int copy = ++taken[stem];
+    return copy == 1 ? stem + QStringLiteral(".dcm") : QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
 }
 
 void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &result,
@@ -193,7 +195,7 @@ void CaseWork::treat(qsizetype number)
     Treated treated;
     treated.task = &task;
     treated.temporary = joinPath(planned.row.destination, temporaryName(number));
-    treated.file = treatFile(joinPath(planned.sourceFolder(), task.file->path), treated.temporary,
+    treated.file = treatFile(joinPath(m_sources[task.ofCase], task.file->path), treated.temporary,
                              m_treatments[task.ofCase]);
     const QMutexLocker locker(&m_mutex);
     m_treated.push_back(std::move(treated));
@@ -222,7 +224,7 @@ void CaseWork::save()
 }
 
 // A result's bytes have to be on the disk before its name is.
-void CaseWork::syncDestinations(const std::vector<Treated> &treated) const
+void CaseWork::syncDestinations(const std::vector<Treated> &treated)
 {
     QSet<QString> folders;
     for (const Treated &one : treated)
@@ -233,12 +235,14 @@ void CaseWork::syncDestinations(const std::vector<Treated> &treated) const
         struct stat attributes = {};
         if (!opened.isOpen() || ::fstat(opened.get(), &attributes) != 0 || synced.contains(attributes.st_dev))
             continue;
-        (void)::syncfs(opened.get());
+        if (::syncfs(opened.get()) != 0)
+            fail(Texts::tr("results in %1 cannot be made safe: %2")
+                     .arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
         synced.insert(attributes.st_dev);
     }
 }
 
-FileRecord CaseWork::nameResult(const Treated &treated) const
+FileRecord CaseWork::nameResult(const Treated &treated)
 {
     const Task &task = *treated.task;
     const QString destination = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row.destination;
@@ -247,7 +251,7 @@ FileRecord CaseWork::nameResult(const Treated &treated) const
         treated.file.hashBefore, treated.file.hashAfter,  treated.file.facts.problem};
     const QString target = joinPath(destination, task.result);
     if (record.problem.isEmpty() &&
-        (!createFolder(parentPath(target)) ||
+        (!makeFolder(parentPath(target)) ||
          std::rename(systemPath(treated.temporary).constData(), systemPath(target).constData()) != 0)) {
         record.problem =
             Texts::tr("cannot be given its name: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
@@ -256,6 +260,16 @@ FileRecord CaseWork::nameResult(const Treated &treated) const
     if (!record.problem.isEmpty())
         record.result.clear();
     return record;
+}
+
+bool CaseWork::makeFolder(const QString &path)
+{
+    if (m_folders.contains(path))
+        return true;
+    if (!createFolder(path))
+        return false;
+    m_folders.insert(path);
+    return true;
 }
 
 void CaseWork::countKnown(size_t index, const FileRecord &record)

@@ -57,13 +57,14 @@ private:
     void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
     void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
                      const QSet<QString> &results);
-    [[nodiscard]] QString resultName(const PlannedFile &file, QSet<QString> &taken) const;
+    [[nodiscard]] QString resultName(const PlannedFile &file, QHash<QString, int> &taken) const;
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
     [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
     void countKnown(size_t index, const FileRecord &record);
     void countTreated(const Treated &treated, const FileRecord &record);
-    [[nodiscard]] FileRecord nameResult(const Treated &treated) const;
-    void syncDestinations(const std::vector<Treated> &treated) const;
+    [[nodiscard]] FileRecord nameResult(const Treated &treated);
+    [[nodiscard]] bool makeFolder(const QString &path);
+    void syncDestinations(const std::vector<Treated> &treated);
     void fail(const QString &text);
 
     const Plan &m_plan;
@@ -71,8 +72,10 @@ private:
     const ProjectKey &m_key;
     Journal &m_journal;
     std::vector<Treatment> m_treatments; // of the cases
+    std::vector<QString> m_sources;      // their folders
     std::vector<Task> m_tasks;
     QHash<QByteArray, QByteArray> m_studies; // new UIDs of the studies that cases hold alone
+    QSet<QString> m_folders;                 // that were made for results
     QList<CaseCounts> m_counts;
     BatchProgress m_progress;
     QString m_failure;

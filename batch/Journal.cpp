@@ -34,6 +34,14 @@ QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const
     return query;
 }
 
+// With other values, without preparing it once more.
+bool runAgain(QSqlQuery &query, const QVariantList &values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(static_cast<int>(i), values.at(i));
+    return query.exec();
+}
+
 } // namespace
 
 std::unique_ptr<Journal> Journal::open(const QString &path, QString *problem)
@@ -100,14 +108,16 @@ bool Journal::add(const QList<QPair<QString, FileRecord>> &filesOfCases,
                   const QHash<QByteArray, QByteArray> &uids)
 {
     bool done = run(QStringLiteral("BEGIN IMMEDIATE"));
+    QSqlQuery query(database());
+    query.prepare(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
     for (const auto &[id, file] : filesOfCases)
-        done = done &&
-               run(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
-                   {id, toBytes(file.path), file.size, file.modified, file.result,
-                    QByteArray::fromHex(file.hashBefore), QByteArray::fromHex(file.hashAfter), file.problem});
+        done = done && runAgain(query, {id, toBytes(file.path), file.size, file.modified, file.result,
+                                        QByteArray::fromHex(file.hashBefore),
+                                        QByteArray::fromHex(file.hashAfter), file.problem});
+    query.prepare(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"));
     for (auto uid = uids.begin(); uid != uids.end(); ++uid)
-        done = done &&
-               run(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"), {uid.key(), uid.value()});
+        done = done && runAgain(query, {uid.key(), uid.value()});
+    query.finish();
     return run(done ? QStringLiteral("COMMIT") : QStringLiteral("ROLLBACK")) && done;
 }
 
