@@ -10,7 +10,7 @@ namespace dravolin {
 
 void QVAppDelegate::applicationDidFinishLaunching()
 {
-    const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
+    const AppPaths paths = AppPaths::forExecutable(AppPaths::ownExecutable());
     startUp(paths);
     m_controller = std::make_unique<MainController>(AppPorts{paths, m_jobs, m_uuids, m_presenter, Delays()});
     QObject::connect(m_controller.get(), &MainController::closed, QCoreApplication::instance(),
