@@ -104,6 +104,13 @@ void LogWindowController::showWithText(const QString &text)
     m_logTextView->moveCursor(QTextCursor::Start); // the first insertion has taken the caret along
 }
 
+void LogWindowController::bringToFront()
+{
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
 void LogWindowController::appendForOneTurn()
 {
     QElapsedTimer timer;

@@ -26,6 +26,9 @@ public:
     // react.
     void showWithText(const QString &text);
 
+    // Shows the window again as it was, above the application's other windows.
+    void bringToFront();
+
     [[nodiscard]] QPlainTextEdit *logTextView() const { return m_logTextView; }
     void setLogTextView(QPlainTextEdit *view) { m_logTextView = view; }
     [[nodiscard]] QWidget *window() const { return m_window.get(); }

@@ -3,13 +3,14 @@
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "batch/CaseChecks.h"
 #include "batch/CaseWork.h"
 #include "batch/Evidence.h"
 #include "batch/ProjectKey.h"
 #include "batch/Workers.h"
 #include "dicom/SourceFile.h"
 
-#include <QCryptographicHash>
+#include <QElapsedTimer>
 
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -93,25 +94,74 @@ private:
     void work(const Plan &plan, const ProjectKey &key)
     {
         CaseWork work(plan, m_options, key, m_journal);
-        m_outcome.nothingToDo = work.open() == 0;
-        workThrough(
-            work.open(), m_options.workers, [&](qsizetype number) { work.treat(number); },
-            [&] { return m_events.stop() || work.hasFailed(); },
-            [&] {
-                work.save();
-                if (m_events.progress)
-                    m_events.progress(work.progress());
-            });
+        const CaseChecks::Events events = {[this](const check::CheckProgress &now) { tellCheck(now); },
+                                           m_events.stop};
+        CaseChecks checks(plan, m_options, m_journal, events);
+        workAndCheck(work, checks);
         m_outcome.cases = work.counts();
-        m_outcome.failure = work.failure();
-        if (m_outcome.failure.isEmpty() && !writeEvidence(plan, m_options, m_journal, m_outcome.cases))
+        m_outcome.findings = checks.findings();
+        m_outcome.failure = work.failure() + checks.failure();
+        m_outcome.nothingToDo = work.open() == 0 && !checks.hasChecked();
+        if (m_events.stop() || !m_outcome.failure.isEmpty())
+            return;
+        if (!writeEvidence({plan, m_options, m_journal, fingerprint(key)}, m_outcome))
             m_outcome.failure = Texts::tr("the evidence in %1 cannot be written").arg(m_options.runFolder);
+    }
+
+    // In rounds of whole cases, so that the check finds their files in the system's memory.
+    void workAndCheck(CaseWork &work, CaseChecks &checks)
+    {
+        const auto isToEnd = [&] { return m_events.stop() || work.hasFailed(); };
+        for (qsizetype from = 0; !isToEnd();) {
+            const qsizetype end = work.roundEnd(from);
+            workThrough(
+                end - from, m_options.workers, [&](qsizetype number) { work.treat(from + number); }, isToEnd,
+                [&] {
+                    work.save();
+                    tell(work.progress());
+                });
+            for (; m_casesDone < work.casesBefore(end) && !isToEnd(); ++m_casesDone)
+                if (!isChecked(checks))
+                    return;
+            if (end == work.open())
+                return;
+            from = end;
+        }
+    }
+
+    bool isChecked(CaseChecks &checks)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        const bool isDone = checks.check(m_casesDone);
+        m_outcome.checkMilliseconds += timer.elapsed();
+        return isDone;
+    }
+
+    void tell(const BatchProgress &progress)
+    {
+        m_progress = progress;
+        m_progress.cases = m_casesDone;
+        if (m_events.progress)
+            m_events.progress(m_progress);
+    }
+
+    void tellCheck(const check::CheckProgress &now) const
+    {
+        BatchProgress progress = m_progress;
+        progress.cases = m_casesDone;
+        progress.checked = now.files;
+        progress.toCheck = now.allFiles;
+        if (m_events.progress)
+            m_events.progress(progress);
     }
 
     const BatchOptions &m_options;
     const BatchEvents &m_events;
     Journal &m_journal;
     BatchOutcome m_outcome;
+    BatchProgress m_progress;
+    qsizetype m_casesDone = 0; // and checked
 };
 
 } // namespace

@@ -23,7 +23,7 @@ struct Column
     bool isUnique = false;
 };
 
-constexpr std::array<Column, 9> columns = {{
+constexpr std::array<Column, 10> columns = {{
     {"source", &CaseRow::source, true, true},
     {"destination", &CaseRow::destination, true, true, true},
     {"case_id", &CaseRow::caseId, true, false, true},
@@ -33,6 +33,7 @@ constexpr std::array<Column, 9> columns = {{
     {"configuration", &CaseRow::configuration, false, true},
     {"table", &CaseRow::table, false, true},
     {"uid_root", &CaseRow::uidRoot},
+    {"identifiers", &CaseRow::identifiers, false, true},
 }};
 
 const Column *columnNamed(const QString &name)

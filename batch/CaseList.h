@@ -28,6 +28,7 @@ struct CaseRow
     QString configuration;
     QString table;
     QString uidRoot;
+    QString identifiers; // a file
 
     bool operator==(const CaseRow &) const = default;
 };

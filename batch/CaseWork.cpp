@@ -64,7 +64,6 @@ CaseWork::CaseWork(const Plan &plan, const BatchOptions &options, const ProjectK
 {
     const auto count = static_cast<size_t>(plan.cases.size());
     m_treatments.reserve(count); // rules are pointed to
-    m_openFiles.resize(count);
     m_counts.resize(plan.cases.size());
     m_progress.allCases = plan.cases.size();
     for (const PlannedCase &planned : plan.cases)
@@ -80,6 +79,7 @@ void CaseWork::beginCase(size_t index)
     const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(index));
     m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
     m_treatments.push_back(treatmentOf(planned));
+    m_sources.push_back(planned.sourceFolder());
     const QByteArray rules = hashOf(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
     SystemError error;
     if (!m_journal.begin(planned.row, rules))
@@ -88,26 +88,43 @@ void CaseWork::beginCase(size_t index)
         fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
     removeTemporaries(planned.row.destination);
     const QHash<QString, FileRecord> known = m_journal.files(planned.row.caseId);
-    QSet<QString> taken;
+    QHash<QString, int> taken;
+    QSet<QString> results;
     for (const PlannedFile &file : planned.files) {
         ++m_progress.allFiles;
-        if (file.isDirectory || !file.problem.isEmpty())
+        if (file.isDirectory || !file.problem.isEmpty()) {
             countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
-        else
-            beginFile(index, file, resultName(file, taken), known.value(file.path));
+        } else {
+            const QString result = resultName(file, taken);
+            results.insert(result);
+            beginFile(index, file, result, known.value(file.path));
+        }
     }
-    m_progress.cases += m_openFiles[index] == 0 ? 1 : 0;
+    removeStale(planned, known, results);
+}
+
+// What became of files that are no longer in the source, or that now have another name.
+void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
+                           const QSet<QString> &results)
+{
+    QSet<QString> paths;
+    for (const PlannedFile &file : planned.files)
+        if (!file.isDirectory && file.problem.isEmpty())
+            paths.insert(file.path);
+    for (const FileRecord &record : known) {
+        if (!record.result.isEmpty() && !results.contains(record.result))
+            removeFile(joinPath(planned.row.destination, record.result));
+        if (!paths.contains(record.path) && !m_journal.remove(planned.row.caseId, record.path))
+            fail(Texts::tr("the journal cannot be written"));
+    }
 }
 
 // Two objects with one UID get two names; their order is that of the source's paths.
-QString CaseWork::resultName(const PlannedFile &file, QSet<QString> &taken) const
+QString CaseWork::resultName(const PlannedFile &file, QHash<QString, int> &taken) const
 {
     const QString stem = joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance));
-    QString name = stem + QStringLiteral(".dcm");
-    for (int copy = 2; taken.contains(name); ++copy)
-        name = QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
-    taken.insert(name);
-    return name;
+    const int copy = ++taken[stem];
+    return copy == 1 ? stem + QStringLiteral(".dcm") : QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
 }
 
 void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &result,
@@ -120,7 +137,27 @@ void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &r
         return;
     }
     m_tasks.push_back({index, &file, result});
-    ++m_openFiles[index];
+}
+
+qsizetype CaseWork::roundEnd(qsizetype begin) const
+{
+    constexpr qsizetype enoughFiles = 2000;
+    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
+    quint64 bytes = 0;
+    auto end = static_cast<size_t>(begin);
+    for (; end < m_tasks.size(); ++end) {
+        const bool isEnough = static_cast<qsizetype>(end) - begin >= enoughFiles || bytes >= enoughBytes;
+        if (isEnough && m_tasks[end].ofCase != m_tasks[end - 1].ofCase)
+            break;
+        bytes += m_tasks[end].file->size;
+    }
+    return static_cast<qsizetype>(end);
+}
+
+qsizetype CaseWork::casesBefore(qsizetype number) const
+{
+    return number < open() ? static_cast<qsizetype>(m_tasks[static_cast<size_t>(number)].ofCase)
+                           : m_plan.cases.size();
 }
 
 Treatment CaseWork::treatmentOf(const PlannedCase &planned)
@@ -158,7 +195,7 @@ void CaseWork::treat(qsizetype number)
     Treated treated;
     treated.task = &task;
     treated.temporary = joinPath(planned.row.destination, temporaryName(number));
-    treated.file = treatFile(joinPath(planned.sourceFolder(), task.file->path), treated.temporary,
+    treated.file = treatFile(joinPath(m_sources[task.ofCase], task.file->path), treated.temporary,
                              m_treatments[task.ofCase]);
     const QMutexLocker locker(&m_mutex);
     m_treated.push_back(std::move(treated));
@@ -187,7 +224,7 @@ void CaseWork::save()
 }
 
 // A result's bytes have to be on the disk before its name is.
-void CaseWork::syncDestinations(const std::vector<Treated> &treated) const
+void CaseWork::syncDestinations(const std::vector<Treated> &treated)
 {
     QSet<QString> folders;
     for (const Treated &one : treated)
@@ -198,12 +235,14 @@ void CaseWork::syncDestinations(const std::vector<Treated> &treated) const
         struct stat attributes = {};
         if (!opened.isOpen() || ::fstat(opened.get(), &attributes) != 0 || synced.contains(attributes.st_dev))
             continue;
-        (void)::syncfs(opened.get());
+        if (::syncfs(opened.get()) != 0)
+            fail(Texts::tr("results in %1 cannot be made safe: %2")
+                     .arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
         synced.insert(attributes.st_dev);
     }
 }
 
-FileRecord CaseWork::nameResult(const Treated &treated) const
+FileRecord CaseWork::nameResult(const Treated &treated)
 {
     const Task &task = *treated.task;
     const QString destination = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row.destination;
@@ -212,7 +251,7 @@ FileRecord CaseWork::nameResult(const Treated &treated) const
         treated.file.hashBefore, treated.file.hashAfter,  treated.file.facts.problem};
     const QString target = joinPath(destination, task.result);
     if (record.problem.isEmpty() &&
-        (!createFolder(parentPath(target)) ||
+        (!makeFolder(parentPath(target)) ||
          std::rename(systemPath(treated.temporary).constData(), systemPath(target).constData()) != 0)) {
         record.problem =
             Texts::tr("cannot be given its name: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
@@ -221,6 +260,16 @@ FileRecord CaseWork::nameResult(const Treated &treated) const
     if (!record.problem.isEmpty())
         record.result.clear();
     return record;
+}
+
+bool CaseWork::makeFolder(const QString &path)
+{
+    if (m_folders.contains(path))
+        return true;
+    if (!createFolder(path))
+        return false;
+    m_folders.insert(path);
+    return true;
 }
 
 void CaseWork::countKnown(size_t index, const FileRecord &record)
@@ -240,7 +289,6 @@ void CaseWork::countTreated(const Treated &treated, const FileRecord &record)
     countKnown(treated.task->ofCase, record);
     m_counts[static_cast<qsizetype>(treated.task->ofCase)].movedToUtf8 += treated.file.movedToUtf8 ? 1 : 0;
     m_progress.bytes += treated.file.sizeBefore;
-    m_progress.cases += --m_openFiles[treated.task->ofCase] == 0 ? 1 : 0;
 }
 
 void CaseWork::fail(const QString &text)

@@ -23,6 +23,11 @@ public:
 
     // The number of files that are to be treated.
     [[nodiscard]] qsizetype open() const { return static_cast<qsizetype>(m_tasks.size()); }
+    // Files are in the order of their cases. Where a round of whole cases ends that begins with this file:
+    // enough of them for all workers, but no more than the system may still have in memory at its end.
+    [[nodiscard]] qsizetype roundEnd(qsizetype begin) const;
+    // How many cases, from the first one on, have all their open files before this one.
+    [[nodiscard]] qsizetype casesBefore(qsizetype number) const;
     // Treats one of them, from 0; any thread. The result has a temporary name afterwards.
     void treat(qsizetype number);
     [[nodiscard]] bool hasFailed() const { return m_failed; }
@@ -50,13 +55,16 @@ private:
 
     void beginCase(size_t index);
     void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
-    [[nodiscard]] QString resultName(const PlannedFile &file, QSet<QString> &taken) const;
+    void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
+                     const QSet<QString> &results);
+    [[nodiscard]] QString resultName(const PlannedFile &file, QHash<QString, int> &taken) const;
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
     [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
     void countKnown(size_t index, const FileRecord &record);
     void countTreated(const Treated &treated, const FileRecord &record);
-    [[nodiscard]] FileRecord nameResult(const Treated &treated) const;
-    void syncDestinations(const std::vector<Treated> &treated) const;
+    [[nodiscard]] FileRecord nameResult(const Treated &treated);
+    [[nodiscard]] bool makeFolder(const QString &path);
+    void syncDestinations(const std::vector<Treated> &treated);
     void fail(const QString &text);
 
     const Plan &m_plan;
@@ -64,9 +72,10 @@ private:
     const ProjectKey &m_key;
     Journal &m_journal;
     std::vector<Treatment> m_treatments; // of the cases
+    std::vector<QString> m_sources;      // their folders
     std::vector<Task> m_tasks;
     QHash<QByteArray, QByteArray> m_studies; // new UIDs of the studies that cases hold alone
-    std::vector<qsizetype> m_openFiles;      // of the cases
+    QSet<QString> m_folders;                 // that were made for results
     QList<CaseCounts> m_counts;
     BatchProgress m_progress;
     QString m_failure;

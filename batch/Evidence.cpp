@@ -2,80 +2,25 @@
 
 #include "base/Files.h"
 #include "base/PathText.h"
-#include "batch/Csv.h"
-#include "dicom/SourceFile.h"
+#include "batch/TableFile.h"
 
 #include <QCryptographicHash>
-#include <QJsonArray>
+#include <QDateTime>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace dravolin {
 
 namespace {
 
-// A file that is written a line at a time and takes its name at the end.
-class TableFile
-{
-public:
-    TableFile(const QString &path, unsigned mode)
-        : m_path(path), m_temporary(path + QStringLiteral(".part")),
-          m_file(::open(systemPath(m_temporary).constData(),
-                        O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, mode))
-    {
-    }
-
-    void add(const QByteArray &bytes)
-    {
-        constexpr qsizetype enough = 65536;
-        m_buffer += bytes;
-        if (m_buffer.size() > enough)
-            flush();
-    }
-    void addLine(const QStringList &values) { add(toBytes(csvLine(values))); }
-
-    // False when any of it could not be written.
-    [[nodiscard]] bool finish()
-    {
-        flush();
-        return m_good && ::fsync(m_file.get()) == 0 &&
-               ::rename(systemPath(m_temporary).constData(), systemPath(m_path).constData()) == 0;
-    }
-
-private:
-    void flush()
-    {
-        const auto size = static_cast<size_t>(m_buffer.size());
-        m_good = m_good && m_file.isOpen() &&
-                 ::write(m_file.get(), m_buffer.constData(), size) == static_cast<ssize_t>(size);
-        m_buffer.clear();
-    }
-
-    QString m_path;
-    QString m_temporary;
-    Descriptor m_file;
-    QByteArray m_buffer;
-    bool m_good = true;
-};
-
-QString hashOfFile(const QString &path)
-{
-    const QByteArray bytes = readBytes(path).value_or(QByteArray());
-    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-}
-
-bool writeFiles(const Plan &plan, const QString &folder, const Journal &journal)
+bool writeFiles(const EvidenceSources &sources, const QString &folder)
 {
     TableFile table(joinPath(folder, QStringLiteral("files.csv")), 0644);
     table.addLine({QStringLiteral("case_id"), QStringLiteral("result"), QStringLiteral("sha256_before"),
                    QStringLiteral("sha256_after")});
-    for (const PlannedCase &planned : plan.cases) {
-        QList<FileRecord> records = journal.files(planned.row.caseId).values();
+    for (const PlannedCase &planned : sources.plan.cases) {
+        QList<FileRecord> records = sources.journal.files(planned.row.caseId).values();
         std::sort(records.begin(), records.end(),
                   [](const FileRecord &one, const FileRecord &other) { return one.result < other.result; });
         for (const FileRecord &record : records)
@@ -121,43 +66,14 @@ bool writeNotDone(const QList<CaseCounts> &counts, const QString &folder)
     return table.finish();
 }
 
-QJsonObject caseObject(const PlannedCase &planned, const CaseCounts &counts, const BatchOptions &options)
+bool writeReports(QJsonObject report, const QString &folder)
 {
-    const CaseRow &row = planned.row;
-    QJsonObject object = {
-        {QStringLiteral("case_id"), row.caseId},
-        {QStringLiteral("destination"), row.destination},
-        {QStringLiteral("configuration_sha256"),
-         hashOfFile(row.configuration.isEmpty() ? options.defaultConfiguration : row.configuration)},
-        {QStringLiteral("done"), counts.done},
-        {QStringLiteral("not_done"), counts.notDone.size()},
-        {QStringLiteral("dicomdirs_left_out"), counts.directories},
-        {QStringLiteral("studies"), planned.studies.size()},
-        {QStringLiteral("patients"), planned.patients.size()},
-    };
-    if (!row.table.isEmpty())
-        object.insert(QStringLiteral("table_sha256"), hashOfFile(row.table));
-    return object;
-}
-
-bool writeReport(const Plan &plan, const BatchOptions &options, const QList<CaseCounts> &counts,
-                 const QString &folder)
-{
-    QJsonArray cases;
-    for (qsizetype i = 0; i < counts.size(); ++i)
-        cases.append(caseObject(plan.cases.at(i), counts.at(i), options));
-    const QJsonObject report = {
-        {QStringLiteral("program"), QStringLiteral("Dravolin ") + QLatin1String(DRAVOLIN_VERSION)},
-        {QStringLiteral("list_sha256"), hashOfFile(options.list)},
-        {QStringLiteral("private_attributes_removed"), options.removePrivate},
-        {QStringLiteral("private_attributes_kept"), options.keptPrivate.size()},
-        {QStringLiteral("uids_mapped"), options.mapUids},
-        {QStringLiteral("secret"), secretFolder(options.runFolder)},
-        {QStringLiteral("cases"), cases},
-    };
-    TableFile file(joinPath(folder, QStringLiteral("report.json")), 0644);
-    file.add(QJsonDocument(report).toJson());
-    return file.finish();
+    report.insert(QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate));
+    TableFile json(joinPath(folder, QStringLiteral("report.json")), 0644);
+    json.add(QJsonDocument(report).toJson());
+    TableFile page(joinPath(folder, QStringLiteral("report.html")), 0644);
+    page.add(toBytes(evidencePage(report)));
+    return json.finish() && page.finish();
 }
 
 } // namespace
@@ -172,14 +88,21 @@ QString evidenceFolder(const QString &runFolder)
     return joinPath(runFolder, QStringLiteral("evidence"));
 }
 
-bool writeEvidence(const Plan &plan, const BatchOptions &options, const Journal &journal,
-                   const QList<CaseCounts> &counts)
+bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
 {
-    const QString evidence = evidenceFolder(options.runFolder);
-    const QString secret = secretFolder(options.runFolder);
-    return createFolder(evidence) && writeFiles(plan, evidence, journal) &&
-           writeReport(plan, options, counts, evidence) && writeUidMap(secret, journal) &&
-           writePatientMap(plan, secret) && writeNotDone(counts, secret);
+    const QString evidence = evidenceFolder(sources.options.runFolder);
+    const QString secret = secretFolder(sources.options.runFolder);
+    const QString written = QStringLiteral("evidence"); // a hash of the report that is there
+    const QJsonObject report = evidenceReport(sources, outcome);
+    const QByteArray hash =
+        QCryptographicHash::hash(QJsonDocument(report).toJson(), QCryptographicHash::Sha256);
+    if (outcome.nothingToDo && sources.journal.value(written) == hash &&
+        pathExists(joinPath(evidence, QStringLiteral("report.html"))))
+        return true;
+    return sources.journal.setValue(written, {}) && createFolder(evidence) && writeFiles(sources, evidence) &&
+           writeReports(report, evidence) && writeUidMap(secret, sources.journal) &&
+           writePatientMap(sources.plan, secret) && writeNotDone(outcome.cases, secret) &&
+           sources.journal.setValue(written, hash);
 }
 
 } // namespace dravolin

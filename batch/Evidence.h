@@ -2,6 +2,9 @@
 
 #include "batch/BatchRun.h"
 
+#include <QByteArray>
+#include <QJsonObject>
+
 // What a run leaves behind about itself.
 namespace dravolin {
 
@@ -10,11 +13,26 @@ namespace dravolin {
 // The folder in a run's folder that can be passed on.
 [[nodiscard]] QString evidenceFolder(const QString &runFolder);
 
-// Writes, over those of an earlier call: evidence/report.json, what was done by which rules, with counts a
-// case; evidence/files.csv, every result with the hashes of source and result; secret/uid_map.csv and
-// secret/patient_map.csv with the columns id_old and id_new; secret/not_done.csv, the files without a result
-// by their names in the source. False when something could not be written.
-[[nodiscard]] bool writeEvidence(const Plan &plan, const BatchOptions &options, const Journal &journal,
-                                 const QList<CaseCounts> &counts);
+struct EvidenceSources
+{
+    const Plan &plan;
+    const BatchOptions &options;
+    Journal &journal;
+    QByteArray keyFingerprint; // tells keys apart, and nothing else about them
+};
+
+// Writes, over those of an earlier call: evidence/report.json and report.html, what was done by which rules
+// and what the check says, with counts a case; evidence/files.csv, every result with the hashes of source and
+// result; secret/uid_map.csv and secret/patient_map.csv with the columns id_old and id_new;
+// secret/not_done.csv, the files without a result by their names in the source. Nothing is written when it
+// would say the same again. False when something could not be written.
+[[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
+
+// report.json, without the time.
+[[nodiscard]] QJsonObject evidenceReport(const EvidenceSources &sources, const BatchOutcome &outcome);
+// What report.json says together: whether everything is done and nothing was found.
+[[nodiscard]] check::Verdict verdictOf(const QJsonObject &report);
+// report.html, from report.json.
+[[nodiscard]] QString evidencePage(const QJsonObject &report);
 
 } // namespace dravolin

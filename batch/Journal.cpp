@@ -20,6 +20,7 @@ constexpr const char *schema[] = {
     ("CREATE TABLE IF NOT EXISTS files (id TEXT, path BLOB, size INTEGER, modified INTEGER, result TEXT, "
      "before BLOB, after BLOB, problem TEXT, PRIMARY KEY (id, path)) WITHOUT ROWID"),
     "CREATE TABLE IF NOT EXISTS uids (old BLOB PRIMARY KEY, new BLOB) WITHOUT ROWID",
+    "CREATE TABLE IF NOT EXISTS checks (id TEXT PRIMARY KEY, subject BLOB, findings BLOB) WITHOUT ROWID",
 };
 
 QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const QVariantList &values)
@@ -31,6 +32,14 @@ QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const
         query.addBindValue(value);
     query.exec();
     return query;
+}
+
+// With other values, without preparing it once more.
+bool runAgain(QSqlQuery &query, const QVariantList &values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(static_cast<int>(i), values.at(i));
+    return query.exec();
 }
 
 } // namespace
@@ -69,9 +78,14 @@ bool Journal::begin(const CaseRow &row, const QByteArray &rules)
         prepared(database(), QStringLiteral("SELECT rules FROM cases WHERE id = ?"), {row.caseId});
     const bool same = query.next() && query.value(0).toByteArray() == rules;
     query.finish();
-    return same || (run(QStringLiteral("DELETE FROM files WHERE id = ?"), {row.caseId}) &&
+    return same || (run(QStringLiteral("UPDATE files SET modified = -1 WHERE id = ?"), {row.caseId}) &&
                     run(QStringLiteral("INSERT OR REPLACE INTO cases VALUES (?, ?, ?)"),
                         {row.caseId, toBytes(row.destination), rules}));
+}
+
+bool Journal::remove(const QString &caseId, const QString &path)
+{
+    return run(QStringLiteral("DELETE FROM files WHERE id = ? AND path = ?"), {caseId, toBytes(path)});
 }
 
 QHash<QString, FileRecord> Journal::files(const QString &caseId) const
@@ -94,14 +108,16 @@ bool Journal::add(const QList<QPair<QString, FileRecord>> &filesOfCases,
                   const QHash<QByteArray, QByteArray> &uids)
 {
     bool done = run(QStringLiteral("BEGIN IMMEDIATE"));
+    QSqlQuery query(database());
+    query.prepare(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
     for (const auto &[id, file] : filesOfCases)
-        done = done &&
-               run(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
-                   {id, toBytes(file.path), file.size, file.modified, file.result,
-                    QByteArray::fromHex(file.hashBefore), QByteArray::fromHex(file.hashAfter), file.problem});
+        done = done && runAgain(query, {id, toBytes(file.path), file.size, file.modified, file.result,
+                                        QByteArray::fromHex(file.hashBefore),
+                                        QByteArray::fromHex(file.hashAfter), file.problem});
+    query.prepare(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"));
     for (auto uid = uids.begin(); uid != uids.end(); ++uid)
-        done = done &&
-               run(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"), {uid.key(), uid.value()});
+        done = done && runAgain(query, {uid.key(), uid.value()});
+    query.finish();
     return run(done ? QStringLiteral("COMMIT") : QStringLiteral("ROLLBACK")) && done;
 }
 
@@ -111,6 +127,19 @@ void Journal::forEachUid(
     QSqlQuery query = prepared(database(), QStringLiteral("SELECT old, new FROM uids ORDER BY old"), {});
     while (query.next())
         visit(query.value(0).toByteArray(), query.value(1).toByteArray());
+}
+
+QByteArray Journal::checked(const QString &caseId, const QByteArray &subject) const
+{
+    QSqlQuery query =
+        prepared(database(), QStringLiteral("SELECT findings FROM checks WHERE id = ? AND subject = ?"),
+                 {caseId, subject});
+    return query.next() ? query.value(0).toByteArray() : QByteArray();
+}
+
+bool Journal::setChecked(const QString &caseId, const QByteArray &subject, const QByteArray &findings)
+{
+    return run(QStringLiteral("INSERT OR REPLACE INTO checks VALUES (?, ?, ?)"), {caseId, subject, findings});
 }
 
 QByteArray Journal::value(const QString &name) const

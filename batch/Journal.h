@@ -42,8 +42,10 @@ public:
     // Whether a case with that id and destination was begun.
     [[nodiscard]] bool knows(const CaseRow &row) const;
     // Begins a case, or goes on with it. With other rules than last time, said by their hash, its files count
-    // as not done.
+    // as to be done anew.
     bool begin(const CaseRow &row, const QByteArray &rules);
+    // Takes a file out.
+    bool remove(const QString &caseId, const QString &path);
     // The files of a case, by path.
     [[nodiscard]] QHash<QString, FileRecord> files(const QString &caseId) const;
 
@@ -54,6 +56,10 @@ public:
     // Calls `visit` with every new UID and its old one.
     void
     forEachUid(const std::function<void(const QByteArray &old, const QByteArray &replacement)> &visit) const;
+
+    // What came of the check of a case, when it was one of the same subject; "" else.
+    [[nodiscard]] QByteArray checked(const QString &caseId, const QByteArray &subject) const;
+    bool setChecked(const QString &caseId, const QByteArray &subject, const QByteArray &findings);
 
     // A value that the run keeps; "" when it was never set.
     [[nodiscard]] QByteArray value(const QString &name) const;

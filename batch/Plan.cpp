@@ -4,6 +4,7 @@
 #include "base/NOXUtils.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "check/Check.h"
 #include "identifiers/UidRoot.h"
 #include "processing/Edits.h"
 
@@ -30,6 +31,8 @@ QString overlap(const CaseRow &row, const QList<CaseRow> &rows, const QString &r
 {
     if (isInside(runFolder, row.source))
         return Texts::tr("the source holds the run's own folder");
+    if (isInside(runFolder, row.destination) || isInside(row.destination, runFolder))
+        return Texts::tr("the destination and the run's own folder lie one inside the other");
     for (const CaseRow &other : rows) {
         if (isInside(row.destination, other.source) || isInside(other.source, row.destination))
             return Texts::tr("the destination and the source of line %1 lie one inside the other")
@@ -61,6 +64,7 @@ public:
         judgeRoot();
         judgeConfiguration();
         judgeTable();
+        judgeIdentifiers();
         return m_problems;
     }
 
@@ -126,6 +130,18 @@ private:
             m_case.table = *table;
     }
 
+    void judgeIdentifiers()
+    {
+        if (m_case.row.identifiers.isEmpty())
+            return;
+        const std::optional<QString> text = readText(m_case.row.identifiers);
+        if (text)
+            m_case.identifiers = check::identifiersIn(*text);
+        else
+            m_problems.append(Texts::tr("the list of identifiers %1 cannot be read, or is not UTF-8")
+                                  .arg(m_case.row.identifiers));
+    }
+
     const BatchOptions &m_options;
     PlannedCase &m_case;
     QStringList m_problems;
@@ -134,11 +150,6 @@ private:
 bool isInUse(const QString &destination)
 {
     return pathExists(destination) && (!isFolder(destination) || !listNames(destination).isEmpty());
-}
-
-QString deidentificationMethod()
-{
-    return QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
 }
 
 } // namespace
@@ -168,6 +179,11 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     std::stable_sort(plan.problems.begin(), plan.problems.end(),
                      [](const ListProblem &one, const ListProblem &other) { return one.line < other.line; });
     return plan;
+}
+
+QString deidentificationMethod()
+{
+    return QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
 }
 
 AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/CaseList.h"
+#include "check/Patterns.h"
 #include "config/ConfigurationFile.h"
 #include "config/LutFile.h"
 #include "dicom/Treatment.h"
@@ -27,6 +28,7 @@ struct BatchOptions
     QSet<QString> keptPrivate; // as in Treatment
     bool mapUids = true;
     int workers = 1;
+    check::Grade atLeast = check::Grade::Possible; // findings below it are told, but decide nothing
 };
 
 struct PlannedFile
@@ -45,6 +47,7 @@ struct PlannedCase
     CaseRow row;
     TagRules configuration;
     LutTable table;
+    QStringList identifiers;  // searched for by the check, too
     QList<PlannedFile> files; // in the order of their paths
     qsizetype folders = 0;
     quint64 bytes = 0;
@@ -67,6 +70,9 @@ struct Plan
 
 // Looks at every file of the sources, several at a time, and fills in what that tells. `stop` ends it early.
 void scanSources(Plan &plan, int workers, const std::function<bool()> &stop);
+
+// What results say about how they were made.
+[[nodiscard]] QString deidentificationMethod();
 
 // The rules of a case, the five fixed attributes and what tells that an object was treated among them.
 // Problems with lines of the configuration are added to `problems`.

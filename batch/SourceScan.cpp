@@ -77,8 +77,9 @@ void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
     QStringList paths;
     for (PlannedCase &planned : plan.cases) {
         listSource(planned);
+        const QString folder = planned.sourceFolder();
         for (const PlannedFile &file : planned.files)
-            paths.append(joinPath(planned.sourceFolder(), file.path));
+            paths.append(joinPath(folder, file.path));
     }
     std::vector<ObjectFacts> facts(static_cast<size_t>(paths.size()));
     workThrough(

@@ -1,5 +1,6 @@
 #include "batch/Workers.h"
 
+#include <QElapsedTimer>
 #include <QSemaphore>
 #include <QThread>
 
@@ -13,7 +14,8 @@ namespace dravolin {
 void workThrough(qsizetype count, int workers, const std::function<void(qsizetype)> &work,
                  const std::function<bool()> &stop, const std::function<void()> &meanwhile)
 {
-    constexpr int pause = 100; // milliseconds
+    constexpr int shortestPause = 25; // milliseconds
+    constexpr int longestPause = 100;
     std::atomic<qsizetype> next = 0;
     QSemaphore finished;
     const auto loop = [&] {
@@ -27,9 +29,15 @@ void workThrough(qsizetype count, int workers, const std::function<void(qsizetyp
         running.emplace_back(QThread::create(loop));
         running.back()->start();
     }
-    while (!finished.tryAcquire(threads, pause))
+    int pause = shortestPause;
+    while (!finished.tryAcquire(threads, pause)) {
+        QElapsedTimer timer;
+        timer.start();
         if (meanwhile)
             meanwhile();
+        // what takes long, such as a slow disk, is to be asked seldom
+        pause = std::clamp(static_cast<int>(4 * timer.elapsed()), shortestPause, longestPause);
+    }
     for (const auto &thread : running)
         thread->wait();
     if (meanwhile)

@@ -2,6 +2,7 @@
 //
 //   bench_lut [ROUNDS]
 #include "Figures.h"
+#include "NobodyThere.h"
 
 #include "app/MainController.h"
 #include "base/Files.h"
@@ -24,6 +25,7 @@
 
 using namespace dravolin;
 using bench::Figures;
+using bench::NobodyThere;
 
 namespace {
 
@@ -119,21 +121,6 @@ double statusBytes(const char *key)
     }
     return 0;
 }
-
-// A host without a user.
-class NobodyThere : public RunHost
-{
-public:
-    Choices choices() override { return {}; }
-    CaseTexts texts() override { return {}; }
-    void setRoot(const RootCheck &) override {}
-    bool ask(Question) override { return false; }
-    void refuse(Refusal, const QString &) override {}
-    void runBegins(const RunBeginning &, std::function<void()>) override {}
-    void progress(const Progress &) override {}
-    void runEnds(const RunJudgement &) override {}
-    void tablesFound(const TitleToPath &) override {}
-};
 
 class Bench
 {

@@ -16,8 +16,10 @@ thread_local std::jmp_buf *guard = nullptr;
 extern "C" [[noreturn]] void __assert_fail(const char *assertion, const char *file, unsigned int line,
                                            const char *function) noexcept
 {
+#ifndef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
     if (guard)
         std::longjmp(*guard, 1);
+#endif
     std::fprintf(stderr, "%s:%u: %s: Assertion `%s' failed.\n", file, line, function, assertion);
     std::abort();
 }

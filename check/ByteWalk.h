@@ -1,5 +1,7 @@
 #pragma once
 
+#include "check/WalkBytes.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -42,6 +44,10 @@ struct Walk
 
     bool hasPreamble = false; // 128 bytes and DICM
     qsizetype dataSet = 0;    // where it begins, behind the meta information
+    Syntax syntax;            // of the data set
+    QByteArray uid;           // the transfer syntax's value as it stands in the file
+    QByteArray meta;          // the meta information's other attributes, without its length
+    Contents metaContents;    // of these
     qsizetype end = 0;        // where the bytes end that were understood; in the file
     Span pixelElement;        // the pixel data of the top level, with tag and length; in the data set's bytes
     Span pixelValue;          // without

@@ -204,6 +204,25 @@ QString CharacterSets::decode(QByteArrayView bytes) const
     return escaped ? decodeWithEscapes(bytes, m_initial) : convert(m_initial, bytes.toByteArray());
 }
 
+QByteArray escapesInForce(QByteArrayView bytes)
+{
+    State state{.initial = ""};
+    const qsizetype first = bytes.indexOf(escapeByte);
+    for (qsizetype at = first < 0 ? bytes.size() : first; at < bytes.size(); ++at) {
+        const Escape *const escape = bytes[at] == escapeByte ? escapeAt(bytes.sliced(at + 1)) : nullptr;
+        if (escape)
+            state.apply(*escape);
+        else if (isDelimiter(bytes[at], state))
+            state = State{.initial = ""};
+    }
+    QByteArray sequences;
+    for (const Escape *escape : {state.low, state.high}) {
+        if (escape)
+            sequences += escapeByte + QByteArray(escape->sequence);
+    }
+    return sequences;
+}
+
 QString decodeGuessing(QByteArrayView bytes)
 {
     if (std::none_of(bytes.cbegin(), bytes.cend(), isHigh))

@@ -29,6 +29,9 @@ private:
     bool m_ofItsOwn = false;
 };
 
+// The escape sequences that are in force behind these bytes: in front of what follows, they make it readable.
+[[nodiscard]] QByteArray escapesInForce(QByteArrayView bytes);
+
 // Bytes of an unknown set: UTF-8 where they are, Latin-1 elsewhere.
 [[nodiscard]] QString decodeGuessing(QByteArrayView bytes);
 

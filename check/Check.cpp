@@ -1,10 +1,14 @@
 #include "check/Check.h"
 
+#include "base/Lines.h"
+#include "base/NOXUtils.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "check/FileTree.h"
 #include "check/Harvest.h"
 #include "check/InOrder.h"
+
+#include <QSet>
 
 #include <algorithm>
 #include <set>
@@ -33,6 +37,12 @@ void moveBackups(Trees &trees)
     trees.results.files.removeIf([](const QString &file) { return file.endsWith(backupSuffix); });
 }
 
+// What the result of an original is called.
+QString resultName(const CheckOptions &options, const QString &file)
+{
+    return options.backups ? file.chopped(backupSuffix.size()) : options.renamed.value(file, file);
+}
+
 Trees listBoth(const CheckOptions &options)
 {
     Trees trees{.originals = {}, .results = listTree(options.result), .originalNames = {}};
@@ -41,7 +51,7 @@ Trees listBoth(const CheckOptions &options)
     else
         trees.originals = listTree(options.originals);
     for (const QString &file : std::as_const(trees.originals.files))
-        trees.originalNames.append(options.backups ? file.chopped(backupSuffix.size()) : file);
+        trees.originalNames.append(resultName(options, file));
     return trees;
 }
 
@@ -50,7 +60,7 @@ class Checking
 public:
     Checking(const CheckOptions &options, const CheckEvents &events)
         : m_options(options), m_events(events), m_trees(listBoth(options)),
-          m_values(std::make_shared<Values>())
+          m_values(std::make_shared<Values>()), m_madeNames(options.renamed.begin(), options.renamed.end())
     {
         if (options.rules)
             m_rules.emplace(*options.rules);
@@ -64,7 +74,8 @@ public:
         prepareValues();
         harvest();
         search();
-        finish();
+        if (!isToEnd())
+            finish();
         return std::move(m_report);
     }
 
@@ -85,6 +96,8 @@ private:
             for (const QString &value : m_rules->values())
                 m_values->leaveOut(value);
         }
+        for (const QString &value : m_options.setValues)
+            m_values->leaveOut(value);
         for (const QString &line : m_options.identifiers)
             m_values->addListed(line);
     }
@@ -110,23 +123,45 @@ private:
         records.push_back(record);
     }
 
+    [[nodiscard]] bool isToEnd() const { return m_events.stop && m_events.stop(); }
+
+    // The name that an original had before it was a backup.
+    [[nodiscard]] QString ownName(qsizetype index) const
+    {
+        return m_options.backups ? m_trees.originalNames[index] : m_trees.originals.files[index];
+    }
+
+    // What of a result's name may tell something.
+    [[nodiscard]] QString toldName(const QString &result) const
+    {
+        return m_madeNames.contains(result) ? QString() : result;
+    }
+
+    void takeValues(qsizetype index, const HarvestedFile &file)
+    {
+        for (const HarvestedValue &value : file.values)
+            if (m_options.uids || value.valueClass != ValueClass::Uid)
+                m_values->add(value.valueClass, value.source, value.text);
+        m_values->addPath(ownName(index));
+    }
+
     void harvest()
     {
         const QStringList &files = m_trees.originals.files;
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
-                return harvester.harvest(joinPath(m_trees.originals.root, files[index]));
+                return harvester.harvest(loadFile(joinPath(m_trees.originals.root, files[index])));
             };
         };
         inOrder<HarvestedFile>(
-            files.size(), m_options.workers, makeWorker, [&](qsizetype index, HarvestedFile &file) {
+            files.size(), m_options.workers, makeWorker,
+            [&](qsizetype index, HarvestedFile &file) {
                 keep(file.record, files[index], UncheckedFile::Side::Original, m_originals);
-                for (const HarvestedValue &value : file.values)
-                    m_values->add(value.valueClass, value.source, value.text);
-                m_values->addPath(m_trees.originalNames[index]);
+                takeValues(index, file);
                 tell(false, file.record.bytes);
-            });
+            },
+            [this] { return isToEnd(); });
     }
 
     void search()
@@ -139,15 +174,18 @@ private:
         };
         const auto makeWorker = [&] {
             return [&, searcher = makeSearcher()](qsizetype index) mutable {
-                return searcher.search(m_trees.results.root, files[index]);
+                return searcher.search(loadFile(joinPath(m_trees.results.root, files[index])),
+                                       toldName(files[index]));
             };
         };
-        inOrder<SearchedFile>(files.size(), m_options.workers, makeWorker,
-                              [&](qsizetype index, SearchedFile &file) {
-                                  keep(file.record, files[index], UncheckedFile::Side::Result, m_results);
-                                  take(files[index], file);
-                                  tell(true, file.record.bytes);
-                              });
+        inOrder<SearchedFile>(
+            files.size(), m_options.workers, makeWorker,
+            [&](qsizetype index, SearchedFile &file) {
+                keep(file.record, files[index], UncheckedFile::Side::Result, m_results);
+                take(files[index], file);
+                tell(true, file.record.bytes);
+            },
+            [this] { return isToEnd(); });
         for (const FileTree::Link &link : m_trees.results.links)
             takeFindings(link.path, makeSearcher().searchLink(link.path, link.target));
     }
@@ -191,6 +229,7 @@ private:
     const CheckEvents &m_events;
     Trees m_trees;
     std::shared_ptr<Values> m_values;
+    QSet<QString> m_madeNames; // of results
     std::optional<Rules> m_rules;
     std::optional<FindingGroups> m_groups;
     std::vector<FileRecord> m_originals;
@@ -211,6 +250,16 @@ bool CheckReport::found(Grade atLeast) const
 bool CheckReport::incomplete() const
 {
     return !unchecked.isEmpty() || !values || values->searched() == 0 || resultFiles.isEmpty();
+}
+
+QStringList identifiersIn(const QString &text)
+{
+    QStringList identifiers;
+    for (const QStringView line : lines(text)) {
+        if (const QString value = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(line); !value.isEmpty())
+            identifiers.append(value);
+    }
+    return identifiers;
 }
 
 CheckReport check(const CheckOptions &options, const CheckEvents &events)

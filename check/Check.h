@@ -6,6 +6,7 @@
 #include "check/Search.h"
 #include "check/Values.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -19,11 +20,16 @@ namespace dravolin::check {
 
 struct CheckOptions
 {
-    QString originals;       // a folder
+    QString originals;       // a folder, or one file
     QString result;          // a folder; with backups the same one
     bool backups = false;    // the originals are the NAME.bak beside the results NAME
     QStringList identifiers; // values to be searched for besides
+    QStringList setValues;   // written by whoever made the result: they tell nothing
+    // What the results of renamed originals are called, by the originals' paths; both relative. These names
+    // were made for the result and tell nothing.
+    QHash<QString, QString> renamed;
     std::optional<TagRules> rules;
+    bool uids = true; // are searched for
     bool pixels = false;
     int workers = 1;
 };
@@ -44,6 +50,8 @@ struct CheckEvents
     // Every finding of one file, in the order of files; `file` is its relative path.
     std::function<void(const QString &file, const QList<Finding> &findings, const Patterns &patterns)>
         findings;
+    // True ends the check before the next file; what it then returns says nothing.
+    std::function<bool()> stop;
 };
 
 // A file that was not checked, or not as a whole.
@@ -84,6 +92,9 @@ struct CheckReport
     // Not everything was checked, or nothing was there to be checked.
     [[nodiscard]] bool incomplete() const;
 };
+
+// The values in a list of identifiers, one a line.
+[[nodiscard]] QStringList identifiersIn(const QString &text);
 
 // Runs the check; returns when it is done. The folders are only read.
 [[nodiscard]] CheckReport check(const CheckOptions &options, const CheckEvents &events);

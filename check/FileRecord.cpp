@@ -8,6 +8,7 @@
 #include <QHashFunctions>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace dravolin::check {
 
@@ -152,13 +153,22 @@ QByteArrayView LoadedFile::pixelData() const
 
 LoadedFile loadFile(const QString &path)
 {
-    LoadedFile file;
     std::optional<QByteArray> bytes = readBytes(path);
-    if (!bytes) {
-        file.record.reason = Texts::tr("it cannot be read, or is larger than 1 GiB");
-        return file;
-    }
-    file.bytes = std::move(*bytes);
+    std::error_code error;
+    const bool isWhole = bytes && static_cast<quint64>(bytes->size()) ==
+                                      std::filesystem::file_size(systemPath(path).toStdString(), error);
+    if (isWhole)
+        return lookAt(std::move(*bytes));
+    LoadedFile file;
+    file.record.reason = bytes ? Texts::tr("it changed while it was read")
+                               : Texts::tr("it cannot be read, or is larger than 1 GiB");
+    return file;
+}
+
+LoadedFile lookAt(QByteArray bytes)
+{
+    LoadedFile file;
+    file.bytes = std::move(bytes);
     file.walk = walk(file.bytes);
     file.record.bytes = static_cast<quint64>(file.bytes.size());
     file.record.content = hashOf(file.bytes);

@@ -37,6 +37,8 @@ struct LoadedFile
 
 // Reads the file at `path`, which is a regular file of at most 1 GiB, and takes the first look at it.
 [[nodiscard]] LoadedFile loadFile(const QString &path);
+// The first look at a file's bytes.
+[[nodiscard]] LoadedFile lookAt(QByteArray bytes);
 
 // Reads the object that it holds, if it holds one; a file that GDCM does not read as a whole becomes Damaged.
 void readLoaded(LoadedFile &file, const ElementVisit &visit);

@@ -1,5 +1,6 @@
 #include "check/FileTree.h"
 
+#include "base/Files.h"
 #include "base/PathText.h"
 
 #include <algorithm>
@@ -51,6 +52,11 @@ void list(FileTree &tree, const QString &folder, QStringList &folders)
 FileTree listTree(const QString &root)
 {
     FileTree tree{.root = root, .files = {}, .links = {}, .others = {}, .unlisted = {}};
+    if (entryKind(root) == EntryKind::File) {
+        tree.root = parentPath(root);
+        tree.files.append(lastPathComponent(root));
+        return tree;
+    }
     QStringList folders = {QString()};
     while (!folders.isEmpty())
         list(tree, folders.takeLast(), folders);

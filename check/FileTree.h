@@ -21,7 +21,8 @@ struct FileTree
     QStringList unlisted; // folders that could not be listed; "" is the root itself
 };
 
-// Lists everything below `root`, which may be a link itself. Any thread; never fails, see `unlisted`.
+// Lists everything below `root`, which may be a link itself. When it is a regular file, that file alone, and
+// the tree's root is its folder. Any thread; never fails, see `unlisted`.
 [[nodiscard]] FileTree listTree(const QString &root);
 
 } // namespace dravolin::check

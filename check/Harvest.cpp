@@ -51,9 +51,8 @@ void Harvester::take(const Element &element, QList<HarvestedValue> &values)
     values.append({*valueClass, element.tag, text});
 }
 
-HarvestedFile Harvester::harvest(const QString &path)
+HarvestedFile Harvester::harvest(LoadedFile file)
 {
-    LoadedFile file = loadFile(path);
     QList<HarvestedValue> values;
     readLoaded(file, [&](const Element &element) { take(element, values); });
     return {file.record, values};

@@ -26,7 +26,7 @@ struct HarvestedFile
 class Harvester
 {
 public:
-    [[nodiscard]] HarvestedFile harvest(const QString &path);
+    [[nodiscard]] HarvestedFile harvest(LoadedFile file);
 
 private:
     void take(const Element &element, QList<HarvestedValue> &values);

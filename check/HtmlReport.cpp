@@ -1,4 +1,5 @@
 #include "base/Texts.h"
+#include "check/HtmlPage.h"
 #include "check/Report.h"
 #include "check/Summary.h"
 
@@ -10,74 +11,23 @@ namespace {
 
 constexpr qsizetype mostPaths = 100;
 
-constexpr char style[] =
-    "body{font-family:sans-serif;max-width:60em;margin:2em auto;padding:0 1em;color:#111}"
-    "table{border-collapse:collapse;width:100%;margin:.5em 0 1.5em}"
-    "th,td{border:1px solid #999;padding:.25em "
-    ".5em;text-align:left;vertical-align:top;overflow-wrap:anywhere}"
-    "th{background:#eee}pre{border:1px solid #999;padding:.5em;white-space:pre-wrap}"
-    ".verdict{border:3px solid;padding:.5em "
-    "1em;font-size:1.2em}.found{border-color:#b00}.incomplete{border-color:#b60}"
-    ".clean{border-color:#070}.sign{margin-top:4em}.sign span{display:inline-block;width:45%;border-top:1px "
-    "solid;"
-    "margin-right:4%}@media print{body{margin:0;max-width:none}tr{break-inside:avoid}h2{break-after:avoid}}";
-
-class Page
-{
-public:
-    void heading(const QString &text) { m_html += QStringLiteral("<h2>%1</h2>\n").arg(text.toHtmlEscaped()); }
-    void paragraph(const QString &text) { m_html += QStringLiteral("<p>%1</p>\n").arg(text.toHtmlEscaped()); }
-    void raw(const QString &html) { m_html += html; }
-
-    void table(const QStringList &columns, const QList<QStringList> &rows)
-    {
-        m_html += QStringLiteral("<table>\n") + row(columns, QStringLiteral("th"));
-        for (const QStringList &cells : rows)
-            m_html += row(cells, QStringLiteral("td"));
-        m_html += QStringLiteral("</table>\n");
-    }
-    [[nodiscard]] QString html() const { return m_html; }
-
-private:
-    static QString row(const QStringList &cells, const QString &element)
-    {
-        QString html = QStringLiteral("<tr>");
-        for (const QString &cell : cells)
-            html += u'<' + element + u'>' + cell.toHtmlEscaped() + QStringLiteral("</") + element + u'>';
-        return html + QStringLiteral("</tr>\n");
-    }
-
-    QString m_html;
-};
-
 QString number(quint64 count)
 {
     return QString::number(count);
 }
 
-QString verdictClass(Verdict verdict)
-{
-    switch (verdict) {
-    case Verdict::Clean: return QStringLiteral("clean");
-    case Verdict::Found: return QStringLiteral("found");
-    case Verdict::Incomplete: return QStringLiteral("incomplete");
-    }
-    return {};
-}
-
-void addVerdict(Page &page, const CheckReport &report, const ReportedCall &call)
+void addVerdict(HtmlPage &page, const CheckReport &report, const ReportedCall &call)
 {
     const Verdict verdict = verdictOf(report, call.atLeast);
-    page.raw(QStringLiteral("<h1>%1</h1>\n").arg(Texts::tr("Check by value").toHtmlEscaped()));
+    page.title(Texts::tr("Check by value"));
     page.paragraph(call.time.toString(Qt::ISODate));
-    page.raw(QStringLiteral("<p class=\"verdict %1\">%2</p>\n")
-                 .arg(verdictClass(verdict), textOf(verdict).toHtmlEscaped()));
+    page.verdict(verdict);
     if (call.atLeast != Grade::Possible)
         page.paragraph(Texts::tr("Findings below the grade %1 are told, but do not count for this.")
                            .arg(nameOf(call.atLeast)));
 }
 
-void addWhat(Page &page, const CheckReport &report, const ReportedCall &call)
+void addWhat(HtmlPage &page, const CheckReport &report)
 {
     page.heading(Texts::tr("What was checked"));
     page.table(
@@ -97,15 +47,27 @@ void addWhat(Page &page, const CheckReport &report, const ReportedCall &call)
         "the result at every level, in preambles, in bytes behind the end, in files that are no "
         "DICOM object, and in the names of files and folders: names of persons by their parts in "
         "any order and spelling, identifiers and UIDs as whole words, dates in the usual forms."));
-    page.heading(Texts::tr("What was not checked"));
-    page.paragraph(call.options.pixels
-                       ? Texts::tr("What pixels show, and what compressed or encrypted bytes hold.")
-                       : Texts::tr("Pixel data, and what compressed or encrypted bytes hold."));
-    page.paragraph(Texts::tr("Values that were too short to be searched for: %1. Ages, sizes and weights.")
-                       .arg(report.values->tooShort()));
 }
 
-void addUnchecked(Page &page, const CheckReport &report)
+void addWhatNot(HtmlPage &page, const CheckReport &report, const ReportedCall &call)
+{
+    page.heading(Texts::tr("What was not checked"));
+    page.paragraph(call.options.pixels ? Texts::tr("What pixels show; their bytes were searched.")
+                                       : Texts::tr("Pixel data, neither its bytes nor what it shows."));
+    page.paragraph(Texts::tr("What compressed or encrypted bytes hold, and what links lead to."));
+    page.paragraph(Texts::tr(
+        "Not searched for: times of day without fractions of a second; ages, sizes, weights and sex; dates "
+        "up "
+        "to 1900-01-01; registered UIDs and coded terms; common words alone as a description; what programs "
+        "write in the place of a value, such as \"Anonymized\"; counters in the names of files; and what the "
+        "originals hold in pixel data or in bytes that are no text."));
+    if (call.options.rules)
+        page.paragraph(Texts::tr("Not searched for either: values that the configuration itself sets."));
+    page.paragraph(
+        Texts::tr("Values that were too short to be searched for: %1.").arg(report.values->tooShort()));
+}
+
+void addUnchecked(HtmlPage &page, const CheckReport &report)
 {
     if (report.unchecked.isEmpty())
         return;
@@ -118,7 +80,7 @@ void addUnchecked(Page &page, const CheckReport &report)
     page.table({Texts::tr("Side"), Texts::tr("File"), Texts::tr("Reason")}, rows);
 }
 
-void addGroups(Page &page, const CheckReport &report)
+void addGroups(HtmlPage &page, const CheckReport &report)
 {
     page.heading(Texts::tr("What was found"));
     page.paragraph(Texts::tr("Files with findings: certain %1, likely %2, possible %3.")
@@ -139,10 +101,10 @@ void addGroups(Page &page, const CheckReport &report)
     if (lines.isEmpty())
         return;
     page.paragraph(Texts::tr("Lines for a configuration file that take these attributes away:"));
-    page.raw(QStringLiteral("<pre>%1</pre>\n").arg(lines.join(u'\n').toHtmlEscaped()));
+    page.lines(lines);
 }
 
-void addFindings(Page &page, const std::array<QList<ToldFinding>, 3> &findings)
+void addFindings(HtmlPage &page, const std::array<QList<ToldFinding>, 3> &findings)
 {
     QList<QStringList> rows;
     for (const QList<ToldFinding> &some : findings) {
@@ -157,7 +119,7 @@ void addFindings(Page &page, const std::array<QList<ToldFinding>, 3> &findings)
                rows);
 }
 
-void addFiles(Page &page, const QString &title, const QList<qsizetype> &indices, const QStringList &files,
+void addFiles(HtmlPage &page, const QString &title, const QList<qsizetype> &indices, const QStringList &files,
               const CheckReport &report)
 {
     page.paragraph(title.arg(indices.size()));
@@ -166,10 +128,10 @@ void addFiles(Page &page, const QString &title, const QList<qsizetype> &indices,
     QStringList paths;
     for (const qsizetype index : indices.first(std::min(indices.size(), mostPaths)))
         paths.append(maskedPath(files[index], report.values->patterns()));
-    page.raw(QStringLiteral("<pre>%1</pre>\n").arg(paths.join(u'\n').toHtmlEscaped()));
+    page.lines(paths);
 }
 
-void addBesides(Page &page, const CheckReport &report)
+void addBesides(HtmlPage &page, const CheckReport &report)
 {
     page.heading(Texts::tr("Beside the values"));
     const Pairing &pairing = report.pairing;
@@ -207,19 +169,16 @@ void addBesides(Page &page, const CheckReport &report)
 QString htmlReport(const CheckReport &report, const ReportedCall &call,
                    const std::array<QList<ToldFinding>, 3> &findings)
 {
-    Page page;
+    HtmlPage page;
     addVerdict(page, report, call);
-    addWhat(page, report, call);
+    addWhat(page, report);
+    addWhatNot(page, report, call);
     addUnchecked(page, report);
     addGroups(page, report);
     addFindings(page, findings);
     addBesides(page, report);
-    page.raw(QStringLiteral("<p class=\"sign\"><span>%1</span><span>%2</span></p>\n")
-                 .arg(Texts::tr("Place, date"), Texts::tr("Signature")));
-    return QStringLiteral(
-               "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
-               "<style>%2</style>\n</head>\n<body>\n%3</body>\n</html>\n")
-        .arg(Texts::tr("Check by value"), QLatin1String(style), page.html());
+    page.signature();
+    return page.html(Texts::tr("Check by value"));
 }
 
 } // namespace dravolin::check

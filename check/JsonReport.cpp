@@ -14,17 +14,6 @@ QJsonObject byGrade(const std::array<quint64, 3> &counts)
             {QStringLiteral("possible"), static_cast<qint64>(counts[2])}};
 }
 
-QJsonObject jsonOf(const FindingGroup &group)
-{
-    return {{QStringLiteral("place"), placeText(group)},
-            {QStringLiteral("worst"), nameOf(group.worst)},
-            {QStringLiteral("files"), static_cast<qint64>(group.files)},
-            {QStringLiteral("filesByGrade"), byGrade(group.filesOf)},
-            {QStringLiteral("sources"), group.sources},
-            {QStringLiteral("configurationLine"), group.line},
-            {QStringLiteral("advice"), group.advice}};
-}
-
 // The paths of files by their index, masked.
 QJsonArray paths(const QList<qsizetype> &indices, const QStringList &files, const Patterns &patterns)
 {
@@ -88,6 +77,17 @@ QString verdictName(Verdict verdict)
 }
 
 } // namespace
+
+QJsonObject jsonOf(const FindingGroup &group)
+{
+    return {{QStringLiteral("place"), placeText(group)},
+            {QStringLiteral("worst"), nameOf(group.worst)},
+            {QStringLiteral("files"), static_cast<qint64>(group.files)},
+            {QStringLiteral("filesByGrade"), byGrade(group.filesOf)},
+            {QStringLiteral("sources"), group.sources},
+            {QStringLiteral("configurationLine"), group.line},
+            {QStringLiteral("advice"), group.advice}};
+}
 
 QJsonObject jsonOf(const ToldFinding &finding)
 {

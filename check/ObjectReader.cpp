@@ -9,6 +9,8 @@
 #include <gdcmSequenceOfItems.h>
 #include <gdcmTrace.h>
 
+#include <QtEndian>
+
 #include <istream>
 #include <streambuf>
 
@@ -16,7 +18,10 @@ namespace dravolin::check {
 
 namespace {
 
+constexpr qsizetype preambleSize = 128;
 constexpr Tag pixelTag = 0x7FE00010;
+constexpr Tag metaLengthTag = 0x00020000;
+constexpr Tag syntaxTag = 0x00020010;
 constexpr Tag characterSetTag = 0x00080005;
 
 // A stream over bytes in memory.
@@ -46,13 +51,52 @@ protected:
     }
 };
 
-// The object's bytes without those behind its end and without its pixel data, which nothing reads.
-QByteArray bytesToRead(const QByteArray &file, const Walk &walk)
+void appendElement(QByteArray &bytes, Tag tag, const char *vr, const QByteArray &value)
 {
-    if (walk.deflated || walk.pixelElement.isEmpty())
-        return file.first(walk.end);
-    const qsizetype behind = walk.dataSet + walk.pixelElement.end;
-    return file.first(walk.dataSet + walk.pixelElement.start) + file.sliced(behind, walk.end - behind);
+    const quint16 header[] = {qToLittleEndian(static_cast<quint16>(tag >> 16)),
+                              qToLittleEndian(static_cast<quint16>(tag & 0xFFFF))};
+    const auto length = qToLittleEndian(static_cast<quint16>(value.size()));
+    bytes.append(reinterpret_cast<const char *>(header), sizeof(header));
+    bytes.append(vr);
+    bytes.append(reinterpret_cast<const char *>(&length), sizeof(length));
+    bytes.append(value);
+}
+
+// What stands in front of any data set for GDCM: sound meta information, whatever the file's own is like.
+struct Front
+{
+    explicit Front(const Walk &walk)
+    {
+        QByteArray meta = walk.meta;
+        const QByteArray uid = walk.syntax.isBigEndian  ? QByteArray("1.2.840.10008.1.2.2", 20)
+                               : walk.syntax.isExplicit ? QByteArray("1.2.840.10008.1.2.1", 20)
+                                                        : QByteArray("1.2.840.10008.1.2", 18);
+        appendElement(meta, syntaxTag, "UI", uid);
+        const auto size = qToLittleEndian(static_cast<quint32>(meta.size()));
+        bytes = QByteArray(preambleSize, '\0') + "DICM";
+        appendElement(bytes, metaLengthTag, "UL", {reinterpret_cast<const char *>(&size), sizeof(size)});
+        bytes += meta;
+        contents = {walk.metaContents.values + 2,
+                    walk.metaContents.bytes + sizeof(size) + static_cast<quint64>(uid.size())};
+    }
+
+    QByteArray bytes;
+    Contents contents;
+};
+
+// The object's bytes without those behind its end and without its pixel data, which nothing reads.
+QByteArray bytesToRead(const QByteArray &front, const QByteArray &file, const Walk &walk)
+{
+    const QByteArrayView dataSet = walk.deflated
+                                       ? QByteArrayView(walk.inflated)
+                                       : QByteArrayView(file).sliced(walk.dataSet, walk.end - walk.dataSet);
+    QByteArray bytes;
+    bytes.reserve(front.size() + dataSet.size() - walk.pixelElement.size());
+    bytes += front;
+    if (walk.pixelElement.isEmpty())
+        return bytes.append(dataSet);
+    bytes.append(dataSet.first(walk.pixelElement.start));
+    return bytes.append(dataSet.sliced(walk.pixelElement.end));
 }
 
 Tag tagOf(const gdcm::DataElement &element)
@@ -164,7 +208,18 @@ private:
     std::vector<PathStep> m_path;
 };
 
-bool readWithGdcm(const QByteArray &bytes, const Walk &walk, const ElementVisit &visit)
+// For the meta information, whose transfer syntax is the one that GDCM was told: a visitor gets the file's
+// own.
+ElementVisit metaVisit(const Walk &walk, const ElementVisit &visit)
+{
+    return [&walk, &visit](const Element &element) {
+        const bool isSyntax = element.tag == syntaxTag;
+        visit({element.tag, element.kind, element.numbers, element.person,
+               isSyntax ? QByteArrayView(walk.uid) : element.bytes, element.path, element.sets});
+    };
+}
+
+bool readWithGdcm(const QByteArray &bytes, const Front &front, const Walk &walk, const ElementVisit &visit)
 {
     MemoryBuffer buffer(bytes);
     std::istream stream(&buffer);
@@ -173,10 +228,12 @@ bool readWithGdcm(const QByteArray &bytes, const Walk &walk, const ElementVisit 
     try {
         if (!reader.Read())
             return false;
-        DataSetReader(visit).read(reader.GetFile().GetHeader(), {});
+        const ElementVisit visitMeta = metaVisit(walk, visit);
+        DataSetReader meta(visitMeta);
+        meta.read(reader.GetFile().GetHeader(), {});
         DataSetReader dataSet(visit);
         dataSet.read(reader.GetFile().GetDataSet(), {});
-        return dataSet.contents() == walk.contents;
+        return meta.contents() == front.contents && dataSet.contents() == walk.contents;
     } catch (...) { // it throws texts, too
         return false;
     }
@@ -194,11 +251,12 @@ void initialiseReader()
 
 bool readObject(const QByteArray &file, const Walk &walk, const ElementVisit &visit)
 {
-    const QByteArray bytes = bytesToRead(file, walk);
+    const Front front(walk);
+    const QByteArray bytes = bytesToRead(front.bytes, file, walk);
     // GDCM takes a data set without any attribute for a failure of its own
-    if (bytes.size() <= walk.dataSet)
+    if (bytes.size() == front.bytes.size())
         return false;
-    return survivesAssertions([&] { return readWithGdcm(bytes, walk, visit); });
+    return survivesAssertions([&] { return readWithGdcm(bytes, front, walk, visit); });
 }
 
 QString pathText(const std::vector<PathStep> &path, Tag tag)

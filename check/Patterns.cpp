@@ -54,6 +54,14 @@ QString nameOf(Grade grade)
     return {};
 }
 
+std::optional<Grade> gradeNamed(const QString &name)
+{
+    for (const Grade grade : {Grade::Certain, Grade::Likely, Grade::Possible})
+        if (nameOf(grade) == name)
+            return grade;
+    return std::nullopt;
+}
+
 const Patterns::Slot *Patterns::slot(quint64 state) const
 {
     if (m_slots.empty())

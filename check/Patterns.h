@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -17,6 +18,8 @@ enum class Grade : quint8 { Certain, Likely, Possible };
 
 // For people: "certain", "likely", "possible".
 [[nodiscard]] QString nameOf(Grade grade);
+// The grade of that name; nothing for any other text.
+[[nodiscard]] std::optional<Grade> gradeNamed(const QString &name);
 
 // A value that is searched for, or a part of it.
 struct Pattern

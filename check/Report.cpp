@@ -98,8 +98,9 @@ bool ReportWriter::end(const CheckReport &report)
     if (!m_json.good())
         return fail(Texts::tr("report.json cannot be written"));
     const QString page = joinPath(m_folder, QStringLiteral("report.html"));
-    return writeText(page, htmlReport(report, m_call, m_shown)) ||
-           fail(Texts::tr("report.html cannot be written"));
+    // bytes of names that are no UTF-8 become question marks
+    const QString text = QString::fromUtf8(htmlReport(report, m_call, m_shown).toUtf8());
+    return writeText(page, text) || fail(Texts::tr("report.html cannot be written"));
 }
 
 } // namespace dravolin::check

@@ -61,5 +61,6 @@ private:
                                  const std::array<QList<ToldFinding>, 3> &findings);
 [[nodiscard]] QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call);
 [[nodiscard]] QJsonObject jsonOf(const ToldFinding &finding);
+[[nodiscard]] QJsonObject jsonOf(const FindingGroup &group);
 
 } // namespace dravolin::check

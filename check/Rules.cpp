@@ -25,6 +25,17 @@ QString withoutPadding(QString text)
     return text;
 }
 
+// Whole numbers come as decimal digits with spaces between; other bytes have no text to be compared with.
+bool isSame(const Element &element, const QString &text, QString wanted)
+{
+    if (element.kind == Element::Kind::Bytes) {
+        wanted.replace(u'\\', u' ');
+        const QStringList numbers = text.split(u' ', Qt::SkipEmptyParts);
+        return numbers.size() != wanted.split(u' ').size() || numbers.join(u' ') == wanted;
+    }
+    return withoutPadding(text) == withoutPadding(wanted);
+}
+
 } // namespace
 
 Rules::Rules(const TagRules &rules)
@@ -57,7 +68,7 @@ void Rules::compare(const Element &element, const QString &text, QList<Deviation
         return;
     const std::optional<QString> &value = rule->second;
     // a table decides about the value
-    if (value && (value->startsWith(tableMarkerPrefix) || withoutPadding(text) == withoutPadding(*value)))
+    if (value && (value->startsWith(tableMarkerPrefix) || isSame(element, text, *value)))
         return;
     deviations.append({element.tag, pathText(element.path, element.tag), value.has_value()});
 }

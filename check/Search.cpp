@@ -12,6 +12,21 @@ namespace {
 // Bytes are searched piece by piece, so that a large file does not take many times its size.
 constexpr qsizetype pieceSize = 262144;
 constexpr qsizetype pieceOverlap = 2048; // longer than a value that identifies somebody
+constexpr qsizetype fewestBytes = 4;     // that may hold one
+
+// Where the piece behind the one at `start` begins: at a blank or a control character, which no letter of
+// several bytes holds.
+qsizetype nextPiece(QByteArrayView bytes, qsizetype start)
+{
+    const qsizetype end = start + pieceSize;
+    if (end >= bytes.size())
+        return bytes.size();
+    for (qsizetype at = end; at > start + pieceSize / 2; --at) {
+        if (static_cast<unsigned char>(bytes[at]) <= ' ')
+            return at;
+    }
+    return end;
+}
 
 bool hasHighBytes(QByteArrayView bytes)
 {
@@ -60,16 +75,24 @@ void Searcher::takeMatches(const Place &place, QList<Finding> &findings)
 void Searcher::searchBytes(QByteArrayView bytes, const Place &place, const CharacterSets &sets,
                            QList<Finding> &findings)
 {
-    for (qsizetype start = 0; start < bytes.size(); start += pieceSize)
-        searchPiece(bytes.sliced(start, std::min(pieceSize + pieceOverlap, bytes.size() - start)), sets);
+    if (bytes.size() < fewestBytes)
+        return takeMatches(place, findings);
+    QByteArray escapes; // in force where a piece begins
+    for (qsizetype start = 0; start < bytes.size();) {
+        const qsizetype next = nextPiece(bytes, start);
+        searchPiece(bytes.sliced(start, std::min(next + pieceOverlap, bytes.size()) - start), escapes, sets);
+        if (next < bytes.size())
+            escapes = escapesInForce(escapes + bytes.sliced(start, next - start).toByteArray());
+        start = next;
+    }
     takeMatches(place, findings);
 }
 
-void Searcher::searchPiece(QByteArrayView bytes, const CharacterSets &sets)
+void Searcher::searchPiece(QByteArrayView bytes, const QByteArray &escapes, const CharacterSets &sets)
 {
     searchText(decodeGuessing(bytes), TextKind::Bytes);
-    if (bytes.contains('\x1B') || (sets.isOfItsOwn() && hasHighBytes(bytes)))
-        searchText(sets.decode(bytes), TextKind::Bytes);
+    if (!escapes.isEmpty() || bytes.contains('\x1B') || (sets.isOfItsOwn() && hasHighBytes(bytes)))
+        searchText(sets.decode(escapes + bytes.toByteArray()), TextKind::Bytes);
     if (m_patterns.hasIdeographs() || bytes.contains('\0')) {
         for (const qsizetype offset : {0, 1}) {
             searchText(decodeUtf16(bytes, offset, ByteOrder::LittleEndian), TextKind::Bytes);
@@ -83,7 +106,8 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
     const qsizetype known = result.findings.size();
     QString text;
     if (element.kind == Element::Kind::Bytes) {
-        searchText(decimalText(element.bytes, element.numbers), TextKind::Numbers);
+        text = decimalText(element.bytes, element.numbers);
+        searchText(text, TextKind::Numbers);
         searchBytes(element.bytes, placeOf(element), element.sets, result.findings);
     } else {
         text = element.sets.decode(element.bytes);
@@ -111,10 +135,9 @@ void Searcher::searchPath(const QString &path, QList<Finding> &findings)
     }
 }
 
-SearchedFile Searcher::search(const QString &root, const QString &path)
+SearchedFile Searcher::search(LoadedFile file, const QString &path)
 {
     SearchedFile result;
-    LoadedFile file = loadFile(joinPath(root, path));
     readLoaded(file, [&](const Element &element) { searchElement(element, result); });
     const auto bytes = [&](QByteArrayView some, Place::Kind kind) {
         searchBytes(some, {kind, 0, 0, {}}, {}, result.findings);

@@ -21,8 +21,8 @@ public:
     // `rules` may be null. Both outlive the searcher.
     Searcher(const Patterns &patterns, const Rules *rules, bool searchPixels);
 
-    // The file `path` below `root`, and the name and folders it has there.
-    [[nodiscard]] SearchedFile search(const QString &root, const QString &path);
+    // A file, and the name and folders that its relative path has; "" when these tell nothing.
+    [[nodiscard]] SearchedFile search(LoadedFile file, const QString &path);
     // Only the path, and where the link leads.
     [[nodiscard]] QList<Finding> searchLink(const QString &path, const QString &target);
 
@@ -31,7 +31,7 @@ private:
     void searchElement(const Element &element, SearchedFile &result);
     void searchBytes(QByteArrayView bytes, const Place &place, const CharacterSets &sets,
                      QList<Finding> &findings);
-    void searchPiece(QByteArrayView bytes, const CharacterSets &sets);
+    void searchPiece(QByteArrayView bytes, const QByteArray &escapes, const CharacterSets &sets);
     void searchText(QStringView text, TextKind kind);
     void takeMatches(const Place &place, QList<Finding> &findings);
 

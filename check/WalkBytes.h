@@ -23,6 +23,8 @@ struct Header
     qsizetype size = 8; // bytes of the header itself
 };
 
+inline constexpr quint16 vrBytes = 0x4F42;    // OB
+inline constexpr quint16 vrWords = 0x4F57;    // OW
 inline constexpr quint16 vrSequence = 0x5351; // SQ
 inline constexpr quint16 vrUnknown = 0x554E;  // UN
 

@@ -23,6 +23,7 @@ const QString workersOption = QStringLiteral("workers");
 const QString keepPrivateOption = QStringLiteral("keep-private");
 const QString privateListOption = QStringLiteral("private-list");
 const QString keepUidsOption = QStringLiteral("keep-uids");
+const QString atLeastOption = QStringLiteral("at-least");
 const QString quietOption = QStringLiteral("quiet");
 
 void addOptions(QCommandLineParser &parser)
@@ -45,6 +46,9 @@ void addOptions(QCommandLineParser &parser)
            QStringLiteral("file"));
     option(keepUidsOption,
            Texts::tr("Leaves UIDs as they are, but the Study Instance UID of a case with a root."));
+    option(atLeastOption,
+           Texts::tr("Findings below certain, likely or possible leave the exit status alone."),
+           QStringLiteral("grade"));
     option(quietOption, Texts::tr("Prints nothing but errors."));
     parser.addPositionalArgument(QStringLiteral("list"), Texts::tr("The list of cases, a CSV file."));
 }
@@ -71,7 +75,7 @@ void readPaths(const QCommandLineParser &parser, BatchCall &call)
                       ? absolute(parser.value(keyOption))
                       : joinPath(secretFolder(options.runFolder), QStringLiteral("project.key"));
     options.defaultConfiguration =
-        AppPaths::forExecutable(QCoreApplication::applicationFilePath()).defaultConfiguration();
+        AppPaths::forExecutable(AppPaths::ownExecutable()).defaultConfiguration();
 }
 
 void readWorkers(const QCommandLineParser &parser, BatchCall &call)
@@ -81,6 +85,15 @@ void readWorkers(const QCommandLineParser &parser, BatchCall &call)
                                                        : QThread::idealThreadCount();
     if (!isNumber || call.options.workers < 1)
         call.error = Texts::tr("'%1' is no number of workers").arg(parser.value(workersOption));
+}
+
+void readGrade(const QCommandLineParser &parser, BatchCall &call)
+{
+    const std::optional<check::Grade> grade = check::gradeNamed(parser.value(atLeastOption));
+    if (grade)
+        call.options.atLeast = *grade;
+    else if (parser.isSet(atLeastOption))
+        call.error = Texts::tr("--at-least takes certain, likely or possible");
 }
 
 void readKeptPrivate(const QCommandLineParser &parser, BatchCall &call)
@@ -137,6 +150,7 @@ BatchCall parseBatchCall(const QString &command, const QStringList &arguments)
     call.options.mapUids = !parser.isSet(keepUidsOption);
     call.quiet = parser.isSet(quietOption);
     readWorkers(parser, call);
+    readGrade(parser, call);
     readKeptPrivate(parser, call);
     if (call.error.isEmpty())
         readPaths(parser, call);

@@ -1,14 +1,14 @@
+#include "base/PathText.h"
 #include "base/Texts.h"
-#include "batch/BatchRun.h"
+#include "batch/Evidence.h"
 #include "cli/BatchCall.h"
 #include "cli/BatchTexts.h"
 #include "cli/Commands.h"
 #include "cli/Interruption.h"
-
-#include <QElapsedTimer>
+#include "cli/Progress.h"
 
 #include <algorithm>
-#include <unistd.h>
+#include <thread>
 
 namespace dravolin::cli {
 
@@ -35,31 +35,20 @@ std::optional<BatchCall> readCall(const QString &command, const QStringList &arg
     return std::nullopt;
 }
 
-// Over itself on a terminal, a line every ten seconds elsewhere.
-class BatchProgressLine
+QString interruptedText()
 {
-public:
-    BatchProgressLine() { m_sinceLast.start(); }
+    return prefixed(QStringLiteral("run"), Texts::tr("interrupted; the same call goes on from here"));
+}
 
-    void show(const BatchProgress &progress)
-    {
-        constexpr qint64 pause = 10'000;
-        if (!m_isTerminal && m_sinceLast.elapsed() < pause)
-            return;
-        m_sinceLast.restart();
-        printError(m_isTerminal ? u'\r' + progressText(progress) + QStringLiteral("\x1b[K")
-                                : progressText(progress) + u'\n');
-    }
-    void finish() const
-    {
-        if (m_isTerminal)
-            printError(QStringLiteral("\r\x1b[K"));
-    }
-
-private:
-    bool m_isTerminal = ::isatty(STDERR_FILENO) == 1;
-    QElapsedTimer m_sinceLast;
-};
+bool isClean(const BatchOutcome &outcome, check::Grade atLeast)
+{
+    return std::all_of(outcome.cases.begin(), outcome.cases.end(),
+                       [](const CaseCounts &counts) { return counts.notDone.isEmpty(); }) &&
+           std::all_of(outcome.findings.begin(), outcome.findings.end(),
+                       [atLeast](const std::optional<CaseFindings> &findings) {
+                           return findings && findings->verdict(atLeast) == check::Verdict::Clean;
+                       });
+}
 
 int report(const BatchOutcome &outcome, const BatchCall &call)
 {
@@ -68,17 +57,22 @@ int report(const BatchOutcome &outcome, const BatchCall &call)
         printError(problemsText(outcome.problems));
         return wrongCall;
     }
-    if (!call.quiet)
-        print(outcomeText(outcome));
     if (outcome.interrupted) {
-        printError(prefixed(command, Texts::tr("interrupted; the same call goes on from here")));
+        printError(interruptedText());
         return interrupted;
     }
+    if (!call.quiet)
+        print(outcomeText(outcome));
     if (!outcome.failure.isEmpty())
         printError(prefixed(command, outcome.failure));
-    const bool complete = std::all_of(outcome.cases.begin(), outcome.cases.end(),
-                                      [](const CaseCounts &counts) { return counts.notDone.isEmpty(); });
-    return complete && outcome.failure.isEmpty() ? nothingFound : somethingFound;
+    else if (!call.quiet)
+        print(Texts::tr("Report: %1\n")
+                  .arg(joinPath(evidenceFolder(call.options.runFolder), QStringLiteral("report.html"))));
+    if (!call.quiet && outcome.checkMilliseconds > 0)
+        print(Texts::tr("The check took %1 s.\n")
+                  .arg(static_cast<double>(outcome.checkMilliseconds) / 1000, 0, 'f', 1));
+    return outcome.failure.isEmpty() && isClean(outcome, call.options.atLeast) ? nothingFound
+                                                                               : somethingFound;
 }
 
 } // namespace
@@ -112,14 +106,14 @@ int runBatchCommand(const QStringList &arguments)
     if (!call)
         return status;
     noteInterruptions();
-    BatchProgressLine line;
+    Progress line(call->quiet ? Progress::Form::None : Progress::formHere(), printError);
     BatchEvents events;
     events.stop = isInterrupted;
-    if (!call->quiet)
-        events.progress = [&line](const BatchProgress &progress) { line.show(progress); };
+    events.progress = [&line](const BatchProgress &progress) { line.show(progress); };
+    // what was begun can be left as it is: the same call finds out what is whole
+    const std::jthread watch = endWhenInterrupted(interruptedText());
     const BatchOutcome outcome = runBatch(call->options, events);
-    if (!call->quiet)
-        line.finish();
+    line.finish();
     return report(outcome, *call);
 }
 

@@ -1,6 +1,7 @@
 #include "cli/BatchTexts.h"
 
 #include "base/Texts.h"
+#include "cli/Progress.h"
 
 #include <QLocale>
 
@@ -20,6 +21,59 @@ qsizetype troubled(const PlannedCase &planned)
 {
     return std::count_if(planned.files.begin(), planned.files.end(),
                          [](const PlannedFile &file) { return !file.problem.isEmpty(); });
+}
+
+QString caseText(const CaseCounts &counts)
+{
+    QString text =
+        Texts::tr("case %1: %2 done, %3 not done")
+            .arg(counts.caseId, QString::number(counts.done), QString::number(counts.notDone.size()));
+    if (counts.directories > 0)
+        text += Texts::tr(", %1 DICOMDIR left out").arg(counts.directories);
+    if (counts.movedToUtf8 > 0)
+        text += Texts::tr(", %1 moved to UTF-8").arg(counts.movedToUtf8);
+    return text;
+}
+
+QString foundText(const CaseFindings &findings)
+{
+    if (findings.verdict(check::Grade::Possible) == check::Verdict::Clean)
+        return Texts::tr(" nothing found");
+    QStringList parts;
+    for (const check::Grade grade : {check::Grade::Certain, check::Grade::Likely, check::Grade::Possible})
+        if (const quint64 files = findings.files.at(static_cast<size_t>(grade)); files > 0)
+            parts.append(Texts::tr(" %1 in %2").arg(check::nameOf(grade), check::filesText(files)));
+    if (findings.deviations > 0)
+        parts.append(Texts::tr(" attributes not as configured: %1").arg(findings.deviations));
+    if (findings.notChecked > 0)
+        parts.append(Texts::tr(" NOT CHECKED: %1").arg(check::filesText(findings.notChecked)));
+    else if (findings.isIncomplete)
+        parts.append(Texts::tr(" NOT CHECKED: there was no value to be searched, or no result"));
+    return parts.join(u',');
+}
+
+// Where something was found, worst first.
+QString groupsText(const QJsonArray &groups)
+{
+    constexpr qsizetype most = 8;
+    QString text;
+    for (qsizetype i = 0; i < std::min(groups.size(), most); ++i) {
+        const QJsonObject group = groups.at(i).toObject();
+        const auto member = [&group](const char *name) {
+            return group.value(QLatin1String(name)).toString();
+        };
+        const QString line = member("configurationLine");
+        text +=
+            Texts::tr("  %1  %2: %3, from %4\n")
+                .arg(member("worst").leftJustified(8), member("place"),
+                     check::filesText(static_cast<quint64>(group.value(QLatin1String("files")).toInteger())),
+                     member("sources"));
+        text += QStringLiteral("            %1\n").arg(line.isEmpty() ? member("advice") : line);
+    }
+    if (groups.size() > most)
+        text += Texts::tr("  and in %1 more places; the report names them all\n").arg(groups.size() - most);
+    return text.isEmpty() ? text
+                          : Texts::tr("Found, each with the line for a configuration or an advice:\n") + text;
 }
 
 } // namespace
@@ -65,25 +119,27 @@ QString planText(const Plan &plan)
 QString outcomeText(const BatchOutcome &outcome)
 {
     QString text = outcome.nothingToDo ? Texts::tr("Nothing is left to be done.\n") : QString();
-    for (const CaseCounts &counts : outcome.cases) {
-        text += Texts::tr("case %1: %2 done, %3 not done")
-                    .arg(counts.caseId, QString::number(counts.done), QString::number(counts.notDone.size()));
-        if (counts.directories > 0)
-            text += Texts::tr(", %1 DICOMDIR left out").arg(counts.directories);
-        if (counts.movedToUtf8 > 0)
-            text += Texts::tr(", %1 moved to UTF-8").arg(counts.movedToUtf8);
-        text += u'\n';
-        for (const FileRecord &record : counts.notDone)
+    QList<CaseFindings> findings;
+    for (qsizetype i = 0; i < outcome.cases.size(); ++i) {
+        const std::optional<CaseFindings> found = outcome.findings.value(i);
+        text += caseText(outcome.cases.at(i)) + (found ? u';' + foundText(*found) : QString()) + u'\n';
+        for (const FileRecord &record : outcome.cases.at(i).notDone)
             text += QStringLiteral("  %1: %2\n").arg(record.path, record.problem);
+        findings.append(found.value_or(CaseFindings()));
     }
-    return text;
+    return text + groupsText(together(findings).groups);
 }
 
-QString progressText(const BatchProgress &progress)
+QString progressText(const BatchProgress &progress, qint64 milliseconds)
 {
-    return Texts::tr("%1 of %2 files, %3 of %4 cases")
+    if (progress.toCheck > 0)
+        return Texts::tr("checking case %1 of %2: %3 of %4 files")
+            .arg(QString::number(progress.cases + 1), QString::number(progress.allCases),
+                 QString::number(progress.checked), QString::number(progress.toCheck));
+    return Texts::tr("%1 of %2 files, %3 of %4 cases, %5")
         .arg(QString::number(progress.files), QString::number(progress.allFiles),
-             QString::number(progress.cases), QString::number(progress.allCases));
+             QString::number(progress.cases), QString::number(progress.allCases),
+             paceText(progress.bytes, progress.files, progress.allFiles, milliseconds));
 }
 
 } // namespace dravolin::cli

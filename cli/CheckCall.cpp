@@ -1,8 +1,6 @@
 #include "cli/CheckCall.h"
 
 #include "base/Files.h"
-#include "base/Lines.h"
-#include "base/NOXUtils.h"
 #include "base/Texts.h"
 
 #include <QCommandLineParser>
@@ -74,14 +72,10 @@ void readIdentifiers(const QCommandLineParser &parser, CheckCall &call)
     if (!parser.isSet(name(identifiers)))
         return;
     const std::optional<QString> text = readText(parser.value(name(identifiers)));
-    if (!text) {
+    if (text)
+        call.options.identifiers = check::identifiersIn(*text);
+    else
         call.error = Texts::tr("the list of identifiers cannot be read, or is not UTF-8");
-        return;
-    }
-    for (const QStringView line : lines(*text)) {
-        if (const QString value = NOXUtils::stringByTrimmingLeadingAndTrailingspaces(line); !value.isEmpty())
-            call.options.identifiers.append(value);
-    }
 }
 
 void readConfiguration(const QCommandLineParser &parser, CheckCall &call)
@@ -97,12 +91,10 @@ void readConfiguration(const QCommandLineParser &parser, CheckCall &call)
 
 void readGrade(const QCommandLineParser &parser, CheckCall &call)
 {
-    const QString grade = parser.value(name(atLeast));
-    if (grade == QStringLiteral("certain"))
-        call.atLeast = check::Grade::Certain;
-    else if (grade == QStringLiteral("likely"))
-        call.atLeast = check::Grade::Likely;
-    else if (parser.isSet(name(atLeast)) && grade != QStringLiteral("possible"))
+    const std::optional<check::Grade> grade = check::gradeNamed(parser.value(name(atLeast)));
+    if (grade)
+        call.atLeast = *grade;
+    else if (parser.isSet(name(atLeast)))
         call.error = Texts::tr("--at-least takes certain, likely or possible");
 }
 

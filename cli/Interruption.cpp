@@ -1,8 +1,14 @@
 #include "cli/Interruption.h"
 
+#include "cli/Commands.h"
+
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <csignal>
+#include <cstdlib>
 #include <initializer_list>
+#include <mutex>
 
 namespace dravolin::cli {
 
@@ -31,6 +37,26 @@ void noteInterruptions()
 bool isInterrupted()
 {
     return interruptionNoted;
+}
+
+std::jthread endWhenInterrupted(const QString &text)
+{
+    using namespace std::chrono_literals;
+    return std::jthread([text](const std::stop_token &stop) {
+        std::mutex mutex;
+        std::condition_variable_any ended;
+        const auto wait = [&](std::chrono::milliseconds time) {
+            std::unique_lock lock(mutex);
+            ended.wait_for(lock, stop, time, [] { return false; });
+            return !stop.stop_requested();
+        };
+        while (wait(50ms)) {
+            if (!isInterrupted() || !wait(600ms))
+                continue;
+            printError(text);
+            std::_Exit(interrupted);
+        }
+    });
 }
 
 } // namespace dravolin::cli

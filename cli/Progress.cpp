@@ -1,6 +1,7 @@
 #include "cli/Progress.h"
 
 #include "base/Texts.h"
+#include "cli/BatchTexts.h"
 
 #include <algorithm>
 #include <unistd.h>
@@ -13,23 +14,32 @@ constexpr qint64 barInterval = 200;     // milliseconds
 constexpr qint64 lineInterval = 10'000; // milliseconds
 constexpr qsizetype barWidth = 30;
 
-QString barText(const check::CheckProgress &progress)
+QString barText(double share)
 {
-    const qsizetype full = progress.files * barWidth / std::max<qsizetype>(progress.allFiles, 1);
+    const auto full = static_cast<qsizetype>(std::clamp(share, 0.0, 1.0) * barWidth);
     return u'[' + QString(full, u'#') + QString(barWidth - full, u'.') + u']';
+}
+
+double shareOf(qsizetype done, qsizetype all)
+{
+    return static_cast<double>(done) / static_cast<double>(std::max<qsizetype>(all, 1));
 }
 
 } // namespace
 
-QString progressText(const check::CheckProgress &progress, qint64 milliseconds)
+QString paceText(quint64 bytes, qsizetype files, qsizetype allFiles, qint64 milliseconds)
 {
     const double seconds = std::max(static_cast<double>(milliseconds) / 1000, 0.001);
-    const double rate = static_cast<double>(progress.bytes) / seconds / 1e6;
-    const double left = seconds * static_cast<double>(progress.allFiles - progress.files) /
-                        static_cast<double>(std::max<qsizetype>(progress.files, 1));
-    return Texts::tr("%1 of %2 files, %3 MB/s, %4 s left")
+    const double rate = static_cast<double>(bytes) / seconds / 1e6;
+    const double left = seconds * shareOf(allFiles - files, files);
+    return Texts::tr("%1 MB/s, %2 s left").arg(QString::number(rate, 'f', 1), QString::number(left, 'f', 0));
+}
+
+QString progressText(const check::CheckProgress &progress, qint64 milliseconds)
+{
+    return Texts::tr("%1 of %2 files, %3")
         .arg(QString::number(progress.files), QString::number(progress.allFiles),
-             QString::number(rate, 'f', 1), QString::number(left, 'f', 0));
+             paceText(progress.bytes, progress.files, progress.allFiles, milliseconds));
 }
 
 Progress::Form Progress::formHere()
@@ -45,13 +55,26 @@ Progress::Progress(Form form, Write write)
 
 void Progress::show(const check::CheckProgress &progress)
 {
+    show(shareOf(progress.files, progress.allFiles),
+         [&progress](qint64 now) { return progressText(progress, now); });
+}
+
+void Progress::show(const BatchProgress &progress)
+{
+    const double share = progress.toCheck > 0 ? shareOf(progress.checked, progress.toCheck)
+                                              : shareOf(progress.files, progress.allFiles);
+    show(share, [&progress](qint64 now) { return progressText(progress, now); });
+}
+
+void Progress::show(double share, const std::function<QString(qint64)> &text)
+{
     const qint64 now = m_sinceStart.elapsed();
     if (m_form == Form::None || now - m_lastShown < (m_form == Form::Bar ? barInterval : lineInterval))
         return;
     m_lastShown = now;
-    const QString text = progressText(progress, now);
     m_barShown = m_form == Form::Bar;
-    m_write(m_barShown ? u'\r' + barText(progress) + u' ' + text + QStringLiteral("\x1B[K") : text + u'\n');
+    m_write(m_barShown ? u'\r' + barText(share) + u' ' + text(now) + QStringLiteral("\x1B[K")
+                       : text(now) + u'\n');
 }
 
 void Progress::finish()

@@ -16,5 +16,10 @@ endif()
 if(DRAVOLIN_SANITIZE)
     list(APPEND sanitizers -g1) # lines are all that their reports show
 endif()
+if(DRAVOLIN_FUZZ)
+    # a library's failed assertion then ends the process, as a finding
+    target_compile_definitions(dravolin_warnings INTERFACE FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
+    target_compile_options(dravolin_warnings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 target_compile_options(dravolin_warnings INTERFACE ${sanitizers})
 target_link_options(dravolin_warnings INTERFACE ${sanitizers})

@@ -29,6 +29,8 @@ struct AppPaths
     {
         return resource(QStringLiteral("DefaultAnonymizationConfiguration.txt"));
     }
+    // The tables of translated texts, dravolin_LANGUAGE.qm.
+    [[nodiscard]] QString translationsFolder() const { return resource(QStringLiteral("translations")); }
     // Configurations to start from; nothing looks for configurations or tables in it.
     [[nodiscard]] QString examplesFolder() const { return resource(QStringLiteral("examples")); }
 };

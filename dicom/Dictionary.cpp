@@ -5,19 +5,8 @@
 #include <dcmtk/dcmdata/dctag.h>
 
 #include <algorithm>
-#include <array>
 
 namespace dravolin {
-
-namespace {
-
-bool isOneOf(Vr representation, std::initializer_list<const char *> names)
-{
-    return std::any_of(names.begin(), names.end(),
-                       [=](const char *name) { return vr(name[0], name[1]) == representation; });
-}
-
-} // namespace
 
 QByteArray letters(Vr representation)
 {
@@ -71,13 +60,44 @@ QString tagText(TagNumber tag)
 
 bool isText(Vr representation)
 {
-    return isOneOf(representation, {"SH", "LO", "ST", "LT", "UC", "UT", "PN"});
+    switch (representation) {
+    case vr('S', 'H'):
+    case vr('L', 'O'):
+    case vr('S', 'T'):
+    case vr('L', 'T'):
+    case vr('U', 'C'):
+    case vr('U', 'T'):
+    case vr('P', 'N'): return true;
+    default: return false;
+    }
 }
 
 bool hasLongHeader(Vr representation)
 {
-    return !isOneOf(representation, {"AE", "AS", "AT", "CS", "DA", "DS", "DT", "FL", "FD", "IS", "LO",
-                                     "LT", "PN", "SH", "SL", "SS", "ST", "TM", "UI", "UL", "US"});
+    switch (representation) {
+    case vr('A', 'E'):
+    case vr('A', 'S'):
+    case vr('A', 'T'):
+    case vr('C', 'S'):
+    case vr('D', 'A'):
+    case vr('D', 'S'):
+    case vr('D', 'T'):
+    case vr('F', 'D'):
+    case vr('F', 'L'):
+    case vr('I', 'S'):
+    case vr('L', 'O'):
+    case vr('L', 'T'):
+    case vr('P', 'N'):
+    case vr('S', 'H'):
+    case vr('S', 'L'):
+    case vr('S', 'S'):
+    case vr('S', 'T'):
+    case vr('T', 'M'):
+    case vr('U', 'I'):
+    case vr('U', 'L'):
+    case vr('U', 'S'): return false;
+    default: return true;
+    }
 }
 
 } // namespace dravolin

@@ -25,10 +25,10 @@ bool isUpperCase(char c)
     return c >= 'A' && c <= 'Z';
 }
 
-TagNumber tagAt(const Notation &notation, const QByteArray &bytes)
+TagNumber tagAt(const Notation &notation, QByteArrayView bytes)
 {
-    return static_cast<TagNumber>(notation.number16(bytes.constData())) << 16 |
-           notation.number16(bytes.constData() + 2);
+    return static_cast<TagNumber>(notation.number16(bytes.data())) << 16 |
+           notation.number16(bytes.data() + 2);
 }
 
 } // namespace
@@ -99,11 +99,11 @@ ElementReader::Token ElementReader::open(bool isItem, const Notation &inside)
 ElementReader::Token ElementReader::readInSequence()
 {
     const Notation inside = notation();
-    const QByteArray bytes = m_file.read(m_position, shortHeader);
+    const QByteArrayView bytes = m_file.view(m_position, shortHeader);
     if (bytes.size() < shortHeader || m_position + shortHeader > limit())
         return damaged(Texts::tr("ends in the middle of a sequence"));
     const TagNumber tag = tagAt(inside, bytes);
-    const quint32 length = inside.number32(bytes.constData() + 4);
+    const quint32 length = inside.number32(bytes.data() + 4);
     if (tag == sequenceDelimiter && m_open.back().end == undefinedLength) {
         m_position += shortHeader;
         return close();
@@ -121,7 +121,7 @@ ElementReader::Token ElementReader::readInSequence()
 
 ElementReader::Token ElementReader::readElement()
 {
-    const QByteArray bytes = m_file.read(m_position, longHeader);
+    const QByteArrayView bytes = m_file.view(m_position, longHeader);
     if (bytes.size() < shortHeader)
         return damaged(Texts::tr("ends in the middle of an element"));
     const TagNumber tag = tagAt(notation(), bytes);
@@ -140,7 +140,7 @@ ElementReader::Token ElementReader::readElement()
     return open(false, m_current.written == vr('U', 'N') ? implicitLittle : m_current.notation);
 }
 
-bool ElementReader::readHeader(const QByteArray &bytes)
+bool ElementReader::readHeader(QByteArrayView bytes)
 {
     Element &element = m_current;
     if (element.notation.explicitVr) {
@@ -151,7 +151,7 @@ bool ElementReader::readHeader(const QByteArray &bytes)
             return false;
         readExplicitHeader(bytes);
     } else {
-        element.length = element.notation.number32(bytes.constData() + 4);
+        element.length = element.notation.number32(bytes.data() + 4);
         element.lengthField = element.start + 4;
         element.value = element.start + shortHeader;
     }
@@ -162,11 +162,11 @@ bool ElementReader::readHeader(const QByteArray &bytes)
     return true;
 }
 
-void ElementReader::readExplicitHeader(const QByteArray &bytes)
+void ElementReader::readExplicitHeader(QByteArrayView bytes)
 {
     const bool isLong = hasLongHeader(m_current.written);
-    m_current.length = isLong ? m_current.notation.number32(bytes.constData() + 8)
-                              : m_current.notation.number16(bytes.constData() + 6);
+    m_current.length = isLong ? m_current.notation.number32(bytes.data() + 8)
+                              : m_current.notation.number16(bytes.data() + 6);
     m_current.lengthField = m_current.start + (isLong ? 8 : 6);
     m_current.value = m_current.start + static_cast<quint64>(isLong ? longHeader : shortHeader);
 }
@@ -201,11 +201,11 @@ bool ElementReader::stepOverFragments()
 {
     const Notation inside = m_current.notation;
     while (true) {
-        const QByteArray bytes = m_file.read(m_position, shortHeader);
+        const QByteArrayView bytes = m_file.view(m_position, shortHeader);
         if (bytes.size() < shortHeader)
             return false;
         const TagNumber tag = tagAt(inside, bytes);
-        const quint32 length = inside.number32(bytes.constData() + 4);
+        const quint32 length = inside.number32(bytes.data() + 4);
         m_position += shortHeader;
         if (tag == sequenceDelimiter)
             return m_position <= limit();
@@ -225,11 +225,14 @@ quint64 ElementReader::limit() const
 
 bool ElementReader::onlyZerosFollow()
 {
+    constexpr qsizetype tagSize = 4;
     const quint64 rest = m_end - m_position;
-    if (rest > mostPadding || m_file.read(m_position, 1) != QByteArray(1, '\0'))
+    const auto isZero = [](char byte) { return byte == '\0'; };
+    const QByteArrayView tag = m_file.view(m_position, tagSize);
+    if (rest > mostPadding || !std::all_of(tag.begin(), tag.end(), isZero))
         return false;
     const QByteArray bytes = m_file.read(m_position, static_cast<qsizetype>(rest));
-    return quint64(bytes.size()) == rest && bytes.count('\0') == bytes.size();
+    return quint64(bytes.size()) == rest && std::all_of(bytes.begin(), bytes.end(), isZero);
 }
 
 } // namespace dravolin

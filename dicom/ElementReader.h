@@ -80,8 +80,8 @@ private:
     [[nodiscard]] Token open(bool isItem, const Notation &inside);
     [[nodiscard]] Token readInSequence();
     [[nodiscard]] Token readElement();
-    [[nodiscard]] bool readHeader(const QByteArray &bytes);
-    void readExplicitHeader(const QByteArray &bytes);
+    [[nodiscard]] bool readHeader(QByteArrayView bytes);
+    void readExplicitHeader(QByteArrayView bytes);
     [[nodiscard]] bool isSequence() const;
     [[nodiscard]] Token stepOverValue();
     [[nodiscard]] bool stepOverFragments();

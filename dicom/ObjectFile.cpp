@@ -51,18 +51,6 @@ std::optional<OpenObject> openObject(const QString &path, const QString &folder,
     return object.inflatedFile ? std::optional(std::move(object)) : std::nullopt;
 }
 
-QByteArray *fieldOf(ObjectNames &names, TagNumber tag)
-{
-    switch (tag) {
-    case 0x00080016: return &names.sopClass;
-    case 0x00080018: return &names.sopInstance;
-    case 0x00100020: return &names.patientId;
-    case 0x0020000d: return &names.study;
-    case 0x0020000e: return &names.series;
-    default: return nullptr;
-    }
-}
-
 // The names in the data set; a problem when it is damaged before the last of them.
 QString readNames(const OpenObject &object, ObjectNames &names)
 {
@@ -75,7 +63,7 @@ QString readNames(const OpenObject &object, ObjectNames &names)
             return {};
         if (token == Token::Damaged || (token == Token::Sequence && !reader.leaveSequence()))
             return reader.problem();
-        QByteArray *field = token == Token::Element ? fieldOf(names, reader.current().tag) : nullptr;
+        QByteArray *field = token == Token::Element ? names.field(reader.current().tag) : nullptr;
         if (field && reader.current().length <= longestName)
             *field = withoutPadding(reader.value());
     }
@@ -88,18 +76,7 @@ ObjectFacts factsOf(const OpenObject &object)
     facts.modified = object.file->modified();
     facts.names.sopClass = object.prologue.sopClass;
     facts.isDirectory = facts.names.sopClass == mediaDirectory;
-    if (!facts.isDirectory)
-        facts.problem = readNames(object, facts.names);
     return facts;
-}
-
-QByteArray hashOf(SourceFile &file)
-{
-    constexpr qsizetype blockSize = 256 * 1024;
-    Sha256 hash;
-    for (quint64 at = 0; at < file.size(); at += blockSize)
-        hash.add(file.read(at, blockSize));
-    return hash.digits();
 }
 
 bool sendObject(const OpenObject &object, const Prologue &prologue, const Patches &patches, FileSink &sink)
@@ -118,27 +95,40 @@ QString couldNotWrite(int error)
     return Texts::tr("cannot be written: %1").arg(QString::fromLocal8Bit(std::strerror(error)));
 }
 
+// Writes what the object becomes, and takes both hashes on the way; says what went wrong.
+QString sendAndHash(const OpenObject &object, const Patches &patches, Descriptor &output,
+                    TreatedFile &treated)
+{
+    Prologue prologue = object.prologue;
+    prologue.sopClass = treated.facts.names.sopClass;
+    prologue.sopInstance = treated.facts.names.sopInstance;
+    FileSink sink(output.get());
+    object.file->beginHash();
+    const bool sent = sendObject(object, prologue, patches, sink);
+    if (sink.error() != 0)
+        return couldNotWrite(sink.error());
+    const std::optional<QByteArray> hash = object.file->endHash();
+    if (!sent || !hash)
+        return Texts::tr("was changed while it was read");
+    treated.sizeBefore = object.file->size();
+    treated.hashBefore = *hash;
+    treated.sizeAfter = sink.size();
+    treated.hashAfter = sink.digits();
+    return output.close() ? QString() : couldNotWrite(errno);
+}
+
 void writeTarget(const OpenObject &object, const Patches &patches, const QString &target,
                  TreatedFile &treated)
 {
-    const Descriptor output(
+    Descriptor output(
         ::open(systemPath(target).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
     if (!output.isOpen()) {
         treated.facts.problem = couldNotWrite(errno);
         return;
     }
-    Prologue prologue = object.prologue;
-    prologue.sopClass = treated.facts.names.sopClass;
-    prologue.sopInstance = treated.facts.names.sopInstance;
-    FileSink sink(output.get());
-    errno = 0;
-    if (!sendObject(object, prologue, patches, sink)) {
-        treated.facts.problem = errno != 0 ? couldNotWrite(errno) : Texts::tr("changed while it was read");
+    treated.facts.problem = sendAndHash(object, patches, output, treated);
+    if (!treated.facts.problem.isEmpty())
         removeFile(target);
-        return;
-    }
-    treated.sizeAfter = sink.size();
-    treated.hashAfter = sink.digits();
 }
 
 } // namespace
@@ -148,7 +138,12 @@ ObjectFacts readFacts(const QString &path)
     ObjectFacts facts;
     const std::optional<OpenObject> object =
         openObject(path, QString::fromLocal8Bit(P_tmpdir), &facts.problem);
-    return object ? factsOf(*object) : facts;
+    if (!object)
+        return facts;
+    facts = factsOf(*object);
+    if (!facts.isDirectory)
+        facts.problem = readNames(*object, facts.names);
+    return facts;
 }
 
 TreatedFile treatFile(const QString &source, const QString &target, const Treatment &treatment)
@@ -158,20 +153,18 @@ TreatedFile treatFile(const QString &source, const QString &target, const Treatm
     if (!object)
         return treated;
     treated.facts = factsOf(*object);
-    if (treated.facts.isDirectory || !treated.facts.problem.isEmpty())
+    if (treated.facts.isDirectory)
         return treated;
     SourceFile &dataSet = object->dataSet();
     const Rewriting changes =
         rewriting(dataSet, object->begin(), dataSet.size(), object->prologue.syntax.notation, treatment);
     treated.facts.problem = changes.problem;
     treated.movedToUtf8 = changes.movedToUtf8;
-    treated.facts.names.sopInstance = changes.sopInstance;
-    treated.facts.names.series = changes.series;
-    treated.facts.names.study = changes.study;
+    treated.facts.names = changes.names;
+    if (treated.facts.names.sopClass.isEmpty())
+        treated.facts.names.sopClass = object->prologue.sopClass;
     if (!changes.problem.isEmpty())
         return treated;
-    treated.sizeBefore = object->file->size();
-    treated.hashBefore = hashOf(*object->file);
     writeTarget(*object, changes.patches, target, treated);
     return treated;
 }

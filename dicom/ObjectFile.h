@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dicom/ObjectNames.h"
 #include "dicom/Treatment.h"
 
 #include <QByteArray>
@@ -8,18 +9,6 @@
 // DICOM files as a whole.
 namespace dravolin {
 
-// What tells an object from others, without padding; "" for what it does not say.
-struct ObjectNames
-{
-    QByteArray sopClass; // from the file meta information when it has one
-    QByteArray sopInstance;
-    QByteArray series;
-    QByteArray study;
-    QByteArray patientId;
-
-    bool operator==(const ObjectNames &) const = default;
-};
-
 struct ObjectFacts
 {
     QString problem; // why the file cannot be treated, a text for people; "" when it can
@@ -27,7 +16,7 @@ struct ObjectFacts
     bool isDirectory = false;
     quint64 size = 0;    // of the file
     qint64 modified = 0; // nanoseconds since 1970
-    ObjectNames names;
+    ObjectNames names;   // the class is that of the file meta information when the data set has none
 };
 
 // The names of the object in the file at `path`, a text of base/PathText.h. Reads little more than the first

@@ -14,7 +14,7 @@ bool ByteSink::copy(SourceFile &file, quint64 offset, quint64 length)
 {
     while (length > 0) {
         const quint64 wanted = std::min(length, blockSize);
-        const QByteArray bytes = file.read(offset, static_cast<qsizetype>(wanted));
+        const QByteArray bytes = file.readInOrder(offset, static_cast<qsizetype>(wanted));
         if (static_cast<quint64>(bytes.size()) != wanted || !write(bytes))
             return false;
         offset += wanted;

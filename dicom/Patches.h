@@ -27,7 +27,7 @@ class ByteSink
 public:
     virtual ~ByteSink() = default;
     [[nodiscard]] virtual bool write(QByteArrayView bytes) = 0;
-    // A part of a file; false, too, when it could not be read.
+    // A part of a file, behind all that was copied of it before; false, too, when it could not be read.
     [[nodiscard]] virtual bool copy(SourceFile &file, quint64 offset, quint64 length);
     // After the last piece.
     [[nodiscard]] virtual bool finish() { return true; }

@@ -13,9 +13,6 @@ namespace {
 using Token = ElementReader::Token;
 
 constexpr TagNumber characterSetTag = 0x00080005;
-constexpr TagNumber sopInstanceTag = 0x00080018;
-constexpr TagNumber studyTag = 0x0020000d;
-constexpr TagNumber seriesTag = 0x0020000e;
 // of a character set, a creator or a UID; a longer one is none
 constexpr quint64 longestNoted = 4096;
 
@@ -40,7 +37,7 @@ private:
     [[nodiscard]] bool changeElement(const Element &element);
     [[nodiscard]] bool insertBefore(TagNumber tag, quint64 offset);
     void noteSurroundings(const Element &element);
-    void noteValue(TagNumber tag, const QByteArray &value);
+    void noteValue(TagNumber tag, const std::optional<QByteArray> &value);
     [[nodiscard]] bool fail(const QString &problem);
 
     ElementReader &m_reader;
@@ -97,7 +94,8 @@ void Rewriter::noteSurroundings(const Element &element)
         return;
     const bool stays = !m_change.erasesPrivate(element.tag, m_levels.surroundings());
     if (elementOf(element.tag) == 0 && element.length == 4 && stays)
-        m_levels.setGroupLength(element, element.notation.number32(m_reader.value().constData()));
+        m_levels.setGroupLength(
+            element, element.notation.number32(m_reader.value().leftJustified(4, '\0').constData()));
     else if (element.tag == characterSetTag)
         m_levels.surroundings().characterSet = withoutPadding(m_reader.value());
     else if (isPrivate(element.tag) && elementOf(element.tag) <= 0xff)
@@ -138,7 +136,7 @@ bool Rewriter::changeElement(const Element &element)
     else if (change.erase)
         m_levels.replace(element.start, size, {});
     if (m_levels.isTop() && !change.erase)
-        noteValue(element.tag, change.value.value_or(QByteArray()));
+        noteValue(element.tag, change.value);
     return true;
 }
 
@@ -159,17 +157,12 @@ bool Rewriter::insertBefore(TagNumber tag, quint64 offset)
     return true;
 }
 
-// An empty value stands for the one in the file.
-void Rewriter::noteValue(TagNumber tag, const QByteArray &value)
+// Without a value it is the one in the file.
+void Rewriter::noteValue(TagNumber tag, const std::optional<QByteArray> &value)
 {
-    if (value.isEmpty() && m_reader.current().length > longestNoted)
-        return;
-    QByteArray *noted = tag == sopInstanceTag ? &m_result.sopInstance
-                        : tag == seriesTag    ? &m_result.series
-                        : tag == studyTag     ? &m_result.study
-                                              : nullptr;
-    if (noted)
-        *noted = withoutPadding(value.isEmpty() ? m_reader.value() : value);
+    QByteArray *noted = m_result.names.field(tag);
+    if (noted && (value || m_reader.current().length <= longestNoted))
+        *noted = withoutPadding(value ? *value : m_reader.value());
 }
 
 bool Rewriter::fail(const QString &problem)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dicom/ElementReader.h"
+#include "dicom/ObjectNames.h"
 #include "dicom/Patches.h"
 #include "dicom/Treatment.h"
 
@@ -15,10 +16,7 @@ struct Rewriting
     QString problem; // a text for people; "" when there is none
     Patches patches;
     bool movedToUtf8 = false; // because a new value would not go into the object's own character set
-    // the values that the result has at its top level
-    QByteArray sopInstance;
-    QByteArray series;
-    QByteArray study;
+    ObjectNames names;        // of the result
 };
 
 // The data set from `begin` to `end` of `file`. Lengths of the sequences, items and groups that hold a change

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "dicom/Sha256.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 // Bytes of files by position. An object belongs to one thread.
 namespace dravolin {
@@ -21,6 +24,8 @@ public:
 
     [[nodiscard]] int get() const { return m_fd; }
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
+    // Before its owner does; false, with errno, when something that was written is lost.
+    [[nodiscard]] bool close();
 
 private:
     int m_fd;
@@ -47,16 +52,30 @@ public:
 
     // `length` bytes from `offset`; fewer when the file ends there or cannot be read.
     [[nodiscard]] QByteArray read(quint64 offset, qsizetype length);
+    // The same for a few bytes, not copied; holds until the next call.
+    [[nodiscard]] QByteArrayView view(quint64 offset, qsizetype length);
+
+    // SHA-256 of the whole file, without reading its bytes twice: between beginHash() and endHash(), pieces
+    // that readInOrder() gives, each behind the last one, are hashed on the way, for `other` as well, and
+    // what lies between them is read for the hash alone. Nothing when not all could be read, or when the file
+    // has been changed since it was opened.
+    void beginHash() { m_hash.emplace(); }
+    [[nodiscard]] QByteArray readInOrder(quint64 offset, qsizetype length, Sha256 *other = nullptr);
+    [[nodiscard]] std::optional<QByteArray> endHash();
 
 private:
     static constexpr qsizetype windowSize = 16384;
-    [[nodiscard]] QByteArray readNow(quint64 offset, qsizetype length) const;
+    void readInto(QByteArray &bytes, quint64 offset, qsizetype length) const;
+    void hashUpTo(quint64 offset);
+    [[nodiscard]] bool isUnchanged() const;
 
     Descriptor m_descriptor;
     quint64 m_size = 0;
     qint64 m_modified = 0;
     QByteArray m_window;
     quint64 m_windowStart = 0;
+    std::optional<Sha256> m_hash;
+    quint64 m_hashed = 0; // bytes, from the beginning
 };
 
 } // namespace dravolin

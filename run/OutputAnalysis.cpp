@@ -14,35 +14,35 @@ namespace dravolin {
 
 namespace {
 
-// "%1" and "%2" become the number and its plural suffix.
-QString withCount(const QString &text, quint64 number)
-{
-    return text.arg(QString::number(number), NOXUtils::pluralSuffix(number));
-}
-
-QString tableCounts(const QString &text, const RunReport &report)
-{
-    return text.arg(
-        QString::number(report.numLUTadaptedFiles), NOXUtils::pluralSuffix(report.numLUTadaptedFiles),
-        QString::number(report.numLUTskippedFiles), NOXUtils::pluralSuffix(report.numLUTskippedFiles));
-}
-
 QString firstSummary(const RunReport &report)
 {
-    if (report.errCount != 0)
-        return report.constructing
-                   ? withCount(
-                         Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
-                                   "See messages logged to console."),
-                         report.errCount)
-                   : withCount(Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console."),
-                               report.errCount);
+    const quint64 errors = report.errCount;
+    const int form = pluralNumber(errors);
+    if (errors != 0)
+        return withCounts(
+            report.constructing
+                ? Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
+                            "See messages logged to console.",
+                            nullptr, form)
+                : Texts::tr("Done...\nEncountered %1 error%2.\nSee messages logged to console.", nullptr,
+                            form),
+            {errors});
     if (report.constructing)
         return Texts::tr("\nDone constructing LUT. File placed on Desktop.");
     if (report.usingLUT)
-        return tableCounts(Texts::tr("Done!\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4."),
-                           report);
+        return withCounts(Texts::tr("Done!\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.",
+                                    nullptr, pluralNumber(report.numLUTadaptedFiles)),
+                          {report.numLUTadaptedFiles, report.numLUTskippedFiles});
     return Texts::tr("\nDone!");
+}
+
+QString summaryWithErrors(quint64 filesWithErrors, quint64 errorLines)
+{
+    if (filesWithErrors == 0)
+        return withCounts(Texts::tr("\nDone, with %1 error%2.", nullptr, pluralNumber(errorLines)),
+                          {errorLines});
+    return withCounts(Texts::tr("\nDone. %1 file%2 with errors.", nullptr, pluralNumber(filesWithErrors)),
+                      {filesWithErrors});
 }
 
 // An optional sign and ASCII digits; 0 when there are none, saturating at 64 bits.
@@ -179,8 +179,9 @@ QString logNotes(const RunReport &report)
     if (report.constructing)
         notes = Texts::tr("\n\nConstructed LUT file placed on Desktop.\n\n");
     else if (report.usingLUT)
-        notes = tableCounts(Texts::tr("\n\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.\n\n"),
-                            report);
+        notes = withCounts(Texts::tr("\n\nLUT tag propagated to %1 file%2.\nSkipped %3 DICOM file%4.\n\n",
+                                     nullptr, pluralNumber(report.numLUTadaptedFiles)),
+                           {report.numLUTadaptedFiles, report.numLUTskippedFiles});
     if (report.DICOMDIRpaths.isEmpty())
         return notes;
     return notes +
@@ -210,12 +211,12 @@ RunJudgement judgeOutput(const RunReport &report)
     judgement.summary = firstSummary(report);
     judgement.logText = lines.logText();
     judgement.refused = report.errCount != 0;
+    judgement.hasErrors = lines.errorLines() != 0 || lines.filesWithErrors() != 0;
+    judgement.constructed = report.constructing && !judgement.refused;
     if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())
         return judgement;
     judgement.wantsLogWindow = true;
-    judgement.summary = lines.filesWithErrors() == 0
-                            ? withCount(Texts::tr("\nDone, with %1 error%2."), lines.errorLines())
-                            : withCount(Texts::tr("\nDone. %1 file%2 with errors."), lines.filesWithErrors());
+    judgement.summary = summaryWithErrors(lines.filesWithErrors(), lines.errorLines());
     judgement.logText += logNotes(report);
     return judgement;
 }

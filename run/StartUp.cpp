@@ -4,6 +4,8 @@
 #include "run/jobs/JobRunner.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 #include <csignal>
@@ -22,6 +24,13 @@ void writeUnlessStuck(QtMsgType type, const QMessageLogContext &context, const Q
         usualHandler(type, context, message);
 }
 
+bool install(const QLocale &locale, const QString &table, const QString &folder)
+{
+    auto *const texts = new QTranslator(QCoreApplication::instance());
+    return texts->load(locale, table, QStringLiteral("_"), folder) &&
+           QCoreApplication::installTranslator(texts);
+}
+
 } // namespace
 
 void prepareProcess()
@@ -34,12 +43,25 @@ void prepareProcess()
     usualHandler = qInstallMessageHandler(writeUnlessStuck);
 }
 
-void startUp(const AppPaths &paths, const QLocale &locale)
+bool useLanguage(const QString &language, const QString &folder)
+{
+    const QLocale locale(language);
+    if (!install(locale, QStringLiteral("dravolin"), folder))
+        return false;
+    // the toolkit's own texts, those of its file chooser for instance; it may not have them
+    (void)install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return true;
+}
+
+void startUp(const AppPaths &paths, const QStringList &languages)
 {
     allowLongArgumentLists();
-    auto *const texts = new QTranslator(QCoreApplication::instance());
-    if (texts->load(locale, QStringLiteral("dravolin"), QStringLiteral("_"), paths.resourceFolder))
-        QCoreApplication::installTranslator(texts);
+    for (const QString &language : languages) {
+        // the texts themselves are English: whoever prefers it to a language behind it has no table
+        if (QLocale(language).language() == QLocale::English ||
+            useLanguage(language, paths.translationsFolder()))
+            return;
+    }
 }
 
 } // namespace dravolin

@@ -3,6 +3,7 @@
 #include "config/AppPaths.h"
 
 #include <QLocale>
+#include <QStringList>
 
 namespace dravolin {
 
@@ -12,8 +13,12 @@ namespace dravolin {
 void prepareProcess();
 
 // What a front end owes the core once, at start, on the main thread, when there is an application object:
-// long argument lists for child processes, and the translation of `locale` (dravolin_XX.qm among the
-// resources; none is no error) installed in the application.
-void startUp(const AppPaths &paths, const QLocale &locale = QLocale());
+// long argument lists for child processes, and texts in the first of `languages` that is English or that
+// there is a table for. Languages are named as QLocale::uiLanguages() names them, the most wanted first.
+void startUp(const AppPaths &paths, const QStringList &languages = QLocale::system().uiLanguages());
+
+// Installs the table of `language` in the application, dravolin_LANGUAGE.qm in `folder`, and with it that of
+// the toolkit's own texts. False, and nothing is installed, when there is none. Main thread only.
+[[nodiscard]] bool useLanguage(const QString &language, const QString &folder);
 
 } // namespace dravolin

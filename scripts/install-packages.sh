@@ -7,20 +7,24 @@
 #   run      what the built program calls when it runs
 #   desktop  a screen without a monitor, and what drives a program on it
 #   test     what the tests need beside these
+#   fuzz     what scripts/fuzz.sh needs beside what building needs
 #   package  what makes and checks the Debian package
 set -eu
 
 packages_of() {
     case "$1" in
-        build) echo build-essential cmake ninja-build qt6-base-dev dcmtk libdcmtk-dev libgdcm-dev libssl-dev zlib1g-dev \
-            libqt6sql6-sqlite ;;
+        build) echo build-essential cmake ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools dcmtk libdcmtk-dev libgdcm-dev \
+            libssl-dev zlib1g-dev libqt6sql6-sqlite ;;
         run) echo dcmtk libdcmtk17 libgdcm3.0 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 \
-            libqt6dbus6 xdg-utils fonts-dejavu-core ;;
+            libqt6dbus6 qt6-translations-l10n xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
-            gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core ;;
-        test) echo python3 dcmtk dicom3tools libgmp-dev clang-format clang-tidy ;;
+            gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
+            pcmanfm libatk-adaptor libgail-common adwaita-icon-theme ;;
+        test) echo python3 dcmtk dicom3tools libgdcm-tools libgmp-dev clang-format clang-tidy qt6-translations-l10n \
+            fonts-noto-cjk sway grim qt6-wayland ;;
+        fuzz) echo clang libclang-rt-dev python3 ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, package)" >&2; exit 2 ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, package)" >&2; exit 2 ;;
     esac
 }
 

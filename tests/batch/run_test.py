@@ -16,6 +16,7 @@ import unittest
 
 CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
 RULES = ("0008,0080\tInstitution\n0008,0090\tReferring\tnobody\n0010,0030\tBirth date\n0010,0040\tSex\n"
+         "0008,0020\tStudy date\n0020,0010\tStudy ID\n0040,a121\tDate\n0040,a123\tPerson\n"
          "0010,1010\tAge\t030Y\n0008,1030\tStudy description\ta \"quoted\" one\n")
 
 
@@ -70,12 +71,13 @@ class Run(unittest.TestCase):
         (self.folder / "in/planted.json").unlink()
         before = tree(self.folder / "in")
         self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
-        self.call("run", "list.csv", "--keep-private", "--keep-uids")
+        self.call("run", "list.csv", "--keep-private", "--keep-uids", status=1)  # names stay
         self.assertEqual(tree(self.folder / "in"), before)
 
         # -le, or private sequences that nothing tells from bytes would be written with lengths
         tool = ["dcmodify", "-ie", "-imt", "-nb", "-le", "-ea", "(0008,0050)", "-ea", "(0008,0080)", "-ea", "(0010,0030)",
-                "-ea", "(0010,0040)", "-ea", "(0032,4000)", "-i", "(0008,0090)=nobody", "-i", "(0010,1010)=030Y",
+                "-ea", "(0010,0040)", "-ea", "(0032,4000)",
+                "-ea", "(0008,0020)", "-ea", "(0020,0010)", "-ea", "(0040,a121)", "-ea", "(0040,a123)", "-i", "(0008,0090)=nobody", "-i", "(0010,1010)=030Y",
                 "-i", '(0008,1030)=a "quoted" one', "-i", "(0010,0010)=Case", "-i", "(0010,0020)=17"]
         expected = []
         for number, path in enumerate(p for p in sorted((self.folder / "in").rglob("*")) if p.is_file()):
@@ -145,7 +147,7 @@ class Run(unittest.TestCase):
         self.call("run", "list.csv")
         before = tree(self.folder / "out")
         changed = next(path for path in sorted((self.folder / "in").rglob("*")) if path.is_file())
-        subprocess.run(["dcmodify", "-nb", "-i", "(0008,103e)=changed", str(changed)], check=True)
+        subprocess.run(["dcmodify", "-nb", "-i", "(0018,0050)=5", str(changed)], check=True)
         self.call("run", "list.csv")
         after = tree(self.folder / "out")
         self.assertEqual(before.keys(), after.keys())

@@ -22,8 +22,9 @@ private Q_SLOTS:
 void TestCaseList::readsEveryColumn()
 {
     const CaseList list = parseCaseList(
-        QStringLiteral("case_id;source;destination;diagnosis;keywords;credits;configuration;table;uid_root\n"
-                       " 7 ;in;/out;d;k;c;conf.txt;lut.txt;1.2\n"),
+        QStringLiteral(
+            "case_id;source;destination;diagnosis;keywords;credits;configuration;table;uid_root;identifiers\n"
+            " 7 ;in;/out;d;k;c;conf.txt;lut.txt;1.2;ids.txt\n"),
         QStringLiteral("/lists"));
     QCOMPARE(list.problems, QList<ListProblem>());
     const CaseRow expected = {2,
@@ -35,7 +36,8 @@ void TestCaseList::readsEveryColumn()
                               QStringLiteral("c"),
                               QStringLiteral("/lists/conf.txt"),
                               QStringLiteral("/lists/lut.txt"),
-                              QStringLiteral("1.2")};
+                              QStringLiteral("1.2"),
+                              QStringLiteral("/lists/ids.txt")};
     QCOMPARE(list.rows, QList<CaseRow>{expected});
 }
 

@@ -47,13 +47,22 @@ void TestByteWalk::countsWhatTheLibraryReads_data()
         QTest::newRow(rowName) << file << values;
     };
     const QByteArray creator = element(0x00090010, "LO", "MAKER");
+    const QByteArray odd = elementOfLength(0x00100020, "LO", 3, "odd");
     const QByteArray implicitItem = item(implicitElement(0x00100020, "PID-1"));
     row("flat", object(name + id), 2);
+    row("meta information without its length",
+        QByteArray(128, '\0') + "DICM" + element(0x00020010, "UI", "1.2.840.10008.1.2.1") + name + id, 2);
+    row("meta information of a wrong length", object(name).replace(140, 4, little32(2)), 1);
+    row("no meta information", QByteArray(128, '\0') + "DICM" + name + id, 2);
+    row("no preamble", object(name).sliced(132), 1);
+    row("an unknown transfer syntax", object(name, "1.2.3.4"), 1);
     row("empty value", object(element(0x00080050, "SH", "") + name), 1);
     row("sequence with lengths", object(sequence(0x00081120, item(name + id) + item(name)) + name), 4);
     row("open sequence", object(openSequence(0x00081120, openItem(name + id) + openItem(name)) + name), 4);
     row("open sequence of items with lengths", object(openSequence(0x00081120, item(name)) + name), 2);
     row("empty sequence", object(sequence(0x00081120, {}) + name), 1);
+    row("odd items that nobody measures", object(openSequence(0x00081120, openItem(odd) + item(odd)) + name),
+        3);
     row("a hundred deep", object(nested(deepestNesting - 1) + name), 1);
     row("private attributes", object(creator + element(0x00091001, "UN", "secret") + name), 3);
     row("unknown sequence",
@@ -127,6 +136,25 @@ void TestByteWalk::refusesBrokenObjects_data()
     row("cut in a header", object(name + id.first(5)), u"it ends inside an attribute");
     row("open text", object(elementOfLength(0x00091001, "UT", undefinedLength, "Meier")),
         u"an attribute without sequence has no length");
+    const QByteArray odd = elementOfLength(0x00100020, "LO", 3, "odd");
+    row("odd item", object(sequence(0x00081120, item(odd))), u"an item has an odd length");
+    row("odd item without length", object(elementOfLength(0x00081120, "SQ", 27, openItem(odd))),
+        u"an item has an odd length");
+    row("pixel data as a sequence", object(openSequence(0x7FE00010, openItem(name))),
+        u"its pixel data is a sequence");
+    row("nested pixel data as a sequence",
+        object(sequence(0x00880200, item(sequence(0x7FE00010, item(name))))),
+        u"its pixel data is a sequence");
+    row("open pixel data of another VR",
+        object(elementOfLength(0x7FE00010, "UT", undefinedLength, item("abcd") + sequenceEnd)),
+        u"an attribute without sequence has no length");
+    row("a sequence in the meta information",
+        QByteArray(128, '\0') + "DICM" + sequence(0x00020100, item(name)) + name,
+        u"its meta information is broken");
+    row("an end of items with a length",
+        object(elementOfLength(0x00081120, "SQ", undefinedLength,
+                               item(name) + tagBytes(0xFFFEE0DD) + little32(2) + "xx")),
+        u"a sequence holds something else than items");
     row("broken meta information",
         QByteArray(128, '\0') + "DICM" + elementOfLength(0x00020010, "UI", 100, "1.2"),
         u"its meta information is broken");

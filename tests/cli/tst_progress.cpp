@@ -1,3 +1,4 @@
+#include "cli/BatchTexts.h"
 #include "cli/Progress.h"
 #include "support/TestEntry.h"
 
@@ -13,6 +14,7 @@ class TestProgress : public QObject
 private Q_SLOTS:
     void tellsFilesRateAndTimeLeft_data();
     void tellsFilesRateAndTimeLeft();
+    void tellsCasesOfARun();
     void showsABarAndTakesItAway();
     void saysNothingAtFirstInLines();
     void saysNothingWhenItIsNotWanted();
@@ -39,6 +41,16 @@ void TestProgress::tellsFilesRateAndTimeLeft()
     QFETCH(const qint64, milliseconds);
     QTEST(progressText({.searching = false, .files = files, .allFiles = 40, .bytes = bytes}, milliseconds),
           "expected");
+}
+
+void TestProgress::tellsCasesOfARun()
+{
+    BatchProgress progress = {.files = 10, .allFiles = 40, .bytes = 20'000'000, .cases = 1, .allCases = 3};
+    QCOMPARE(progressText(progress, 5'000),
+             QStringLiteral("10 of 40 files, 1 of 3 cases, 4.0 MB/s, 15 s left"));
+    progress.checked = 7;
+    progress.toCheck = 20;
+    QCOMPARE(progressText(progress, 5'000), QStringLiteral("checking case 2 of 3: 7 of 20 files"));
 }
 
 void TestProgress::showsABarAndTakesItAway()

@@ -161,7 +161,7 @@ void TestObjectFile::refusesWhatItCannotTreat_data()
     QTest::newRow("zeros") << file("zeros") << file("is no DICOM file");
     QTest::newRow("a folder") << file("folder") << file("is no regular file");
     QTest::newRow("a pipe") << file("pipe") << file("is no regular file");
-    QTest::newRow("a link") << file("link") << file("cannot be opened: Too many levels of symbolic links");
+    QTest::newRow("a link") << file("link") << file("is a link");
     QTest::newRow("no transfer syntax") << file("nameless") << file("does not say its transfer syntax");
     QTest::newRow("truncated") << file("truncated") << file("ends in the middle of (0010,0010)");
     QTest::newRow("deflated, damaged") << file("deflated") << file("cannot be inflated");

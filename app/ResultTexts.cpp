@@ -1,0 +1,58 @@
+#include "app/ResultTexts.h"
+
+#include "base/Texts.h"
+
+#include <QStringList>
+
+namespace dravolin {
+
+namespace {
+
+QString constructionFacts(quint64 rows)
+{
+    if (rows == 0)
+        return Texts::tr("No value found, no file changed");
+    return rows == 1 ? Texts::tr("1 value found, no file changed")
+                     : Texts::tr("%n values found, no file changed", nullptr, pluralNumber(rows));
+}
+
+QString changed(const FileCounts &files)
+{
+    if (files.changed == 0)
+        return files.unchanged == 0 ? Texts::tr("No file found") : Texts::tr("No file changed");
+    return files.changed == 1 ? Texts::tr("1 file changed")
+                              : Texts::tr("%n files changed", nullptr, pluralNumber(files.changed));
+}
+
+} // namespace
+
+StatusIcon::Kind kindOf(const RunJudgement &judgement)
+{
+    if (judgement.refused)
+        return StatusIcon::Kind::Refused;
+    if (judgement.hasErrors)
+        return StatusIcon::Kind::Errors;
+    const quint64 done = judgement.constructed ? judgement.constructedRows : judgement.files.changed;
+    return done == 0 || judgement.wantsLogWindow ? StatusIcon::Kind::Attention : StatusIcon::Kind::Done;
+}
+
+QString factsOf(const RunJudgement &judgement)
+{
+    if (judgement.refused)
+        return Texts::tr("No file changed");
+    if (judgement.constructed)
+        return constructionFacts(judgement.constructedRows);
+    const FileCounts &files = judgement.files;
+    QStringList facts = {changed(files)};
+    if (files.unchanged > 0)
+        facts.append(Texts::tr("%n unchanged", nullptr, pluralNumber(files.unchanged)));
+    if (files.leftOut > 0)
+        facts.append(Texts::tr("%n left out", nullptr, pluralNumber(files.leftOut)));
+    if (files.folders == 1)
+        facts.append(Texts::tr("in 1 folder"));
+    else if (files.folders > 1)
+        facts.append(Texts::tr("in %n folders", nullptr, pluralNumber(files.folders)));
+    return facts.join(Texts::tr(", "));
+}
+
+} // namespace dravolin

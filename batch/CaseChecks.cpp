@@ -1,0 +1,134 @@
+#include "batch/CaseChecks.h"
+
+#include "base/Files.h"
+#include "base/PathText.h"
+#include "base/Texts.h"
+#include "batch/Evidence.h"
+#include "check/Report.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace dravolin {
+
+namespace {
+
+// What the run itself writes into results.
+QStringList setValues(const PlannedCase &planned)
+{
+    const CaseRow &row = planned.row;
+    QStringList values = {row.caseId,
+                          row.diagnosis,
+                          row.keywords,
+                          row.credits,
+                          row.uidRoot,
+                          QString::fromLatin1(planned.studyUid),
+                          deidentificationMethod()};
+    for (const QString &value : planned.table)
+        values.append(value);
+    values.sort(); // a table has no order
+    return values;
+}
+
+check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &batch,
+                               const QHash<QString, FileRecord> &records)
+{
+    check::CheckOptions options;
+    options.originals = planned.row.source;
+    options.result = planned.row.destination;
+    options.identifiers = planned.identifiers;
+    options.setValues = setValues(planned);
+    for (const FileRecord &record : records)
+        if (!record.result.isEmpty())
+            options.renamed.insert(record.path, record.result);
+    options.rules = planned.configuration;
+    options.uids = batch.mapUids;
+    options.workers = batch.workers;
+    return options;
+}
+
+// Everything that decides what a check finds, in one hash.
+QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &options,
+                     const QHash<QString, FileRecord> &records)
+{
+    QStringList lines = {QStringLiteral(DRAVOLIN_VERSION), options.originals, options.result,
+                         QString::number(options.uids)};
+    for (auto rule = options.rules->newValueDict.begin(); rule != options.rules->newValueDict.end(); ++rule)
+        lines.append(rule.key() + u'\t' + rule.value());
+    lines += options.rules->allTagsToAnonymize + options.identifiers + options.setValues;
+    for (const PlannedFile &file : planned.files)
+        lines.append(QStringLiteral("%1\t%2\t%3\t%4")
+                         .arg(file.path, QString::number(file.size), QString::number(file.modified),
+                              QString::fromLatin1(records.value(file.path).hashAfter)));
+    return QCryptographicHash::hash(toBytes(lines.join(u'\n')), QCryptographicHash::Sha256);
+}
+
+} // namespace
+
+QString caseReports(const QString &caseId)
+{
+    constexpr qsizetype longestName = 200;
+    QByteArray name = QUrl::toPercentEncoding(caseId);
+    if (name.startsWith('.') || name.size() > longestName)
+        name = QCryptographicHash::hash(caseId.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return joinPath(QStringLiteral("cases"), QString::fromLatin1(name));
+}
+
+CaseChecks::CaseChecks(const Plan &plan, const BatchOptions &options, Journal &journal, const Events &events)
+    : m_plan(plan), m_options(options), m_journal(journal), m_events(events), m_findings(plan.cases.size())
+{
+}
+
+bool CaseChecks::check(qsizetype index)
+{
+    const PlannedCase &planned = m_plan.cases.at(index);
+    const QString &caseId = planned.row.caseId;
+    const QHash<QString, FileRecord> records = m_journal.files(caseId);
+    const QByteArray subject = subjectOf(planned, optionsFor(planned, m_options, records), records);
+    const QString report = joinPath(joinPath(evidenceFolder(m_options.runFolder), caseReports(caseId)),
+                                    QStringLiteral("report.json"));
+    const QByteArray known = pathExists(report) ? m_journal.checked(caseId, subject) : QByteArray();
+    if (!known.isEmpty()) {
+        m_findings[index] = findingsFrom(QJsonDocument::fromJson(known).object());
+        return true;
+    }
+    m_hasChecked = true;
+    m_findings[index] = checkNow(planned, records);
+    if (!m_findings[index])
+        return false;
+    const QByteArray json = QJsonDocument(jsonOf(*m_findings[index])).toJson(QJsonDocument::Compact);
+    if (!m_journal.setChecked(caseId, subject, json))
+        m_failure = Texts::tr("the journal cannot be written");
+    return m_failure.isEmpty();
+}
+
+std::optional<CaseFindings> CaseChecks::checkNow(const PlannedCase &planned,
+                                                 const QHash<QString, FileRecord> &records)
+{
+    const check::CheckOptions options = optionsFor(planned, m_options, records);
+    const QString folder = joinPath(evidenceFolder(m_options.runFolder), caseReports(planned.row.caseId));
+    check::ReportWriter writer(folder, {options, m_options.atLeast, QDateTime::currentDateTime()});
+    check::CheckEvents events;
+    events.progress = m_events.progress;
+    events.stop = m_events.stop;
+    events.findings = [&writer](const QString &file, const QList<check::Finding> &findings,
+                                const check::Patterns &patterns) { writer.add(file, findings, patterns); };
+    if (!writer.begin()) {
+        m_failure = writer.error();
+        return std::nullopt;
+    }
+    const check::CheckReport report = check::check(options, events);
+    if (m_events.stop())
+        return std::nullopt;
+    if (!writer.end(report)) {
+        m_failure = writer.error();
+        return std::nullopt;
+    }
+    return findingsOf(report);
+}
+
+} // namespace dravolin

@@ -1,0 +1,143 @@
+#!/usr/bin/env python3
+"""What a run of dravolin-cli says about its results: evidence_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
+
+import csv
+import hashlib
+import html
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+
+CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
+
+
+class Evidence(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = pathlib.Path(scratch.name)
+
+    def make(self, name, seed=1, count=5):
+        """Objects that name somebody; gives these values."""
+        subprocess.run([sys.executable, MAKE_OBJECTS, "mixed", self.folder / name, "--count", str(count),
+                        "--seed", str(seed), "--no-directory"], check=True, stdout=subprocess.DEVNULL)
+        planted = self.folder / name / "planted.json"
+        described = json.loads(planted.read_text(encoding="utf-8"))
+        planted.unlink()
+        return {value["value"] for one in described["files"] for value in one["planted"]}
+
+    def run_list(self, *rows, options=(), status=0):
+        """Carries out a list of the columns that the rows name, and gives what was printed."""
+        with open(self.folder / "list.csv", "w", encoding="utf-8", newline="") as file:
+            table = csv.DictWriter(file, rows[0].keys())
+            table.writeheader()
+            table.writerows(rows)
+        done = subprocess.run([CLI, "run", "list.csv", *options], cwd=self.folder, capture_output=True,
+                              text=True, check=False)
+        self.assertEqual(done.returncode, status, done.stdout + done.stderr)
+        return done.stdout
+
+    def report(self):
+        return json.loads((self.folder / "list.run/evidence/report.json").read_text(encoding="utf-8"))
+
+    @staticmethod
+    def row(source, case_id, **more):
+        return {"source": source, "destination": "out" + case_id, "case_id": case_id, "diagnosis": "Case",
+                **more}
+
+    def write_rules(self, *lines):
+        default = pathlib.Path(CLI).parent / "resources/DefaultAnonymizationConfiguration.txt"
+        text = default.read_text(encoding="utf-8")
+        kept = [line for line in text.splitlines() if not line[1:].startswith(lines)]
+        (self.folder / "rules.txt").write_text("\n".join(kept) + "\n", encoding="utf-8")
+
+    def test_says_what_was_done_by_which_rules(self):
+        self.make("first")
+        self.make("second", seed=2)
+        self.run_list(self.row("first", "17"), self.row("second", "18"))
+        report = self.report()
+        self.assertEqual([(case["caseId"], case["done"], case["notDone"]) for case in report["cases"]],
+                         [("17", 5, 0), ("18", 5, 0)])
+        self.assertEqual(report["listSha256"],
+                         hashlib.sha256((self.folder / "list.csv").read_bytes()).hexdigest())
+        page = (self.folder / "list.run/evidence/report.html").read_text(encoding="utf-8")
+        for text in (report["listSha256"], report["cases"][0]["configurationSha256"], report["program"],
+                     "Signature", "The folder secret", "none of the originals' values was found"):
+            self.assertIn(text, html.unescape(page))
+
+    def test_can_be_passed_on_but_for_what_is_secret(self):
+        planted = {value for value in self.make("in") if len(value) > 4}
+        self.assertTrue(planted)
+        self.write_rules("020,0010", "008,0020", "010,1000")
+        self.run_list(self.row("in", "17", configuration="rules.txt"), status=1)
+        run = self.folder / "list.run"
+        files = [path for path in (run / "evidence").rglob("*") if path.is_file()]
+        self.assertEqual({path.name for path in files}, {"report.html", "report.json", "files.csv"})
+        for path in files:
+            text = path.read_text(encoding="utf-8")
+            self.assertEqual([value for value in planted if value in text], [], path)
+        self.assertEqual((run / "secret").stat().st_mode & 0o777, 0o700)
+        for path in (run / "secret").iterdir():
+            self.assertEqual(path.stat().st_mode & 0o777, 0o600, path)
+
+    def test_ends_with_one_when_a_value_is_found(self):
+        self.make("in")
+        self.write_rules("020,0010")
+        row = self.row("in", "17", configuration="rules.txt")
+        printed = self.run_list(row, status=1)
+        self.assertIn("certain   Study ID (0020,0010)", printed)
+        self.assertIn("0020,0010\tStudy ID", printed)
+        again = self.run_list(row, status=1)
+        self.assertEqual(again, "Nothing is left to be done.\n" + re.sub("The check took .*\n", "", printed))
+
+    def test_lets_a_grade_decide(self):
+        self.make("in")
+        self.write_rules("008,0020")
+        row = self.row("in", "17", configuration="rules.txt")
+        self.assertIn("possible  Study Date (0008,0020)", self.run_list(row, status=1))
+        self.run_list(row, options=("--at-least", "likely"))
+        self.assertEqual(self.report()["atLeast"], "likely")
+
+    def test_does_not_find_what_the_run_has_set(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0010,0020)=17-KLM-93", "-i", "(0008,1030)=Knee", source],
+                       check=True)
+        self.run_list({**self.row("in", "17-KLM-93"), "diagnosis": "Knee"})
+
+    def test_searches_the_identifiers_of_the_list(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0018,0015)=TRIAL-77123", source], check=True)
+        (self.folder / "known.txt").write_text("TRIAL-77123\n", encoding="utf-8")
+        row = self.row("in", "17", identifiers="known.txt")
+        self.assertIn("certain   Body Part Examined (0018,0015): 1 file, from list of identifiers",
+                      self.run_list(row, status=1))
+        (self.folder / "known.txt").write_text("TRIAL-99999\n", encoding="utf-8")
+        self.assertIn("nothing found", self.run_list(row))
+
+    def test_checks_a_source_that_is_one_file(self):
+        self.make("in", count=3)
+        source = next(path for path in sorted((self.folder / "in").rglob("*")) if path.is_file())
+        self.run_list(self.row(str(source), "17"))
+        self.assertEqual(self.report()["cases"][0]["check"]["notChecked"], 0)
+
+    def test_takes_back_the_result_of_a_file_that_is_gone(self):
+        self.make("in", count=3)
+        self.run_list(self.row("in", "17"))
+        next(path for path in sorted((self.folder / "in").rglob("*")) if path.is_file()).unlink()
+        self.run_list(self.row("in", "17"))
+        left = [path for path in (self.folder / "out17").rglob("*") if path.is_file()]
+        self.assertEqual(len(left), 2)
+        table = (self.folder / "list.run/evidence/files.csv").read_text(encoding="utf-8")
+        self.assertEqual(len(table.splitlines()), 3)
+
+
+if __name__ == "__main__":
+    os.environ.pop("DCMDICTPATH", None)
+    unittest.main(argv=sys.argv[:1])
