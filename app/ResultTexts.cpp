@@ -12,16 +12,14 @@ QString constructionFacts(quint64 rows)
 {
     if (rows == 0)
         return Texts::tr("No value found, no file changed");
-    return rows == 1 ? Texts::tr("1 value found, no file changed")
-                     : Texts::tr("%n values found, no file changed", nullptr, pluralNumber(rows));
+    return withCounts(Texts::tr("%1 value%2 found, no file changed", nullptr, pluralNumber(rows)), {rows});
 }
 
 QString changed(const FileCounts &files)
 {
     if (files.changed == 0)
         return files.unchanged == 0 ? Texts::tr("No file found") : Texts::tr("No file changed");
-    return files.changed == 1 ? Texts::tr("1 file changed")
-                              : Texts::tr("%n files changed", nullptr, pluralNumber(files.changed));
+    return withCounts(Texts::tr("%1 file%2 changed", nullptr, pluralNumber(files.changed)), {files.changed});
 }
 
 } // namespace
@@ -45,13 +43,14 @@ QString factsOf(const RunJudgement &judgement)
     const FileCounts &files = judgement.files;
     QStringList facts = {changed(files)};
     if (files.unchanged > 0)
-        facts.append(Texts::tr("%n unchanged", nullptr, pluralNumber(files.unchanged)));
+        facts.append(
+            withCounts(Texts::tr("%1 unchanged", nullptr, pluralNumber(files.unchanged)), {files.unchanged}));
     if (files.leftOut > 0)
-        facts.append(Texts::tr("%n left out", nullptr, pluralNumber(files.leftOut)));
-    if (files.folders == 1)
-        facts.append(Texts::tr("in 1 folder"));
-    else if (files.folders > 1)
-        facts.append(Texts::tr("in %n folders", nullptr, pluralNumber(files.folders)));
+        facts.append(
+            withCounts(Texts::tr("%1 left out", nullptr, pluralNumber(files.leftOut)), {files.leftOut}));
+    if (files.folders > 0)
+        facts.append(
+            withCounts(Texts::tr("in %1 folder%2", nullptr, pluralNumber(files.folders)), {files.folders}));
     return facts.join(Texts::tr(", "));
 }
 
