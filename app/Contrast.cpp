@@ -28,6 +28,12 @@ QColor mixed(const QColor &from, const QColor &to, float part)
                             channel(from.blueF(), to.blueF()));
 }
 
+QColor asBorder(const QColor &colour, const QPalette &palette)
+{
+    return readable(readable(colour, palette.color(QPalette::Window), borderContrast),
+                    palette.color(QPalette::Base), borderContrast);
+}
+
 } // namespace
 
 double contrast(const QColor &one, const QColor &other)
@@ -52,9 +58,12 @@ QColor readable(const QColor &colour, const QColor &ground, double ratio)
 
 QColor borderColour(const QPalette &palette)
 {
-    const QColor window = palette.color(QPalette::Window);
-    const QColor inside = palette.color(QPalette::Base);
-    return readable(readable(window, window, borderContrast), inside, borderContrast);
+    return asBorder(palette.color(QPalette::Window), palette);
+}
+
+QColor focusColour(const QPalette &palette)
+{
+    return asBorder(palette.color(QPalette::Highlight), palette);
 }
 
 QPalette withReadableTexts(QPalette palette)

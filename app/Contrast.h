@@ -19,6 +19,9 @@ inline constexpr double borderContrast = 3;
 // Of the edges of fields, boxes and buttons: against what is inside and what is outside.
 [[nodiscard]] QColor borderColour(const QPalette &palette);
 
+// Of the edge of what has the keyboard or takes a drag.
+[[nodiscard]] QColor focusColour(const QPalette &palette);
+
 // `palette` with every text readable where it stands, in all three states.
 [[nodiscard]] QPalette withReadableTexts(QPalette palette);
 

@@ -49,7 +49,7 @@ private:
     QTimer m_nextTurn;
 };
 
-// Moves a window to the middle of its screen.
+// Moves a window to the middle of its screen; one that does not fit is made smaller, its title bar in sight.
 void centerOnScreen(QWidget &window);
 
 } // namespace dravolin

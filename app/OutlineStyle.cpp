@@ -16,13 +16,11 @@ void drawOutline(const QStyleOption &option, QPainter &painter, const QWidget *w
 {
     const bool marked = widget && widget->property(markedProperty).toBool();
     const bool focused = option.state.testFlag(QStyle::State_HasFocus);
-    if (focused && !marked)
-        return; // the focus has a colour of its own
-    const qreal width = marked ? 2 : 1;
-    const QColor window = option.palette.color(QPalette::Window);
+    const qreal width = marked || focused ? 2 : 1;
+    const QColor plain = focused ? focusColour(option.palette) : borderColour(option.palette);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(marked ? readable(Qt::red, window) : borderColour(option.palette), width));
+    painter.setPen(QPen(marked ? readable(Qt::red, option.palette.color(QPalette::Window)) : plain, width));
     painter.setBrush(Qt::NoBrush);
     const qreal inset = width / 2;
     painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), corner, corner);

@@ -198,7 +198,8 @@ QString QVDragDropView::hint() const
 
 QRectF QVDragDropView::paintHint(QPainter &painter) const
 {
-    constexpr int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
+    // on top: on a low screen the lower edge may be out of sight
+    constexpr int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
     painter.setPen(palette().color(QPalette::Text));
     QRectF place;
@@ -209,7 +210,7 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.setPen(hasFocus() ? QPen(palette().highlight(), 2)
+    painter.setPen(hasFocus() ? QPen(focusColour(palette()), 2)
                               : QPen(borderColour(palette()), 2, Qt::DashLine));
     painter.setBrush(palette().base());
     painter.drawRoundedRect(frame, 10, 10);
@@ -272,7 +273,8 @@ void QVDragDropView::paintEvent(QPaintEvent *)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     paintFrame(painter);
     const QRectF textArea = paintHint(painter);
-    const QRectF imageArea(margin, margin, width() - 2 * margin, textArea.top() - 2 * margin);
+    const qreal top = textArea.bottom() + margin;
+    const QRectF imageArea(margin, top, width() - 2 * margin, height() - top - margin);
     if (!m_image.isNull() && imageArea.height() > 0) {
         const QSizeF size = QSizeF(m_image.size()).scaled(imageArea.size(), Qt::KeepAspectRatio);
         const QPointF corner = imageArea.center() - QPointF(size.width(), size.height()) / 2;
@@ -282,7 +284,7 @@ void QVDragDropView::paintEvent(QPaintEvent *)
     }
     if (!m_isHighlighted)
         return;
-    painter.setPen(QPen(palette().highlight(), highlightWidth));
+    painter.setPen(QPen(focusColour(palette()), highlightWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 8, 8);
 }

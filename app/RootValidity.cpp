@@ -33,6 +33,7 @@ void showValidity(const Ui::MainWindow &controls, const RootCheck &root)
     controls.rootValidLabel->setText(root.valid ? Texts::tr("UID may be valid")
                                                 : Texts::tr("Root is invalid, will be replaced"));
     controls.rootValidIcon->setKind(root.valid ? StatusIcon::Kind::Done : StatusIcon::Kind::Attention);
+    controls.rootValidIcon->show();
     controls.caseIDHint->setText(caseIdHint(caseIdToBlame, caseId));
     controls.caseIDIcon->setKind(caseIdToBlame ? StatusIcon::Kind::Attention : StatusIcon::Kind::None);
     controls.caseIDIcon->setVisible(caseIdToBlame);

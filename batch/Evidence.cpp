@@ -20,13 +20,11 @@ bool writeFiles(const EvidenceSources &sources, const QString &folder)
     table.addLine({QStringLiteral("case_id"), QStringLiteral("result"), QStringLiteral("sha256_before"),
                    QStringLiteral("sha256_after")});
     for (const PlannedCase &planned : sources.plan.cases) {
-        QList<FileRecord> records = sources.journal.files(planned.row.caseId).values();
-        std::sort(records.begin(), records.end(),
-                  [](const FileRecord &one, const FileRecord &other) { return one.result < other.result; });
-        for (const FileRecord &record : records)
-            if (!record.result.isEmpty())
-                table.addLine({planned.row.caseId, record.result, QString::fromLatin1(record.hashBefore),
-                               QString::fromLatin1(record.hashAfter)});
+        const QString &caseId = planned.row.caseId;
+        sources.journal.forEachResult(caseId, [&](const FileRecord &record) {
+            table.addLine({caseId, record.result, QString::fromLatin1(record.hashBefore),
+                           QString::fromLatin1(record.hashAfter)});
+        });
     }
     return table.finish();
 }
@@ -66,16 +64,6 @@ bool writeNotDone(const QList<CaseCounts> &counts, const QString &folder)
     return table.finish();
 }
 
-bool writeReports(QJsonObject report, const QString &folder)
-{
-    report.insert(QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate));
-    TableFile json(joinPath(folder, QStringLiteral("report.json")), 0644);
-    json.add(QJsonDocument(report).toJson());
-    TableFile page(joinPath(folder, QStringLiteral("report.html")), 0644);
-    page.add(toBytes(evidencePage(report)));
-    return json.finish() && page.finish();
-}
-
 } // namespace
 
 QString secretFolder(const QString &runFolder)
@@ -88,10 +76,20 @@ QString evidenceFolder(const QString &runFolder)
     return joinPath(runFolder, QStringLiteral("evidence"));
 }
 
+bool writeReports(QJsonObject report, const QString &folder)
+{
+    report.insert(QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate));
+    TableFile json(joinPath(folder, QStringLiteral("report.json")), 0644);
+    json.add(QJsonDocument(report).toJson());
+    TableFile page(joinPath(folder, QStringLiteral("report.html")), 0644);
+    page.add(toBytes(evidencePage(report)));
+    return json.finish() && page.finish();
+}
+
 bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
 {
-    const QString evidence = evidenceFolder(sources.options.runFolder);
-    const QString secret = secretFolder(sources.options.runFolder);
+    const QString evidence = evidenceFolder(sources.options.runFolder());
+    const QString secret = secretFolder(sources.options.runFolder());
     const QString written = QStringLiteral("evidence"); // a hash of the report that is there
     const QJsonObject report = evidenceReport(sources, outcome);
     const QByteArray hash =

@@ -21,7 +21,7 @@ packages_of() {
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
             pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
-        test) echo python3 dcmtk dicom3tools libgdcm-tools libgmp-dev clang-format clang-tidy \
+        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy \
             qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;

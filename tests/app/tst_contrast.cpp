@@ -124,8 +124,10 @@ void TestContrast::textsAreReadable()
 void TestContrast::bordersStandOut()
 {
     const QPalette palette = usePalette();
-    QVERIFY(contrast(borderColour(palette), palette.color(QPalette::Window)) >= borderContrast);
-    QVERIFY(contrast(borderColour(palette), palette.color(QPalette::Base)) >= borderContrast);
+    for (const QColor &edge : {borderColour(palette), focusColour(palette)}) {
+        QVERIFY(contrast(edge, palette.color(QPalette::Window)) >= borderContrast);
+        QVERIFY(contrast(edge, palette.color(QPalette::Base)) >= borderContrast);
+    }
 }
 
 void TestContrast::edgesOfControlsStandOut()
