@@ -27,4 +27,5 @@ run bench_lut
 run bench_configuration
 run bench_run
 run bench_bigint
+run bench_check
 exit $result
