@@ -20,8 +20,8 @@ constexpr quint64 longestNoted = 4096;
 class Rewriter
 {
 public:
-    Rewriter(ElementReader &reader, const Notation &notation, const Treatment &treatment, bool toUtf8)
-        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(treatment, toUtf8),
+    Rewriter(ElementReader &reader, const Notation &notation, const ValueChange &change)
+        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(change),
           m_toInsert(m_change.insertions())
     {
     }
@@ -174,15 +174,15 @@ bool Rewriter::fail(const QString &problem)
 } // namespace
 
 Rewriting rewriting(SourceFile &file, quint64 begin, quint64 end, const Notation &notation,
-                    const Treatment &treatment)
+                    const Treatment &treatment, int daysBack)
 {
     ElementReader reader(file, begin, end, notation);
-    Rewriter rewriter(reader, notation, treatment, false);
+    Rewriter rewriter(reader, notation, ValueChange(treatment, daysBack, false));
     Rewriting result = rewriter.run();
     if (!rewriter.needsUtf8())
         return result;
     ElementReader again(file, begin, end, notation);
-    result = Rewriter(again, notation, treatment, true).run();
+    result = Rewriter(again, notation, ValueChange(treatment, daysBack, true)).run();
     result.movedToUtf8 = true;
     return result;
 }

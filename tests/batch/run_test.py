@@ -97,7 +97,7 @@ class Run(unittest.TestCase):
         (self.folder / "in/planted.json").unlink()
         old = uids_of(path for path in (self.folder / "in").rglob("*") if path.is_file() and path.name != "DICOMDIR")
         self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
-        self.assertIn("40 done, 0 not done, 1 DICOMDIR left out", self.call("run", "list.csv"))
+        self.assertIn("40 done, 0 not done, DICOMDIR made anew", self.call("run", "list.csv"))
         for path in self.results("out"):
             text = "\n".join(dump(path))
             self.assertNotRegex(text, r"\([0-9a-f]{3}[13579bdf],")
