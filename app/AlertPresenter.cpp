@@ -1,6 +1,7 @@
 #include "app/AlertPresenter.h"
 
 #include "app/AlertSheetRunner.h"
+#include "app/Notification.h"
 
 #include <QPointer>
 
@@ -24,6 +25,11 @@ AlertButton MessageBoxPresenter::runModal(const ModalAlert &alert, QWidget *wind
 void MessageBoxPresenter::beginSheet(const AlertSheet &sheet, QWidget *window)
 {
     AlertSheetRunner::beginSheet(sheet, window);
+}
+
+void MessageBoxPresenter::notify(const QString &summary, const QString &body)
+{
+    sendNotification(summary, body);
 }
 
 } // namespace dravolin

@@ -19,6 +19,7 @@ QMessageBox *createAlert(const QString &title, const QString &text, const QStrin
 {
     auto *alert = new QMessageBox(window);
     alert->setWindowTitle(QCoreApplication::applicationName());
+    alert->setAccessibleName(title);
     alert->setText(title);
     alert->setInformativeText(text);
     for (QLabel *label : alert->findChildren<QLabel *>())

@@ -13,6 +13,8 @@
 #include <QShortcut>
 #include <QTextCursor>
 
+#include <algorithm>
+
 namespace dravolin {
 
 namespace {
@@ -104,6 +106,13 @@ void LogWindowController::showWithText(const QString &text)
     m_logTextView->moveCursor(QTextCursor::Start); // the first insertion has taken the caret along
 }
 
+void LogWindowController::bringToFront()
+{
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
 void LogWindowController::appendForOneTurn()
 {
     QElapsedTimer timer;
@@ -133,8 +142,12 @@ QString LogWindowController::nextSlice() const
 
 void centerOnScreen(QWidget &window)
 {
+    constexpr int titleBar = 30; // about as high as window managers make it
     const QRect available = window.screen()->availableGeometry();
-    window.move(available.center() - window.rect().center());
+    window.resize(window.size().boundedTo(available.size() - QSize(0, titleBar)));
+    const QPoint place = available.center() - window.rect().center();
+    const int lowest = available.bottom() - titleBar - window.height();
+    window.move(place.x(), std::max(available.top(), std::min(place.y(), lowest)));
 }
 
 } // namespace dravolin

@@ -26,6 +26,9 @@ public:
     // react.
     void showWithText(const QString &text);
 
+    // Shows the window again as it was, above the application's other windows.
+    void bringToFront();
+
     [[nodiscard]] QPlainTextEdit *logTextView() const { return m_logTextView; }
     void setLogTextView(QPlainTextEdit *view) { m_logTextView = view; }
     [[nodiscard]] QWidget *window() const { return m_window.get(); }
@@ -46,7 +49,7 @@ private:
     QTimer m_nextTurn;
 };
 
-// Moves a window to the middle of its screen.
+// Moves a window to the middle of its screen; one that does not fit is made smaller, its title bar in sight.
 void centerOnScreen(QWidget &window);
 
 } // namespace dravolin

@@ -28,12 +28,24 @@ QSettings preferences()
     return QSettings(executableName(), executableName());
 }
 
+// No generated root is longer than this.
+void showWholeRoots(QLineEdit &field)
+{
+    constexpr int characters = 44;
+    constexpr int frameAndCaret = 16;
+    field.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    field.setMinimumWidth(field.fontMetrics().horizontalAdvance(QString(characters, u'0')) + frameAndCaret);
+}
+
 std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
 {
     auto controls = std::make_unique<Ui::MainWindow>();
     controls->setupUi(&window);
     controls->dragDropView->setImageFolder(paths.resourceFolder);
-    controls->uidRootTextField->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    showWholeRoots(*controls->uidRootTextField);
+    controls->resultIcon->setLabel(controls->outputTextField);
+    controls->rootValidIcon->setLabel(controls->rootValidLabel);
+    controls->caseIDIcon->setLabel(controls->caseIDHint);
     controls->horLine->hide();
     controls->progressBar->hide();
     QGuiApplication::setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
@@ -53,9 +65,16 @@ MainController::MainController(const AppPorts &ports)
               .delays = m_delays,
               .ownChange = m_ownChange,
               .showLog = [this](const QString &text) { showLogWindowWithLogText(text); }}),
-      m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids}
+      m_context{m_state, m_paths, m_host, ports.jobs, ports.uuids},
+      m_help({.window = *m_window,
+              .paths = m_paths,
+              .jobs = ports.jobs,
+              .presenter = m_presenter,
+              .opener = m_opener,
+              .askForWebSite = [this] { toolbarTextClicked(); }})
 {
     connectControls();
+    connectKeys();
 }
 
 MainController::~MainController()
@@ -99,11 +118,27 @@ void MainController::connectControls()
     connect(c.createUIDrootButton, &QPushButton::clicked, this, &MainController::createUIDrootAction);
     connect(c.showConfigButton, &QPushButton::clicked, this, &MainController::showConfigInFinder);
     connect(c.webSiteButton, &QPushButton::clicked, this, &MainController::toolbarTextClicked);
-    connect(new QShortcut(QKeySequence::Open, m_window.get()), &QShortcut::activated, c.dragDropView,
-            &QVDragDropView::chooseFolder);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, m_window.get()), &QShortcut::activated, m_window.get(),
-            &QWidget::close);
+    connect(c.helpButton, &QToolButton::clicked, this, [this] { m_help.popUp(*m_controls->helpButton); });
+    connect(c.showLogButton, &QPushButton::clicked, this, &MainController::showLogAgain);
     connect(m_window.get(), &MainWindow::willClose, this, &MainController::windowWillClose);
+}
+
+void MainController::connectKeys()
+{
+    QWidget *const window = m_window.get();
+    const auto key = [window](const QKeySequence &keys, auto *receiver, auto what) {
+        connect(new QShortcut(keys, window), &QShortcut::activated, receiver, what);
+    };
+    key(QKeySequence::Open, m_controls->dragDropView, &QVDragDropView::chooseFolder);
+    key(QKeySequence::HelpContents, &m_help, &HelpMenu::openGuide);
+    key(Qt::CTRL | Qt::Key_L, this, &MainController::showLogAgain);
+    key(Qt::CTRL | Qt::Key_Q, window, &QWidget::close);
+}
+
+void MainController::showLogAgain()
+{
+    if (m_logWinController)
+        m_logWinController->bringToFront();
 }
 
 void MainController::initAndShow()
@@ -186,6 +221,7 @@ void MainController::showLogWindowWithLogText(const QString &text)
     }
     m_logWinController = std::make_unique<LogWindowController>();
     m_logWinController->showWithText(text);
+    m_controls->showLogButton->show();
     // what waits for an answer stays in front
     for (QMessageBox *sheet : m_window->findChildren<QMessageBox *>())
         bringToFront(*sheet);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AlertPresenter.h"
+#include "app/HelpMenu.h"
 #include "app/LogWindowController.h"
 #include "app/MainThreadGate.h"
 #include "app/MainWindowHost.h"
@@ -117,6 +118,8 @@ Q_SIGNALS:
 
 private:
     void connectControls();
+    void connectKeys();
+    void showLogAgain();
     void restoreUidRoot();
     void startRunThread(const Drop &drop);
     void apply(const CheckBoxChanges &changes);
@@ -136,6 +139,7 @@ private:
     MainWindowHost m_host;
     RunContext m_context;
     Opener m_opener;
+    HelpMenu m_help;
     std::unique_ptr<LogWindowController> m_logWinController;
     QList<QThread *> m_runs; // alive until their threads have finished
 };

@@ -101,7 +101,8 @@ void MainController::getConfigurationFilePathsAndPopulateButton()
     m_controls->selectConfigPopupButton->addItems(
         inOrder(found.allConfigPaths.keys(), m_chosenConfiguration));
     m_controls->selectConfigPopupButton->setCurrentIndex(0);
-    showPaths(*m_controls->selectConfigPopupButton, found.allConfigPaths);
+    showPaths(*m_controls->selectConfigPopupButton, found.allConfigPaths,
+              Texts::tr("What is changed in the files"));
     if (found.revertedToDefault)
         tellDefaultConfiguration();
 }

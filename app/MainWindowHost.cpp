@@ -1,11 +1,16 @@
 #include "app/MainWindowHost.h"
 
+#include "app/Accessibility.h"
 #include "app/FieldText.h"
 #include "app/PopupPaths.h"
+#include "app/ResultTexts.h"
+#include "app/RootValidity.h"
 #include "app/RunDialogs.h"
 #include "base/Texts.h"
+#include "config/DirectoryLocations.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QPropertyAnimation>
 #include <QScopedValueRollback>
 #include <QThread>
@@ -86,8 +91,7 @@ void MainWindowHost::setRoot(const RootCheck &root)
             const QScopedValueRollback own(m_parts.ownChange, true);
             showKeepingCaret(*edit, root.trimmedRoot);
         }
-        m_parts.controls.rootValidLabel->setText(root.valid ? Texts::tr("UID may be valid")
-                                                            : Texts::tr("Root is invalid, will be replaced"));
+        showValidity(m_parts.controls, root);
     });
 }
 
@@ -126,6 +130,9 @@ void MainWindowHost::answered(Refusal refusal, int code)
 void MainWindowHost::runBegins(const RunBeginning &beginning, std::function<void()> start)
 {
     const QPointer<QWidget> focus = m_parts.window.focusWidget();
+    clearResult();
+    ++m_running;
+    showBusy(true);
     for (const WindowStep &step : beginSteps(beginning)) {
         if (step.kind == WindowStep::Kind::Grow)
             grow(start);
@@ -155,8 +162,48 @@ void MainWindowHost::runEnds(const RunJudgement &judgement)
 {
     bool tablesExist = false;
     onMain([&] { tablesExist = m_tablesExist; });
-    perform(endSteps(judgement, tablesExist));
-    onMain([this] { giveFocusBack(); });
+    for (const WindowStep &step : endSteps(judgement, tablesExist)) {
+        perform({step});
+        if (step.kind == WindowStep::Kind::Status)
+            onMain([&] { showResult(judgement); });
+    }
+    onMain([&] {
+        giveFocusBack();
+        tellResult(judgement);
+    });
+}
+
+void MainWindowHost::showBusy(bool busy)
+{
+    m_parts.controls.dragDropView->setRunning(busy);
+    setBusy(m_parts.window, busy);
+}
+
+void MainWindowHost::clearResult()
+{
+    m_parts.controls.resultIcon->setKind(StatusIcon::Kind::None);
+    m_parts.controls.factsLabel->hide();
+}
+
+void MainWindowHost::showResult(const RunJudgement &judgement)
+{
+    const Ui::MainWindow &c = m_parts.controls;
+    m_running = qMax(0, m_running - 1);
+    showBusy(m_running > 0);
+    c.resultIcon->setKind(kindOf(judgement));
+    c.factsLabel->setText(factsOf(judgement));
+    c.factsLabel->show();
+    for (QLabel *label : {c.outputTextField, c.factsLabel})
+        label->setFocusPolicy(Qt::StrongFocus); // there is something to copy
+}
+
+void MainWindowHost::tellResult(const RunJudgement &judgement)
+{
+    const QString summary = judgement.summary.trimmed();
+    const QString facts = factsOf(judgement);
+    announce(*m_parts.controls.resultIcon, summary + u'\n' + facts);
+    if (!QApplication::activeWindow())
+        m_parts.presenter.notify(summary, facts);
 }
 
 void MainWindowHost::tablesFound(const TitleToPath &tables)
@@ -168,15 +215,15 @@ void MainWindowHost::tablesFound(const TitleToPath &tables)
         if (tables.isEmpty()) {
             popup->addItem(Texts::tr("No look-up table files found"));
             popup->setEnabled(false);
-            popup->setToolTip(
-                Texts::tr("A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the "
-                          "configuration folder"));
+            popup->setToolTip(Texts::tr("A table is a file named AnonymizationLUT_NAME.txt in\n%1\nor\n%2")
+                                  .arg(m_parts.paths.desktopFolder, applicationSupportPath(m_parts.paths)));
+            popup->setAccessibleDescription(popup->toolTip());
             return;
         }
         popup->addItem(Texts::tr("Don't use a look-up table"));
         popup->addItems(tables.keys());
         popup->setCurrentIndex(0);
-        showPaths(*popup, tables);
+        showPaths(*popup, tables, Texts::tr("New values for one attribute"));
     });
 }
 

@@ -65,11 +65,16 @@ private:
     [[nodiscard]] QWidget *control(WindowStep::Kind kind) const;
     void grow(std::function<void()> then);
     void giveFocusBack();
+    void showBusy(bool busy);
+    void clearResult();
+    void showResult(const RunJudgement &judgement);
+    void tellResult(const RunJudgement &judgement);
     void answered(Refusal refusal, int code);
 
     Parts m_parts;
     // Main thread only.
     bool m_tablesExist = false;
+    int m_running = 0;
     QPointer<QWidget> m_focusBefore;    // the control that lost the focus when a run disabled it
     QPointer<QWidget> m_focusMeanwhile; // the one that got it
     // What is switched and selected: a run reads it for every folder and is not to wait each time until the

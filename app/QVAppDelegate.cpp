@@ -1,8 +1,10 @@
 #include "app/QVAppDelegate.h"
 
+#include "app/Accessibility.h"
+#include "app/OutlineStyle.h"
 #include "run/StartUp.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <cstdlib>
 
@@ -10,6 +12,8 @@ namespace dravolin {
 
 void QVAppDelegate::applicationDidFinishLaunching()
 {
+    QApplication::setStyle(new OutlineStyle); // the application owns it
+    installAccessibility();
     const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
     startUp(paths);
     m_controller = std::make_unique<MainController>(AppPorts{paths, m_jobs, m_uuids, m_presenter, Delays()});

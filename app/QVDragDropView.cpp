@@ -1,5 +1,7 @@
 #include "app/QVDragDropView.h"
 
+#include "app/Accessibility.h"
+#include "app/Contrast.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
 
@@ -95,7 +97,20 @@ void QVDragDropView::setImageForLUTcheckboxState(int state)
 void QVDragDropView::setConstructing(bool constructing)
 {
     m_constructing = constructing;
-    setAccessibleDescription(m_constructing ? Texts::tr("construct look-up table") : Texts::tr("anonymize"));
+    describe();
+}
+
+void QVDragDropView::setRunning(bool running)
+{
+    m_running = running;
+    setBusy(*this, running);
+    describe();
+}
+
+void QVDragDropView::describe()
+{
+    const QString purpose = m_constructing ? Texts::tr("construct look-up table") : Texts::tr("anonymize");
+    setAccessibleDescription(m_running ? purpose + QStringLiteral(". ") + hint() : purpose);
     update();
 }
 
@@ -175,13 +190,16 @@ void QVDragDropView::dropEvent(QDropEvent *event)
 
 QString QVDragDropView::hint() const
 {
+    if (m_running)
+        return Texts::tr("Working. Another drop would run beside this one.");
     return m_constructing ? Texts::tr("Drop folders or DICOM files here to construct a look-up table")
                           : Texts::tr("Drop folders or DICOM files here to anonymize them");
 }
 
 QRectF QVDragDropView::paintHint(QPainter &painter) const
 {
-    constexpr int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
+    // on top: on a low screen the lower edge may be out of sight
+    constexpr int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
     painter.setPen(palette().color(QPalette::Text));
     QRectF place;
@@ -192,9 +210,8 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    QColor border = palette().color(QPalette::Text);
-    border.setAlphaF(0.5F);
-    painter.setPen(hasFocus() ? QPen(palette().highlight(), 2) : QPen(border, 1.5, Qt::DashLine));
+    painter.setPen(hasFocus() ? QPen(focusColour(palette()), 2)
+                              : QPen(borderColour(palette()), 2, Qt::DashLine));
     painter.setBrush(palette().base());
     painter.drawRoundedRect(frame, 10, 10);
 }
@@ -209,11 +226,16 @@ void QVDragDropView::keyPressEvent(QKeyEvent *event)
 
 void QVDragDropView::contextMenuEvent(QContextMenuEvent *event)
 {
+    showMenu(event->globalPos());
+}
+
+void QVDragDropView::showMenu(const QPoint &globalPosition)
+{
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(Texts::tr("Choose a folder..."), this, &QVDragDropView::chooseFolder);
     menu->addAction(Texts::tr("Choose files..."), this, &QVDragDropView::chooseFiles);
-    menu->popup(event->globalPos());
+    menu->popup(globalPosition);
 }
 
 void QVDragDropView::chooseFolder()
@@ -251,15 +273,18 @@ void QVDragDropView::paintEvent(QPaintEvent *)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     paintFrame(painter);
     const QRectF textArea = paintHint(painter);
-    const QRectF imageArea(margin, margin, width() - 2 * margin, textArea.top() - 2 * margin);
+    const qreal top = textArea.bottom() + margin;
+    const QRectF imageArea(margin, top, width() - 2 * margin, height() - top - margin);
     if (!m_image.isNull() && imageArea.height() > 0) {
         const QSizeF size = QSizeF(m_image.size()).scaled(imageArea.size(), Qt::KeepAspectRatio);
         const QPointF corner = imageArea.center() - QPointF(size.width(), size.height()) / 2;
+        painter.setOpacity(m_running ? 0.3 : 1.0);
         painter.drawPixmap(QRectF(corner, size), m_image, QRectF(m_image.rect()));
+        painter.setOpacity(1.0);
     }
     if (!m_isHighlighted)
         return;
-    painter.setPen(QPen(palette().highlight(), highlightWidth));
+    painter.setPen(QPen(focusColour(palette()), highlightWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 8, 8);
 }

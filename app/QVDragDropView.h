@@ -39,6 +39,8 @@ public:
     [[nodiscard]] QString imageName() const;
     // What the view says a drop will do, in the hint under the picture and to a screen reader.
     void setConstructing(bool constructing);
+    // While runs are under way the picture is dimmed and the view says what another drop would do.
+    void setRunning(bool running);
 
     // Sets the highlight and answers copy, or clears it and refuses when a dragged address is no local file.
     Qt::DropAction draggingEntered(const QMimeData &drag);
@@ -50,6 +52,8 @@ public:
     // Opens the platform's chooser and returns; what is chosen later goes the way of a drop.
     void chooseFolder();
     void chooseFiles();
+    // Asks which of the two.
+    void showMenu(const QPoint &globalPosition);
 
     [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
     void setHighlighted(bool highlighted);
@@ -67,6 +71,7 @@ protected:
 
 private:
     void choose(QFileDialog &dialog);
+    void describe();
     void paintFrame(QPainter &painter) const;
     [[nodiscard]] QString hint() const;
     [[nodiscard]] QRectF paintHint(QPainter &painter) const; // gives the place that it takes
@@ -77,6 +82,7 @@ private:
     QString m_imageFolder;
     bool m_showsLutImage = false;
     bool m_constructing = false;
+    bool m_running = false;
     QPixmap m_image;
 };
 

@@ -27,9 +27,11 @@ void closeToOthers(const QString &path)
 }
 
 // Keeps a second call out of the run's folder as long as it lives.
-Descriptor lockFolder(const QString &folder, QString *problem)
+Descriptor lockFolder(const BatchOptions &options, QString *problem)
 {
-    for (const QString &made : {folder, secretFolder(folder)})
+    const QString folder = options.runFolder();
+    for (const QString &made : {options.wholeFolder, secretFolder(options.wholeFolder), parentPath(folder),
+                                folder, secretFolder(folder)})
         (void)::mkdir(systemPath(made).constData(), 0700);
     Descriptor lock(::open(systemPath(joinPath(folder, QStringLiteral("lock"))).constData(),
                            O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
@@ -105,7 +107,7 @@ private:
         if (m_events.stop() || !m_outcome.failure.isEmpty())
             return;
         if (!writeEvidence({plan, m_options, m_journal, fingerprint(key)}, m_outcome))
-            m_outcome.failure = Texts::tr("the evidence in %1 cannot be written").arg(m_options.runFolder);
+            m_outcome.failure = Texts::tr("the evidence in %1 cannot be written").arg(m_options.runFolder());
     }
 
     // In rounds of whole cases, so that the check finds their files in the system's memory.
@@ -169,7 +171,7 @@ private:
 Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
 {
     QString problem;
-    const QString path = joinPath(options.runFolder, QStringLiteral("journal.sqlite"));
+    const QString path = joinPath(options.runFolder(), QStringLiteral("journal.sqlite"));
     const std::unique_ptr<Journal> journal = pathExists(path) ? Journal::open(path, &problem) : nullptr;
     Plan plan =
         judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
@@ -181,14 +183,14 @@ Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
 BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events)
 {
     QString problem;
-    const Descriptor lock = lockFolder(options.runFolder, &problem);
+    const Descriptor lock = lockFolder(options, &problem);
     if (!problem.isEmpty())
         return refused(problem);
     const std::unique_ptr<Journal> journal =
-        Journal::open(joinPath(options.runFolder, QStringLiteral("journal.sqlite")), &problem);
+        Journal::open(joinPath(options.runFolder(), QStringLiteral("journal.sqlite")), &problem);
     if (!journal)
         return refused(problem);
-    closeToOthers(joinPath(options.runFolder, QStringLiteral("journal.sqlite")));
+    closeToOthers(joinPath(options.runFolder(), QStringLiteral("journal.sqlite")));
     return BatchCall(options, events, *journal).run();
 }
 

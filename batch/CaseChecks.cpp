@@ -89,7 +89,7 @@ bool CaseChecks::check(qsizetype index)
     const QString &caseId = planned.row.caseId;
     const QHash<QString, FileRecord> records = m_journal.files(caseId);
     const QByteArray subject = subjectOf(planned, optionsFor(planned, m_options, records), records);
-    const QString report = joinPath(joinPath(evidenceFolder(m_options.runFolder), caseReports(caseId)),
+    const QString report = joinPath(joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId)),
                                     QStringLiteral("report.json"));
     const QByteArray known = pathExists(report) ? m_journal.checked(caseId, subject) : QByteArray();
     if (!known.isEmpty()) {
@@ -110,7 +110,7 @@ std::optional<CaseFindings> CaseChecks::checkNow(const PlannedCase &planned,
                                                  const QHash<QString, FileRecord> &records)
 {
     const check::CheckOptions options = optionsFor(planned, m_options, records);
-    const QString folder = joinPath(evidenceFolder(m_options.runFolder), caseReports(planned.row.caseId));
+    const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(planned.row.caseId));
     check::ReportWriter writer(folder, {options, m_options.atLeast, QDateTime::currentDateTime()});
     check::CheckEvents events;
     events.progress = m_events.progress;

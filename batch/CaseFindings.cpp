@@ -146,7 +146,7 @@ CaseFindings together(const QList<CaseFindings> &cases)
         for (const Number &number : numbers)
             sum.*(number.field) += one.*(number.field);
         sum.isIncomplete = sum.isIncomplete || one.isIncomplete;
-        for (const QJsonValue &value : one.groups) {
+        for (const auto &value : one.groups) {
             const QJsonObject group = value.toObject();
             const auto known = std::find_if(groups.begin(), groups.end(), [&group](const QJsonObject &other) {
                 return other.value(QStringLiteral("place")) == group.value(QStringLiteral("place")) &&

@@ -44,12 +44,25 @@ CaseWork::CaseWork(const Plan &plan, const BatchOptions &options, const ProjectK
     m_treatments.reserve(count); // rules are pointed to
     m_counts.resize(plan.cases.size());
     m_progress.allCases = plan.cases.size();
-    for (const PlannedCase &planned : plan.cases)
-        if (!planned.studyUid.isEmpty() && !planned.studies.isEmpty() &&
-            !m_studies.contains(*planned.studies.begin()))
-            m_studies.insert(*planned.studies.begin(), planned.studyUid);
+    nameStudies();
     for (size_t i = 0; i < count; ++i)
         beginCase(i);
+}
+
+// Of two cases with one study the first in the list names it, whichever shard does them.
+void CaseWork::nameStudies()
+{
+    std::vector<const PlannedCase *> cases;
+    for (const QList<PlannedCase> *some : {&m_plan.cases, &m_plan.others})
+        for (const PlannedCase &planned : *some)
+            cases.push_back(&planned);
+    std::sort(cases.begin(), cases.end(), [](const PlannedCase *one, const PlannedCase *other) {
+        return one->row.line < other->row.line;
+    });
+    for (const PlannedCase *planned : cases)
+        if (!planned->studyUid.isEmpty() && !planned->studies.isEmpty() &&
+            !m_studies.contains(*planned->studies.begin()))
+            m_studies.insert(*planned->studies.begin(), planned->studyUid);
 }
 
 void CaseWork::beginCase(size_t index)

@@ -55,6 +55,7 @@ private:
         TreatedFile file;
     };
 
+    void nameStudies();
     void beginCase(size_t index);
     void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
     void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,

@@ -66,16 +66,6 @@ bool writeNotDone(const QList<CaseCounts> &counts, const QString &folder)
     return table.finish();
 }
 
-bool writeReports(QJsonObject report, const QString &folder)
-{
-    report.insert(QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate));
-    TableFile json(joinPath(folder, QStringLiteral("report.json")), 0644);
-    json.add(QJsonDocument(report).toJson());
-    TableFile page(joinPath(folder, QStringLiteral("report.html")), 0644);
-    page.add(toBytes(evidencePage(report)));
-    return json.finish() && page.finish();
-}
-
 } // namespace
 
 QString secretFolder(const QString &runFolder)
@@ -88,10 +78,20 @@ QString evidenceFolder(const QString &runFolder)
     return joinPath(runFolder, QStringLiteral("evidence"));
 }
 
+bool writeReports(QJsonObject report, const QString &folder)
+{
+    report.insert(QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate));
+    TableFile json(joinPath(folder, QStringLiteral("report.json")), 0644);
+    json.add(QJsonDocument(report).toJson());
+    TableFile page(joinPath(folder, QStringLiteral("report.html")), 0644);
+    page.add(toBytes(evidencePage(report)));
+    return json.finish() && page.finish();
+}
+
 bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
 {
-    const QString evidence = evidenceFolder(sources.options.runFolder);
-    const QString secret = secretFolder(sources.options.runFolder);
+    const QString evidence = evidenceFolder(sources.options.runFolder());
+    const QString secret = secretFolder(sources.options.runFolder());
     const QString written = QStringLiteral("evidence"); // a hash of the report that is there
     const QJsonObject report = evidenceReport(sources, outcome);
     const QByteArray hash =

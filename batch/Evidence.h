@@ -28,6 +28,8 @@ struct EvidenceSources
 // would say the same again. False when something could not be written.
 [[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
 
+// Writes both reports into a folder, with the time of now.
+[[nodiscard]] bool writeReports(QJsonObject report, const QString &folder);
 // report.json, without the time.
 [[nodiscard]] QJsonObject evidenceReport(const EvidenceSources &sources, const BatchOutcome &outcome);
 // What report.json says together: whether everything is done and nothing was found.

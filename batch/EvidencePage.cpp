@@ -37,7 +37,7 @@ class ReportPage
 public:
     explicit ReportPage(const QJsonObject &report) : m_report(report)
     {
-        for (const QJsonValue &value : report.value(QStringLiteral("cases")).toArray())
+        for (const auto &value : report.value(QStringLiteral("cases")).toArray())
             m_cases.append(value.toObject());
         QList<CaseFindings> findings;
         for (const QJsonObject &object : std::as_const(m_cases))
@@ -48,7 +48,9 @@ public:
 
     QString html()
     {
-        const QString title = Texts::tr("Anonymization of %1 cases").arg(m_cases.size());
+        QString title = Texts::tr("Anonymization of %1 cases").arg(m_cases.size());
+        if (const QString part = textIn(m_report, "part"); !part.isEmpty())
+            title += Texts::tr(", part %1").arg(part);
         m_page.title(title);
         m_page.paragraph(textIn(m_report, "time"));
         m_page.verdict(verdictOf(m_report), verdictText());
@@ -175,7 +177,7 @@ private:
         if (m_findings.groups.isEmpty())
             return;
         QList<QStringList> rows;
-        for (const QJsonValue &value : m_findings.groups) {
+        for (const auto &value : m_findings.groups) {
             const QJsonObject group = value.toObject();
             const QString line = textIn(group, "configurationLine");
             rows.append({textIn(group, "worst"), textIn(group, "place"), counted(group, "files"),

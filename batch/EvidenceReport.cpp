@@ -51,7 +51,7 @@ QJsonObject evidenceReport(const EvidenceSources &sources, const BatchOutcome &o
             object.insert(QStringLiteral("check"), jsonOf(*outcome.findings.at(i)));
         cases.append(object);
     }
-    return {
+    QJsonObject report = {
         {QStringLiteral("format"), 1},
         {QStringLiteral("program"), QStringLiteral("Dravolin ") + QLatin1String(DRAVOLIN_VERSION)},
         {QStringLiteral("listSha256"), hashOfFile(options.list)},
@@ -64,6 +64,10 @@ QJsonObject evidenceReport(const EvidenceSources &sources, const BatchOutcome &o
         {QStringLiteral("secret"), QStringLiteral("../secret")},
         {QStringLiteral("cases"), cases},
     };
+    if (!options.shard.isAll())
+        report.insert(QStringLiteral("part"),
+                      QStringLiteral("%1/%2").arg(options.shard.number).arg(options.shard.count));
+    return report;
 }
 
 check::Verdict verdictOf(const QJsonObject &report)
@@ -72,7 +76,7 @@ check::Verdict verdictOf(const QJsonObject &report)
     const check::Grade atLeast = check::gradeNamed(report.value(QStringLiteral("atLeast")).toString())
                                      .value_or(check::Grade::Possible);
     Verdict verdict = Verdict::Clean;
-    for (const QJsonValue &value : report.value(QStringLiteral("cases")).toArray()) {
+    for (const auto &value : report.value(QStringLiteral("cases")).toArray()) {
         const QJsonObject object = value.toObject();
         const QJsonObject checked = object.value(QStringLiteral("check")).toObject();
         const Verdict one = checked.isEmpty() ? Verdict::Incomplete : findingsFrom(checked).verdict(atLeast);

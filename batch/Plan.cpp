@@ -8,7 +8,9 @@
 #include "identifiers/UidRoot.h"
 #include "processing/Edits.h"
 
+#include <QCryptographicHash>
 #include <QStringList>
+#include <QtEndian>
 
 #include <algorithm>
 
@@ -155,6 +157,19 @@ bool isInUse(const QString &destination)
 
 } // namespace
 
+bool Shard::holds(const QString &caseId) const
+{
+    const QByteArray hash = QCryptographicHash::hash(caseId.toUtf8(), QCryptographicHash::Sha256);
+    return qFromBigEndian<quint64>(hash.constData()) % static_cast<quint64>(count) ==
+           static_cast<quint64>(number - 1);
+}
+
+QString BatchOptions::runFolder() const
+{
+    const QString part = QStringLiteral("parts/%1-of-%2").arg(shard.number).arg(shard.count);
+    return shard.isAll() ? wholeFolder : joinPath(wholeFolder, part);
+}
+
 QString PlannedCase::sourceFolder() const
 {
     return isFolder(row.source) ? row.source : parentPath(row.source);
@@ -169,13 +184,17 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
         PlannedCase planned;
         planned.row = row;
         QStringList problems = RowJudge(options, planned).judge();
-        if (isInUse(row.destination) && !isOwn(row))
+        const bool isOurs = options.shard.holds(row.caseId);
+        if (isOurs && isInUse(row.destination) && !isOwn(row))
             problems.append(Texts::tr("the destination %1 is in use").arg(row.destination));
-        if (const QString problem = overlap(row, list.rows, options.runFolder); !problem.isEmpty())
+        if (const QString problem = overlap(row, list.rows, options.wholeFolder); !problem.isEmpty())
             problems.append(problem);
         for (const QString &problem : problems)
             plan.problems.append({row.line, problem});
-        plan.cases.append(planned);
+        if (isOurs)
+            plan.cases.append(planned);
+        else if (!row.uidRoot.isEmpty())
+            plan.others.append(planned);
     }
     std::stable_sort(plan.problems.begin(), plan.problems.end(),
                      [](const ListProblem &one, const ListProblem &other) { return one.line < other.line; });

@@ -17,12 +17,25 @@
 // What a run over a list of cases would do.
 namespace dravolin {
 
+// The cases of a list that one of several calls does, each of which may run on a machine of its own.
+struct Shard
+{
+    int number = 1; // from 1
+    int count = 1;
+
+    bool operator==(const Shard &) const = default;
+    [[nodiscard]] bool isAll() const { return count == 1; }
+    // Decided by the id alone, the same everywhere.
+    [[nodiscard]] bool holds(const QString &caseId) const;
+};
+
 // What holds for all cases of a run.
 struct BatchOptions
 {
-    QString list;      // absolute path of the list of cases
-    QString runFolder; // absolute; the journal, the evidence and, unless named elsewhere, the key lie there
-    QString key;       // absolute path of the key file
+    QString list;        // absolute path of the list of cases
+    QString wholeFolder; // absolute; all calls for the list put what they leave behind there
+    QString key;         // absolute path of the key file
+    Shard shard;
     QString defaultConfiguration;
     bool removePrivate = true;
     QSet<QString> keptPrivate; // as in Treatment
@@ -30,6 +43,9 @@ struct BatchOptions
     bool moveDates = false;
     int workers = 1;
     check::Grade atLeast = check::Grade::Possible; // findings below it are told, but decide nothing
+
+    // The call's own folder, for journal and evidence: that of the whole, or parts/I-of-N in it.
+    [[nodiscard]] QString runFolder() const;
 };
 
 struct PlannedFile
@@ -62,11 +78,13 @@ struct PlannedCase
 struct Plan
 {
     QList<PlannedCase> cases;
+    QList<PlannedCase> others; // of other shards, when their studies get UIDs of their own
     QList<ListProblem> problems;
 };
 
-// Judges every row of the list without looking into the sources: all problems at once. `isOwn` tells whether
-// a destination that exists was begun by the same run; any other has to be missing or empty. Writes nothing.
+// Judges every row of the list, those of other shards included, without looking into the sources: all
+// problems at once. `isOwn` tells whether a destination that exists was begun by the same run; any other has
+// to be missing or empty. Writes nothing.
 [[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
 
 // Looks at every file of the sources, several at a time, and fills in what that tells. `stop` ends it early.

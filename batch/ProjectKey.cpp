@@ -34,14 +34,26 @@ QByteArray randomBytes()
     return bytes;
 }
 
-// False when the file exists or cannot be written as a whole.
-bool writeKey(const QString &path, const QByteArray &digits)
+bool writeFile(const QString &path, const QByteArray &bytes)
 {
     const Descriptor file(
         ::open(systemPath(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     return file.isOpen() &&
-           ::write(file.get(), digits.constData(), static_cast<size_t>(digits.size())) == digits.size() &&
+           ::write(file.get(), bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size() &&
            ::fsync(file.get()) == 0;
+}
+
+// Several machines may do this at once: the first one's key stays, and nobody sees half of one.
+bool writeKey(const QString &path, const QByteArray &digits)
+{
+    const QString temporary = path + u'.' + QString::fromLatin1(randomBytes().toHex());
+    const bool isMade =
+        writeFile(temporary, digits) &&
+        (::link(systemPath(temporary).constData(), systemPath(path).constData()) == 0 || errno == EEXIST);
+    const int error = errno;
+    removeFile(temporary);
+    errno = error;
+    return isMade;
 }
 
 } // namespace

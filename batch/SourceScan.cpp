@@ -75,7 +75,12 @@ void sumUp(PlannedCase &planned, const std::vector<ObjectFacts> &facts, size_t f
 void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
 {
     QStringList paths;
-    for (PlannedCase &planned : plan.cases) {
+    std::vector<PlannedCase *> cases;
+    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
+        for (PlannedCase &planned : *some)
+            cases.push_back(&planned);
+    for (PlannedCase *found : cases) {
+        PlannedCase &planned = *found;
         listSource(planned);
         const QString folder = planned.sourceFolder();
         for (const PlannedFile &file : planned.files)
@@ -86,9 +91,9 @@ void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
         paths.size(), workers,
         [&](qsizetype number) { facts[static_cast<size_t>(number)] = readFacts(paths.at(number)); }, stop);
     size_t first = 0;
-    for (PlannedCase &planned : plan.cases) {
-        sumUp(planned, facts, first);
-        first += static_cast<size_t>(planned.files.size());
+    for (PlannedCase *planned : cases) {
+        sumUp(*planned, facts, first);
+        first += static_cast<size_t>(planned->files.size());
     }
 }
 

@@ -23,6 +23,7 @@ public:
         return AlertButton::Alternate;
     }
     void beginSheet(const AlertSheet &, QWidget *) override {}
+    void notify(const QString &, const QString &) override {}
 };
 
 class BenchApp

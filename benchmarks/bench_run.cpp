@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -78,7 +79,7 @@ private:
     [[nodiscard]] QString path(const QString &name) const { return m_scratch.filePath(name); }
     void makeFiles(const Set &set);
     void remove(const QStringList &names) const;
-    void start(const QString &program, const QStringList &arguments);
+    QByteArray start(const QString &program, const QStringList &arguments, int worstStatus = 0);
     [[nodiscard]] double timeOfRun(const QString &list);
     [[nodiscard]] double timeOfTool();
     [[nodiscard]] double timeOfScripts(const Set &set);
@@ -94,7 +95,7 @@ private:
 Bench::Bench()
 {
     m_paths.resourceFolder = QStringLiteral(RESOURCES);
-    start(QStringLiteral(DUMP2DCM), {QStringLiteral(DATA "/mr.dump"), path(QStringLiteral("header"))});
+    (void)start(QStringLiteral(DUMP2DCM), {QStringLiteral(DATA "/mr.dump"), path(QStringLiteral("header"))});
     m_header = readBytes(path(QStringLiteral("header"))).value_or(QByteArray());
     const QString head = QStringLiteral("source,destination,case_id,diagnosis,configuration,table\n");
     require(
@@ -110,12 +111,14 @@ Bench::Bench()
         "the lists could not be written");
 }
 
-void Bench::start(const QString &program, const QStringList &arguments)
+QByteArray Bench::start(const QString &program, const QStringList &arguments, int worstStatus)
 {
-    const JobResult result = m_jobs.run({program, arguments, m_scratch.path(), std::nullopt, true});
-    if (result.outcome != JobOutcome::Ran || result.exitStatus != 0)
+    JobResult result = m_jobs.run({program, arguments, m_scratch.path(), std::nullopt, true});
+    const bool done = result.outcome == JobOutcome::Ran && result.exitStatus <= worstStatus;
+    if (!done)
         std::fprintf(stderr, "%s\n", result.output.constData());
-    require(result.outcome == JobOutcome::Ran && result.exitStatus == 0, "a program failed");
+    require(done, "a program failed");
+    return result.output;
 }
 
 void Bench::remove(const QStringList &names) const
@@ -153,14 +156,22 @@ void Bench::makeFiles(const Set &set)
     }
 }
 
+// Without the check, which the others do not have. It finds the UIDs that stay for the others' sake.
 double Bench::timeOfRun(const QString &list)
 {
     remove({QStringLiteral("out"), QStringLiteral("run")});
-    return seconds([&] {
-        start(QStringLiteral(CLI),
-              {QStringLiteral("run"), path(list), QStringLiteral("--folder"), path(QStringLiteral("run")),
-               QStringLiteral("--keep-uids"), QStringLiteral("--keep-private"), QStringLiteral("--quiet")});
+    QByteArray printed;
+    const double all = seconds([&] {
+        printed =
+            start(QStringLiteral(CLI),
+                  {QStringLiteral("run"), path(list), QStringLiteral("--folder"), path(QStringLiteral("run")),
+                   QStringLiteral("--keep-uids"), QStringLiteral("--keep-private")},
+                  1);
     });
+    static const QRegularExpression check(QStringLiteral("The check took ([0-9.]+) s"));
+    const QRegularExpressionMatch match = check.match(QString::fromUtf8(printed));
+    require(match.hasMatch(), "the run did not tell how long its check took");
+    return all - match.captured(1).toDouble();
 }
 
 double Bench::timeOfTool()
@@ -173,15 +184,15 @@ double Bench::timeOfTool()
         arguments += {QStringLiteral("--replace"), QString::fromLatin1(value)};
     remove({QStringLiteral("out")});
     require(createFolder(path(QStringLiteral("out"))), "a folder could not be made");
-    return seconds([&] { start(QStringLiteral(GDCMANON), arguments); });
+    return seconds([&] { (void)start(QStringLiteral(GDCMANON), arguments); });
 }
 
 // The scripts change their files where they lie.
 double Bench::timeOfScripts(const Set &set)
 {
     remove({QStringLiteral("work")});
-    start(QStringLiteral("/bin/cp"),
-          {QStringLiteral("-r"), path(QStringLiteral("in")), path(QStringLiteral("work"))});
+    (void)start(QStringLiteral("/bin/cp"),
+                {QStringLiteral("-r"), path(QStringLiteral("in")), path(QStringLiteral("work"))});
     TagRules rules = parseConfiguration(rulesText);
     addFixedTags(rules, {QStringLiteral("Carcinoma"), QStringLiteral("42"), {}, {}}, QStringLiteral("1.2.3"));
     const QString command = anonymizationCommand(m_paths.dcmodify(), rules, {}).prefix +

@@ -8,7 +8,7 @@
 #include <QHashFunctions>
 
 #include <algorithm>
-#include <filesystem>
+#include <sys/stat.h>
 
 namespace dravolin::check {
 
@@ -154,10 +154,8 @@ QByteArrayView LoadedFile::pixelData() const
 LoadedFile loadFile(const QString &path)
 {
     std::optional<QByteArray> bytes = readBytes(path);
-    std::error_code error;
-    const bool isWhole = bytes && static_cast<quint64>(bytes->size()) ==
-                                      std::filesystem::file_size(systemPath(path).toStdString(), error);
-    if (isWhole)
+    struct stat now = {};
+    if (bytes && ::stat(systemPath(path).constData(), &now) == 0 && now.st_size == bytes->size())
         return lookAt(std::move(*bytes));
     LoadedFile file;
     file.record.reason = bytes ? Texts::tr("it changed while it was read")

@@ -1,6 +1,8 @@
 #include "check/Numbers.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <type_traits>
@@ -13,6 +15,15 @@ constexpr qsizetype mostNumbers = 64; // longer rows are curves and tables
 constexpr double largestWhole = 1e15; // a float beyond that has no last digit
 
 template <typename Number>
+void append(Number number, QString &text)
+{
+    std::array<char, 24> digits;
+    const std::to_chars_result end = std::to_chars(digits.begin(), digits.end(), number);
+    text += QLatin1String(digits.data(), end.ptr - digits.data());
+    text += u' ';
+}
+
+template <typename Number>
 QString decimals(QByteArrayView bytes)
 {
     constexpr auto width = static_cast<qsizetype>(sizeof(Number));
@@ -23,9 +34,9 @@ QString decimals(QByteArrayView bytes)
         if constexpr (std::is_floating_point_v<Number>) {
             const double value = number;
             if (std::abs(value) < largestWhole && std::trunc(value) == value)
-                text += QString::number(static_cast<qint64>(value)) + u' ';
+                append(static_cast<qint64>(value), text);
         } else {
-            text += QString::number(number) + u' ';
+            append(number, text);
         }
     }
     return text;

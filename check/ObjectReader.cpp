@@ -152,10 +152,11 @@ public:
         for (const gdcm::DataElement &element : dataSet.GetDES()) {
             if (tagOf(element) == pixelTag)
                 continue;
-            if (const auto items = itemsOf(element))
+            const gdcm::ByteValue *const value = element.GetByteValue();
+            if (const auto items = itemsOf(element, value))
                 readItems(tagOf(element), *items, own);
             else
-                readValue(element, own);
+                readValue(element, value, own);
         }
     }
     [[nodiscard]] const Contents &contents() const { return m_contents; }
@@ -170,9 +171,11 @@ private:
     }
 
     // The items of a sequence; without a VR nothing but its bytes say that it is one.
-    static gdcm::SmartPointer<gdcm::SequenceOfItems> itemsOf(const gdcm::DataElement &element)
+    static gdcm::SmartPointer<gdcm::SequenceOfItems> itemsOf(const gdcm::DataElement &element,
+                                                             const gdcm::ByteValue *value)
     {
-        const gdcm::ByteValue *const value = element.GetByteValue();
+        if (element.GetVL() == 0)
+            return nullptr;
         if (value) {
             const bool hasVr = element.GetVR() != gdcm::VR::INVALID && element.GetVR() != gdcm::VR::UN;
             if (hasVr || !holdsItems({value->GetPointer(), static_cast<qsizetype>(value->GetLength())}))
@@ -191,9 +194,8 @@ private:
         m_path.pop_back();
     }
 
-    void readValue(const gdcm::DataElement &element, const CharacterSets &sets)
+    void readValue(const gdcm::DataElement &element, const gdcm::ByteValue *value, const CharacterSets &sets)
     {
-        const gdcm::ByteValue *const value = element.GetByteValue();
         QByteArrayView bytes;
         if (value && element.GetVL() > 0)
             bytes = {value->GetPointer(), static_cast<qsizetype>(element.GetVL())};

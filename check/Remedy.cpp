@@ -12,6 +12,7 @@ namespace {
 constexpr Tag setByTheWindow[] = {0x00080050, 0x00100010, 0x00100020, 0x0020000D, 0x00324000};
 constexpr Tag sopInstanceUid = 0x00080018;
 constexpr quint16 metaGroup = 0x0002;
+constexpr quint16 directoryGroup = 0x0004;
 
 QString lineFor(Tag tag)
 {
@@ -26,6 +27,8 @@ Remedy forAttribute(const Place &place)
             {},
             Texts::tr("meta information: no configuration changes it; \"Generate new instance UIDs\" does "
                       "so for the instance UID")};
+    if (place.tag >> 16 == directoryGroup)
+        return {{}, Texts::tr("a DICOMDIR: do not pass the file on")};
     if (place.tag == sopInstanceUid)
         return {{}, Texts::tr("choose \"Generate new instance UIDs\"")};
     // its value at the top level is replaced, copies in sequences go with the sequence

@@ -13,6 +13,7 @@ namespace {
 constexpr qsizetype pieceSize = 262144;
 constexpr qsizetype pieceOverlap = 2048; // longer than a value that identifies somebody
 constexpr qsizetype fewestBytes = 4;     // that may hold one
+constexpr qsizetype fewestOfUtf16 = 6;   // the same in UTF-16
 
 // Where the piece behind the one at `start` begins: at a blank or a control character, which no letter of
 // several bytes holds.
@@ -93,7 +94,7 @@ void Searcher::searchPiece(QByteArrayView bytes, const QByteArray &escapes, cons
     searchText(decodeGuessing(bytes), TextKind::Bytes);
     if (!escapes.isEmpty() || bytes.contains('\x1B') || (sets.isOfItsOwn() && hasHighBytes(bytes)))
         searchText(sets.decode(escapes + bytes.toByteArray()), TextKind::Bytes);
-    if (m_patterns.hasIdeographs() || bytes.contains('\0')) {
+    if (bytes.size() >= fewestOfUtf16 && (m_patterns.hasIdeographs() || bytes.contains('\0'))) {
         for (const qsizetype offset : {0, 1}) {
             searchText(decodeUtf16(bytes, offset, ByteOrder::LittleEndian), TextKind::Bytes);
             searchText(decodeUtf16(bytes, offset, ByteOrder::BigEndian), TextKind::Bytes);

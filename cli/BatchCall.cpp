@@ -25,7 +25,18 @@ const QString privateListOption = QStringLiteral("private-list");
 const QString keepUidsOption = QStringLiteral("keep-uids");
 const QString shiftDatesOption = QStringLiteral("shift-dates");
 const QString atLeastOption = QStringLiteral("at-least");
+const QString shardOption = QStringLiteral("shard");
 const QString quietOption = QStringLiteral("quiet");
+
+// Those of merge, too.
+void addCommonOptions(QCommandLineParser &parser)
+{
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Prints this text.")});
+    parser.addOption({folderOption, Texts::tr("The run's own folder, instead of the list's name with .run."),
+                      QStringLiteral("folder")});
+    parser.addOption({quietOption, Texts::tr("Prints nothing but errors.")});
+    parser.addPositionalArgument(QStringLiteral("list"), Texts::tr("The list of cases, a CSV file."));
+}
 
 void addOptions(QCommandLineParser &parser)
 {
@@ -33,9 +44,7 @@ void addOptions(QCommandLineParser &parser)
                                   const QString &value = QString()) {
         parser.addOption({name, text, value});
     };
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Prints this text.")});
-    option(folderOption, Texts::tr("The run's own folder, instead of the list's name with .run."),
-           QStringLiteral("folder"));
+    addCommonOptions(parser);
     option(keyOption,
            Texts::tr("The key from which new UIDs come, instead of secret/project.key in that folder."),
            QStringLiteral("file"));
@@ -52,13 +61,21 @@ void addOptions(QCommandLineParser &parser)
     option(atLeastOption,
            Texts::tr("Findings below certain, likely or possible leave the exit status alone."),
            QStringLiteral("grade"));
-    option(quietOption, Texts::tr("Prints nothing but errors."));
-    parser.addPositionalArgument(QStringLiteral("list"), Texts::tr("The list of cases, a CSV file."));
+    option(shardOption,
+           Texts::tr("Does one of N parts of the list, for several calls or machines; merge joins them."),
+           QStringLiteral("I/N"));
 }
 
 QString absolute(const QString &path)
 {
     return QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+QString folderFor(const QCommandLineParser &parser, const QString &list)
+{
+    const QString name = withoutExtension(lastPathComponent(list)) + QStringLiteral(".run");
+    return parser.isSet(folderOption) ? absolute(parser.value(folderOption))
+                                      : joinPath(parentPath(list), name);
 }
 
 void readPaths(const QCommandLineParser &parser, BatchCall &call)
@@ -69,14 +86,10 @@ void readPaths(const QCommandLineParser &parser, BatchCall &call)
     }
     BatchOptions &options = call.options;
     options.list = absolute(parser.positionalArguments().constFirst());
-    options.runFolder =
-        parser.isSet(folderOption)
-            ? absolute(parser.value(folderOption))
-            : joinPath(parentPath(options.list),
-                       withoutExtension(lastPathComponent(options.list)) + QStringLiteral(".run"));
+    options.wholeFolder = folderFor(parser, options.list);
     options.key = parser.isSet(keyOption)
                       ? absolute(parser.value(keyOption))
-                      : joinPath(secretFolder(options.runFolder), QStringLiteral("project.key"));
+                      : joinPath(secretFolder(options.wholeFolder), QStringLiteral("project.key"));
     options.defaultConfiguration =
         AppPaths::forExecutable(QCoreApplication::applicationFilePath()).defaultConfiguration();
 }
@@ -88,6 +101,17 @@ void readWorkers(const QCommandLineParser &parser, BatchCall &call)
                                                        : QThread::idealThreadCount();
     if (!isNumber || call.options.workers < 1)
         call.error = Texts::tr("'%1' is no number of workers").arg(parser.value(workersOption));
+}
+
+void readShard(const QCommandLineParser &parser, BatchCall &call)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,6})/([0-9]{1,6})$"));
+    const QRegularExpressionMatch match = form.match(parser.value(shardOption));
+    if (!parser.isSet(shardOption))
+        return;
+    call.options.shard = {match.captured(1).toInt(), match.captured(2).toInt()};
+    if (call.options.shard.number < 1 || call.options.shard.number > call.options.shard.count)
+        call.error = Texts::tr("--shard takes I/N, such as 1/4 to 4/4");
 }
 
 void readGrade(const QCommandLineParser &parser, BatchCall &call)
@@ -155,9 +179,28 @@ BatchCall parseBatchCall(const QString &command, const QStringList &arguments)
     call.quiet = parser.isSet(quietOption);
     readWorkers(parser, call);
     readGrade(parser, call);
+    readShard(parser, call);
     readKeptPrivate(parser, call);
     if (call.error.isEmpty())
         readPaths(parser, call);
+    return call;
+}
+
+MergeCall parseMergeCall(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addCommonOptions(parser);
+    MergeCall call;
+    const bool isParsed = parser.parse(QStringList(QStringLiteral("dravolin-cli merge")) + arguments);
+    if (isParsed && parser.isSet(QStringLiteral("help"))) {
+        call.help = parser.helpText();
+    } else if (!isParsed || parser.positionalArguments().size() != 1) {
+        call.error = isParsed ? Texts::tr("it takes one list of cases") : parser.errorText();
+    } else {
+        call.list = absolute(parser.positionalArguments().constFirst());
+        call.folder = folderFor(parser, call.list);
+        call.quiet = parser.isSet(quietOption);
+    }
     return call;
 }
 

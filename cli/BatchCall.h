@@ -17,6 +17,19 @@ struct BatchCall
     QString error; // for people; the call is wrong
 };
 
+// What those of `dravolin-cli merge` ask for.
+struct MergeCall
+{
+    QString list;
+    QString folder; // of the whole run
+    bool quiet = false;
+
+    QString help;
+    QString error;
+};
+
+[[nodiscard]] MergeCall parseMergeCall(const QStringList &arguments);
+
 // `command` is the command's name. Reads the file of kept private attributes, but neither the list nor a
 // source.
 [[nodiscard]] BatchCall parseBatchCall(const QString &command, const QStringList &arguments);

@@ -132,6 +132,23 @@ QString outcomeText(const BatchOutcome &outcome)
     return text + groupsText(together(findings).groups);
 }
 
+QString mergeText(const QJsonObject &report)
+{
+    qint64 done = 0;
+    qint64 notDone = 0;
+    QList<CaseFindings> findings;
+    const QJsonArray cases = report.value(QLatin1String("cases")).toArray();
+    for (const auto &value : cases) {
+        done += value[QLatin1String("done")].toInteger();
+        notDone += value[QLatin1String("notDone")].toInteger();
+        findings.append(findingsFrom(value[QLatin1String("check")].toObject()));
+    }
+    const CaseFindings found = together(findings);
+    return Texts::tr("%1 cases: %2 done, %3 not done;")
+               .arg(QString::number(cases.size()), QString::number(done), QString::number(notDone)) +
+           foundText(found) + u'\n' + groupsText(found.groups);
+}
+
 QString progressText(const BatchProgress &progress, qint64 milliseconds)
 {
     if (progress.toCheck > 0)

@@ -51,6 +51,14 @@ void addOptions(QCommandLineParser &parser)
     parser.addPositionalArgument(QStringLiteral("result"), Texts::tr("The folder to be checked."));
 }
 
+// The parser's own first line names the program's file and no command.
+QString helpOf(const QCommandLineParser &parser)
+{
+    return Texts::tr("Usage: dravolin-cli check [options] ORIGINALS RESULT\n"
+                     "       dravolin-cli check [options] --backups FOLDER\n") +
+           parser.helpText().section(u'\n', 1);
+}
+
 void readFolders(const QCommandLineParser &parser, CheckCall &call)
 {
     const QStringList folders = parser.positionalArguments();
@@ -107,7 +115,7 @@ CheckCall parseCheckCall(const QStringList &arguments)
     CheckCall call;
     const bool parsed = parser.parse(QStringList(QStringLiteral("dravolin-cli check")) + arguments);
     if (parsed && parser.isSet(QStringLiteral("help"))) {
-        call.help = parser.helpText();
+        call.help = helpOf(parser);
         return call;
     }
     if (!parsed) {

@@ -14,6 +14,7 @@ constexpr Command commands[] = {
     {"check", QT_TR_NOOP("searches the values of originals in what was made of them"), runCheck},
     {"plan", QT_TR_NOOP("says what would be done with a list of cases"), runPlan},
     {"run", QT_TR_NOOP("anonymizes copies of the cases of a list"), runBatchCommand},
+    {"merge", QT_TR_NOOP("joins the reports of the parts of a run"), runMerge},
 };
 
 QString usage()

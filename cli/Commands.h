@@ -26,6 +26,7 @@ struct Command
 [[nodiscard]] int runCheck(const QStringList &arguments);
 [[nodiscard]] int runPlan(const QStringList &arguments);
 [[nodiscard]] int runBatchCommand(const QStringList &arguments);
+[[nodiscard]] int runMerge(const QStringList &arguments);
 
 // Runs the command that the first of the arguments names; without one prints what there is.
 [[nodiscard]] int runCommand(const QStringList &arguments);

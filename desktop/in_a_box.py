@@ -62,12 +62,16 @@ def end_children(seconds):
                 pass
         except ChildProcessError:
             return
-        with open(f"/proc/self/task/{os.getpid()}/children", encoding="ascii") as children:
-            for child in map(int, children.read().split()):
-                late = time.monotonic() > end
-                if late or child not in asked:
-                    asked.add(child)
-                    os.kill(child, signal.SIGKILL if late else signal.SIGTERM)
+        try:
+            with open(f"/proc/self/task/{os.getpid()}/children", encoding="ascii") as numbers:
+                children = list(map(int, numbers.read().split()))
+        except FileNotFoundError:  # no /proc: what this process has started ends with it
+            return
+        for child in children:
+            late = time.monotonic() > end
+            if late or child not in asked:
+                asked.add(child)
+                os.kill(child, signal.SIGKILL if late else signal.SIGTERM)
         time.sleep(0.02)
 
 
@@ -81,16 +85,16 @@ def start_screen(environment, log):
         number = numbers.readline().strip()
     if not number:
         raise SystemExit("The virtual screen did not start; the end of its messages:\n" + tail(log))
-    return ":" + number
+    return {"DISPLAY": ":" + number}
 
 
-def run_session(command, environment, log):
+def run_session(command, manager, environment, log):
     """The exit status of the command, run with a session bus and a window manager.
 
     What the bus and the window manager say goes to the log, what the command says to where it would go.
     """
     output, errors = os.dup(1), os.dup(2)
-    script = f'openbox & exec "$@" >&{output} 2>&{errors}'
+    script = f'{manager} & exec "$@" >&{output} 2>&{errors}'
     session = subprocess.Popen(
         ["dbus-run-session", "--", "sh", "-c", script, "sh", *command],
         env=environment, stdout=log, stderr=log, pass_fds=[output, errors], preexec_fn=end_with_parent)
@@ -118,21 +122,26 @@ def make_environment(tree):
     return environment
 
 
-def main():
-    if len(sys.argv) < 2:
-        sys.exit(__doc__)
-    check_packages()
+def run_in_a_box(command, start, manager):
+    """The exit status of the command, run in an environment to which start(environment, log) adds its screen."""
     adopt_orphans()
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     tree = tempfile.mkdtemp(prefix="dravolin-desktop-")
     try:
         environment = make_environment(tree)
         with open(os.path.join(tree, "log"), "w+b") as log:
-            environment["DISPLAY"] = start_screen(environment, log)
-            return run_session(sys.argv[1:], environment, log)
+            environment |= start(environment, log)
+            return run_session(command, manager, environment, log)
     finally:
         end_children(seconds=10)
         shutil.rmtree(tree, ignore_errors=True)
+
+
+def main():
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    check_packages()
+    return run_in_a_box(sys.argv[1:], start_screen, "openbox")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,8 @@
 #include "processing/FolderAnonymization.h"
 
+#include "base/PathText.h"
 #include "base/SystemLog.h"
+#include "processing/ChangeCount.h"
 #include "processing/CountedJobs.h"
 
 namespace dravolin {
@@ -20,9 +22,11 @@ QString preparedPrefix(const RunContext &context, const TagRules &rules, const R
     return command.prefix;
 }
 
-quint64 runAndCollect(const RunContext &context, const QString &folder, const QString &commands)
+quint64 runAndCollect(const RunContext &context, const QString &folder, const QString &commands,
+                      const FolderStamps &before)
 {
     const ScriptJobResult result = runScriptCounted(context, folder, commands);
+    countFolder(context, folder, before);
     context.state.update([&](RunState &state) { state.output += result.output; });
     return result.ran ? 0 : 1;
 }
@@ -53,7 +57,8 @@ quint64 anonymizeFolder(const RunContext &context, const TagRules &rules, const 
                         const RunOptions &options)
 {
     const QString prefix = preparedPrefix(context, rules, options);
-    return runAndCollect(context, folder, prefix + QStringLiteral(" *") + anonymizationRedirections().only);
+    return runAndCollect(context, folder, prefix + QStringLiteral(" *") + anonymizationRedirections().only,
+                         FolderStamps(folder));
 }
 
 quint64 anonymizeFiles(const RunContext &context, const TagRules &rules, const QStringList &files,
@@ -62,9 +67,13 @@ quint64 anonymizeFiles(const RunContext &context, const TagRules &rules, const Q
     if (files.isEmpty() || folder.isEmpty())
         return 0;
     const QString prefix = preparedPrefix(context, rules, options);
+    QStringList names;
+    for (const QString &file : files)
+        names.append(lastPathComponent(file));
     return runAndCollect(
         context, folder,
-        commandLines(prefix, fileArguments(files), anonymizationRedirections(), context.max_arg_len));
+        commandLines(prefix, fileArguments(files), anonymizationRedirections(), context.max_arg_len),
+        FolderStamps(folder, names));
 }
 
 } // namespace dravolin

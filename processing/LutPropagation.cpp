@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/SystemLog.h"
+#include "processing/ChangeCount.h"
 #include "processing/CountedJobs.h"
 #include "processing/Edits.h"
 #include "processing/FolderTree.h"
@@ -53,8 +54,11 @@ void tellAboutFileHandles(RunHost &host)
 void modify(const FolderPass &pass, const QString &name, const QString &newValue)
 {
     const RunContext &context = pass.context;
+    const QString path = joinPath(pass.folder, name);
+    const std::optional<FileStamp> before = fileStamp(path);
     const ScriptJobResult result = runScriptCounted(
         context, pass.folder, propagationCommand(context.paths.dcmodify(), pass.tag, newValue, name));
+    countFile(context, path, before);
     if (!result.ran)
         return;
     context.state.update([&](RunState &state) {

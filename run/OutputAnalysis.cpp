@@ -211,6 +211,8 @@ RunJudgement judgeOutput(const RunReport &report)
     judgement.summary = firstSummary(report);
     judgement.logText = lines.logText();
     judgement.refused = report.errCount != 0;
+    judgement.hasErrors = lines.errorLines() != 0 || lines.filesWithErrors() != 0;
+    judgement.constructed = report.constructing && !judgement.refused;
     if (lines.logText().isEmpty() && report.DICOMDIRpaths.isEmpty())
         return judgement;
     judgement.wantsLogWindow = true;

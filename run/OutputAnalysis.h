@@ -21,8 +21,8 @@ struct RunReport
     QStringList DICOMDIRpaths;
 };
 
-// The summary and the log text of a run; without its jobs. Pure; time grows with the output plus the number
-// of folder names.
+// The summary and the log text of a run; without its jobs and files. Pure; time grows with the output plus
+// the number of folder names.
 [[nodiscard]] RunJudgement judgeOutput(const RunReport &report);
 
 // The count of dcmodify's closing line ("E: There was 1 error", "E: There were 12 errors"), trimmed.

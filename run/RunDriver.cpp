@@ -107,6 +107,9 @@ RunJudgement parseLog(const RunContext &context)
 {
     RunJudgement judgement = judgeOutput(reportOf(context));
     judgement.jobs = context.state.get(&RunState::jobs);
+    judgement.files = context.state.get(&RunState::files);
+    judgement.constructedRows = context.state.update(
+        [](const RunState &state) { return static_cast<quint64>(state.LUTtagSet.size()); });
     context.host.runEnds(judgement);
     (void)context.state.takeTally(); // destroyed here, when the state is no longer locked; it may be large
     return judgement;

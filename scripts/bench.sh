@@ -16,6 +16,9 @@ run() {
     "$bin/$@" || result=1
 }
 run bench_overhead folder tree
+echo
+echo "== bench_window"
+/usr/bin/python3 desktop/in_a_box.py "$PWD/$bin/bench_window" "$PWD/$bin/Dravolin" || result=1
 export TMPDIR="$memory"
 run bench_overhead stub ${1:-}
 run bench_memory
@@ -24,4 +27,5 @@ run bench_lut
 run bench_configuration
 run bench_run
 run bench_bigint
+run bench_check
 exit $result

@@ -37,8 +37,8 @@ def messages(table):
 
 
 def ends(text):
-    """What stands in front of a text and behind it and is no part of a sentence."""
-    return text[:len(text) - len(text.lstrip())], text[len(text.rstrip()):]
+    """The line ends in front of a text and behind it."""
+    return len(text) - len(text.lstrip("\n")), len(text) - len(text.rstrip("\n"))
 
 
 def faults_of_text(context, english, text, counts):
@@ -49,7 +49,7 @@ def faults_of_text(context, english, text, counts):
     if sorted(MARKER.findall(text)) != sorted(markers):
         yield f"has not the place markers {markers}: {text!r}"
     if ends(text) != ends(english):
-        yield f"begins or ends with other blanks and line ends: {text!r}"
+        yield f"begins or ends with another number of line ends: {text!r}"
     if lost := [name for name in KEPT.findall(english) if name not in text]:
         yield f"has lost {lost}: {text!r}"
     if context in LAYOUTS and len(SHORTCUT.findall(text)) != len(SHORTCUT.findall(english)):

@@ -9,6 +9,7 @@
 #   test     what the tests need beside these
 #   fuzz     what scripts/fuzz.sh needs beside what building needs
 #   package  what makes and checks the Debian package
+#   bare     what tries it on a Debian of its own
 set -eu
 
 packages_of() {
@@ -19,12 +20,13 @@ packages_of() {
             libqt6dbus6 qt6-translations-l10n xdg-utils fonts-dejavu-core ;;
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
-            pcmanfm libatk-adaptor libgail-common adwaita-icon-theme ;;
-        test) echo python3 dcmtk dicom3tools libgdcm-tools libgmp-dev clang-format clang-tidy qt6-translations-l10n \
-            fonts-noto-cjk sway grim qt6-wayland ;;
+            pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
+        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy \
+            qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, package)" >&2; exit 2 ;;
+        bare) echo debootstrap libgtk-3-bin wmctrl ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, package, bare)" >&2; exit 2 ;;
     esac
 }
 

@@ -4,7 +4,8 @@
     drag_source.py ADDRESS...
 
 Offers the addresses, in this order, as a list of files. Prints the position of its middle when it can be
-dragged, then "accepted" or "refused" when the drag is over, and ends.
+dragged, "begun" when a drag begins, "wanted" as soon as what it is over would take it, then "accepted" or
+"refused" when the drag is over, and ends.
 """
 import sys
 
@@ -36,11 +37,22 @@ def main():
         failures.append(True)
         return True
 
+    def begun(_, drag):
+        print("begun", flush=True)
+        GLib.timeout_add(20, tell_wanted, drag)
+
+    def tell_wanted(drag):
+        if not drag.get_selected_action():
+            return True
+        print("wanted", flush=True)
+        return False
+
     def tell_position():
         _, x, y = window.get_window().get_origin()
         print(x + SIZE // 2, y + SIZE // 2, flush=True)
 
     window.connect("drag-data-get", lambda _w, _c, data, *_: data.set_uris(addresses))
+    window.connect("drag-begin", begun)
     window.connect("drag-failed", failed)
     window.connect("drag-end", over)
     window.connect("map-event", lambda *_: GLib.timeout_add(150, tell_position))

@@ -26,7 +26,8 @@ def prepare(folder):
 def describe_case(program):
     for field, text in CASE.items():
         program.fill(field, text)
-    program.press("Generate root")
+    before = program.read("UID root")
+    program.press("Generate root", lambda: program.read("UID root") != before)
 
 
 def default_rules(executable):

@@ -22,8 +22,11 @@ def type_text(text):
         tell("type", "--clearmodifiers", "--delay", 8, "--", text)
 
 
-def drag(start, target):
-    """Presses at start, moves as a hand does and releases over target; both are points of the screen."""
+def drag(start, target, hovering=lambda: None):
+    """Presses at start, moves as a hand does and releases over target; both are points of the screen.
+
+    hovering() is called over the target, before the button is released.
+    """
     tell("mousemove", *start)
     time.sleep(0.05)
     tell("mousedown", 1)
@@ -40,4 +43,7 @@ def drag(start, target):
         tell("mousemove", target[0] + shift, target[1] + shift)
         time.sleep(0.05)
     time.sleep(0.25)
-    tell("mouseup", 1)
+    try:
+        hovering()
+    finally:
+        tell("mouseup", 1)

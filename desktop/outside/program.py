@@ -7,7 +7,7 @@ import time
 
 from . import mouse
 from .controls import Application, Role, State, settled
-from .waiting import Failure, wait_until
+from .waiting import Failure, arrives, wait_until
 
 WINDOW = "Dravolin"
 LOG_WINDOW = "Dravolin Log"
@@ -80,43 +80,48 @@ class Program:
 
     def fill(self, name, text):
         field = self.control(name, FIELDS)
-        wait_until(lambda: clicked_into(field), f"the focus in '{name}'")
-        mouse.press_key("ctrl+a")
-        mouse.press_key("Delete")
-        mouse.type_text(text)
-        wait_until(lambda: field.text == text, f"'{text}' in '{name}', which holds '{field.text}'")
+
+        def typed():
+            click_until(lambda: field, lambda: field.focused, f"the focus in '{name}'")
+            mouse.press_key("ctrl+a")
+            mouse.press_key("Delete")
+            mouse.type_text(text)
+            return arrives(lambda: field.text == text, 3)
+        wait_until(typed, f"'{text}' in '{name}'")
 
     def tick(self, name, on=True):
         box = self.control(name, (Role.CHECK_BOX,))
         if box.checked != on:
-            steady_middle(box)
-            x, y, _, height = box.box
-            mouse.click((x + 9, y + height // 2))
-            wait_until(lambda: box.checked == on, f"'{name}' {'ticked' if on else 'cleared'}")
+            click_until(lambda: box, lambda: box.checked == on, f"'{name}' {'ticked' if on else 'cleared'}", tick_place)
 
-    def press(self, name):
-        mouse.click(steady_middle(self.control(name, (Role.PUSH_BUTTON,))))
+    def press(self, name, done):
+        """Presses the button until done() is true."""
+        click_until(lambda: self.control(name, (Role.PUSH_BUTTON,)), done, f"what '{name}' does")
 
     def choose(self, name, item):
         choice = self.control(name, (Role.COMBO_BOX,))
         if choice.name == item:
             return
-        mouse.click(steady_middle(choice))
-        entry = wait_until(lambda: settled(lambda: self.entry(choice, item)), f"'{item}' in the list of '{name}'")
-        mouse.click(steady_middle(entry))
-        wait_until(lambda: choice.name == item, f"'{item}' chosen in '{name}'")
+
+        def entry():
+            return settled(lambda: self.entry(choice, item))
+        click_until(lambda: choice, entry, f"'{item}' in the list of '{name}'")
+        click_until(entry, lambda: choice.name == item, f"'{item}' chosen in '{name}'")
 
     def entry(self, choice, item):
-        for control in choice.all():
-            if control.role == Role.LIST_ITEM and control.name == item and control.box[1] > 0 and control.showing:
-                return control
-        return None
+        """The item in the list of an open pop-up; None when it is not open: its items say that they show all the same."""
+        lists = (control for control in choice.all() if control.role == Role.LIST and control.showing)
+        return next((entry for entries in lists for entry in entries.children() if entry.name == item), None)
 
     def answer(self, text, button):
         """Waits for the question that says this text and presses the button with that name."""
-        question = wait_until(lambda: self.must_run() and self.application.question(text), f"the question '{text}'")
-        mouse.click(steady_middle(question.get(button, (Role.PUSH_BUTTON,))))
-        wait_until(lambda: not self.application.question(text), f"the question '{text}' gone after '{button}'")
+        wait_until(lambda: self.must_run() and self.application.question(text), f"the question '{text}'")
+
+        def answer_button():
+            question = self.application.question(text)
+            return question and question.find(button, (Role.PUSH_BUTTON,))
+        click_until(answer_button, lambda: not self.application.question(text),
+                    f"the question '{text}' gone after '{button}'")
 
     def start_with_default_configuration(self):
         """Answers the question of a start without any configuration."""
@@ -131,16 +136,13 @@ class Program:
         target = steady_middle(self.control("Drop area"))
         source = pathlib.Path(__file__).with_name("drag_source.py")
         addresses = [pathlib.Path(path).as_uri() for path in paths]
-        with subprocess.Popen([sys.executable, str(source), *addresses], stdout=subprocess.PIPE, text=True,
+        with subprocess.Popen([sys.executable, str(source), *addresses], stdout=subprocess.PIPE,
                               env=os.environ | {"NO_AT_BRIDGE": "1"}) as dragged:
+            said = Lines(dragged.stdout)
             try:
-                place = dragged.stdout.readline().split()
-                if len(place) != 2:
-                    raise Failure("the window to drag from did not start")
-                mouse.drag(tuple(map(int, place)), target)
-                return dragged.communicate(timeout=20)[0].strip()
-            except subprocess.TimeoutExpired:
-                raise Failure(f"the drag of {paths} never ended") from None
+                place = tuple(map(int, said.wait_for(lambda line: line[:1].isdigit(), "the place to drag from").split()))
+                drag_until_begun(place, target, said)
+                return said.wait_for(lambda line: line in ("accepted", "refused"), f"the end of the drag of {paths}")
             finally:
                 dragged.kill()
 
@@ -162,8 +164,15 @@ class Program:
         wait_until(lambda: settled(lambda: self.application.window(title).has(State.ACTIVE)), f"'{title}' in front")
 
     def close(self):
-        """What the window manager does for the button in the corner."""
-        subprocess.run(["wmctrl", "-F", "-c", WINDOW], check=True, timeout=30)
+        """What the window manager does for the button in the corner, again when nothing comes of it."""
+        for _ in range(3):
+            asked = subprocess.run(["wmctrl", "-F", "-c", WINDOW], check=False, timeout=30, stderr=subprocess.DEVNULL)
+            try:
+                self.process.wait(timeout=5)
+                return
+            except subprocess.TimeoutExpired:
+                if asked.returncode != 0:
+                    raise Failure("there is no window to close") from None
 
     def wait_for_end(self, seconds=20):
         """The exit status."""
@@ -193,13 +202,60 @@ class FileBrowser:
         return self.process.communicate(timeout=20)[0].split()
 
 
-def clicked_into(field):
-    """Whether a click has brought the focus; on a busy desktop one may come to nothing."""
-    mouse.click(steady_middle(field))
-    try:
-        return wait_until(lambda: field.focused, "the focus", 2)
-    except Failure:
-        return False
+class Lines:
+    """What a child process prints, line by line, without waiting for more than there is."""
+
+    def __init__(self, stream):
+        self.stream = stream
+        self.bytes = b""
+        os.set_blocking(stream.fileno(), False)
+
+    def all(self):
+        self.bytes += self.stream.read() or b""
+        return self.bytes.decode().split("\n")[:-1]
+
+    def wait_for(self, fits, what, seconds=30):
+        """The first line that fits, of all that were printed."""
+        return wait_until(lambda: next(filter(fits, self.all()), None), what, seconds)
+
+
+def drag_until_begun(place, target, said):
+    """Drags from `place` until a drag has begun, and releases over `target` when that would take it.
+
+    On a busy desktop a press may come to nothing, and a target takes its time to answer.
+    """
+    def hover():
+        if "begun" in said.all():
+            arrives(lambda: "wanted" in said.all(), 10)  # else it will be refused
+    for _ in range(3):
+        mouse.drag(place, target, hover)
+        if arrives(lambda: "begun" in said.all(), 2):
+            return
+
+
+def tick_place(box):
+    x, y, _, height = box.box
+    return x + 9, y + height // 2
+
+
+def middle(control):
+    return control.middle
+
+
+def click_until(find, done, what, place=middle):
+    """Clicks on the control that find() gives until done() is true.
+
+    On a busy desktop a click may come to nothing. One that only comes late is waited for, and one too many
+    is made good by the next.
+    """
+    def once():
+        control = settled(find)
+        if control and settled(lambda: steady_middle(control)):
+            point = settled(lambda: place(control))
+            if point:
+                mouse.click(point)
+        return arrives(lambda: settled(done), 3)
+    return wait_until(lambda: settled(done) or once(), what)
 
 
 def steady_middle(control):

@@ -63,9 +63,12 @@ def propagate(program, study, configuration, table):
     before = program.status
     program.drop(study.after)
     program.answer(OVERWRITE, "Ok, Overwrite source data")
-    summary = wait_for_run(program, before)
-    log = program.log_window_text()
+    return judge(program, study, configuration, table, wait_for_run(program, before))
 
+
+def judge(program, study, configuration, table, summary):
+    """What has come of a run with the table that has ended."""
+    log = program.log_window_text()
     asked = asked_for(read_rules(configuration), CASE, program.read("UID root"))
     del asked[TAG]
     entries = rows(table)

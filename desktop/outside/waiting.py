@@ -16,3 +16,11 @@ def wait_until(condition, what, seconds=30):
         if time.monotonic() > end:
             raise Failure(f"waited {seconds} s in vain: {what}")
         time.sleep(0.05)
+
+
+def arrives(condition, seconds):
+    """The first true value of condition() within that time, else False."""
+    try:
+        return wait_until(condition, "", seconds)
+    except Failure:
+        return False

@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Fortschritt</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Anleitung, Tastenkürzel, Versionen</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>Protokoll &amp;anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Zeigt, was die Werkzeuge im letzten Lauf gemeldet haben, bei dem es etwas zu melden gab</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>dieser Ordner: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ Eine Kopie der Standardkonfiguration wird stattdessen auf dem Schreibtisch gespe
         <translation>Keine Zuordnungstabellen gefunden</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Eine Tabelle ist eine Datei namens AnonymizationLUT_NAME.txt auf dem Schreibtisch oder im Konfigurationsordner</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Keine Zuordnungstabelle verwenden</translation>
     </message>
@@ -658,6 +674,159 @@ In Arbeit … %1/%2 Ordner</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Werte der Zuordnungstabelle werden eingetragen … %1/%2 Ordner</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Über Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Die Anleitung ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Werkzeuge, Bilder und Standardkonfiguration:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>einen Ordner auswählen, statt ihn abzulegen</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>das Protokoll des letzten Laufs anzeigen</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>beenden</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt und ein unterstrichener Buchstabe: zum Feld springen oder das Kästchen umschalten</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>Im Protokoll %1: suchen, %2: schließen</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Was in den Dateien geändert wird</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Eine Tabelle ist eine Datei namens AnonymizationLUT_NAME.txt in
+%1
+oder
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Neue Werte für ein Attribut</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>In Arbeit. Wird noch etwas abgelegt, läuft es gleichzeitig.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Kein Wert gefunden, keine Datei geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 Wert gefunden, keine Datei geändert</numerusform>
+            <numerusform>%1 Werte gefunden, keine Datei geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Keine Datei gefunden</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Keine Datei geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 Datei geändert</numerusform>
+            <numerusform>%1 Dateien geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 unverändert</numerusform>
+            <numerusform>%1 unverändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 ausgelassen</numerusform>
+            <numerusform>%1 ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>in %1 Ordner</numerusform>
+            <numerusform>in %1 Ordnern</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>Patienten-ID; leer löscht sie</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Zusammen mit der Wurzel zu lang</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Nur Ziffern sind möglich</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Achtung</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Abgelehnt</translation>
     </message>
 </context>
 </TS>

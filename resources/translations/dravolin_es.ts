@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Guía, atajos, versiones</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>&amp;Mostrar registro</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Muestra lo que comunicaron las herramientas en el último proceso en que hubo algo que comunicar</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>esta carpeta: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ En su lugar se guarda una copia de la configuración predeterminada en el escrit
         <translation>No hay tablas de correspondencias</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Una tabla es un archivo llamado AnonymizationLUT_NAME.txt, en el escritorio o en la carpeta de configuración</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Sin tabla de correspondencias</translation>
     </message>
@@ -658,6 +674,159 @@ Procesando… %1/%2 carpetas</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Aplicando la tabla de correspondencias… %1/%2 carpetas</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>no encontrado</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Sitio web</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Acerca de Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>La guía del usuario no está instalada.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Herramientas, imágenes y configuración predeterminada:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>guía del usuario</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>elegir una carpeta en vez de soltarla</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>mostrar el registro del último proceso</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>salir</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt y una letra subrayada: ir a ese campo o cambiar esa casilla</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>En el registro, %1: buscar, %2: cerrar</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Lo que se modifica en los archivos</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Una tabla es un archivo llamado AnonymizationLUT_NAME.txt en
+%1
+o
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Valores nuevos para un atributo</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Procesando. Lo que se suelte ahora se procesará en paralelo.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Ningún valor encontrado, ningún archivo modificado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 valor encontrado, ningún archivo modificado</numerusform>
+            <numerusform>%1 valores encontrados, ningún archivo modificado</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Ningún archivo encontrado</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Ningún archivo modificado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 archivo modificado</numerusform>
+            <numerusform>%1 archivos modificados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 sin cambios</numerusform>
+            <numerusform>%1 sin cambios</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 omitido</numerusform>
+            <numerusform>%1 omitidos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>en %1 carpeta</numerusform>
+            <numerusform>en %1 carpetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID del paciente; vacío lo borra</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Demasiado largo junto con la raíz</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Solo se admiten dígitos</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminado</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Atención</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Errores</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Rechazado</translation>
     </message>
 </context>
 </TS>

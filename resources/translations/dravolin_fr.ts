@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Off: each original stays as NAME.bak, with the patient&apos;s name in it.</source>
-        <translation>Désactivé : chaque original reste sous NOM.bak, avec le nom du patient.</translation>
+        <translation>Désactivé : chaque original reste sous NOM.bak, avec le nom du patient.</translation>
     </message>
     <message>
         <source>Describe the case</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Becomes the Patient ID and the end of the Study Instance UID; digits only</source>
-        <translation>Devient l&apos;ID du patient et la fin du Study Instance UID ; chiffres uniquement</translation>
+        <translation>Devient l&apos;ID du patient et la fin du Study Instance UID ; chiffres uniquement</translation>
     </message>
     <message>
         <source>Digits</source>
@@ -127,11 +127,11 @@
     </message>
     <message>
         <source>Patient ID; empty erases it</source>
-        <translation>ID du patient ; vide l&apos;efface</translation>
+        <translation>ID du patient ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>Patient&apos;s Name; empty erases it</source>
-        <translation>Nom du patient ; vide l&apos;efface</translation>
+        <translation>Nom du patient ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>&amp;Keywords</source>
@@ -151,11 +151,11 @@
     </message>
     <message>
         <source>Study Comments; empty erases them</source>
-        <translation>Commentaire de l&apos;examen ; vide l&apos;efface</translation>
+        <translation>Commentaire de l&apos;examen ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>Accession Number; empty erases it</source>
-        <translation>Numéro d&apos;accession ; vide l&apos;efface</translation>
+        <translation>Numéro d&apos;accession ; vide l&apos;efface</translation>
     </message>
     <message>
         <source>&amp;UID root</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>The Study Instance UID begins with it: 1.2. or 2.25. and at least 20 digits</source>
-        <translation>Le Study Instance UID commence par elle : 1.2. ou 2.25. et au moins 20 chiffres</translation>
+        <translation>Le Study Instance UID commence par elle : 1.2. ou 2.25. et au moins 20 chiffres</translation>
     </message>
     <message>
         <source>Gen&amp;erate root</source>
@@ -208,6 +208,26 @@
     <message>
         <source>Progress</source>
         <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Guide, raccourcis, versions</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>Afficher le &amp;journal</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Affiche ce que les outils ont signalé lors du dernier traitement qui avait quelque chose à signaler</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>ce dossier : %p%</translation>
     </message>
 </context>
 <context>
@@ -257,19 +277,19 @@ Table de correspondance construite. Fichier placé sur le bureau.</translation>
 LUT tag propagated to %1 file%2.
 Skipped %3 DICOM file%4.</source>
         <translation>
-            <numerusform>Terminé !
+            <numerusform>Terminé !
 Table de correspondance appliquée à %1 fichier.
-Fichiers DICOM ignorés : %3.</numerusform>
-            <numerusform>Terminé !
+Fichiers DICOM ignorés : %3.</numerusform>
+            <numerusform>Terminé !
 Table de correspondance appliquée à %1 fichiers.
-Fichiers DICOM ignorés : %3.</numerusform>
+Fichiers DICOM ignorés : %3.</numerusform>
         </translation>
     </message>
     <message>
         <source>
 Done!</source>
         <translation>
-Terminé !</translation>
+Terminé !</translation>
     </message>
     <message numerus="yes">
         <source>
@@ -314,13 +334,13 @@ Skipped %3 DICOM file%4.
             <numerusform>
 
 Table de correspondance appliquée à %1 fichier.
-Fichiers DICOM ignorés : %3.
+Fichiers DICOM ignorés : %3.
 
 </numerusform>
             <numerusform>
 
 Table de correspondance appliquée à %1 fichiers.
-Fichiers DICOM ignorés : %3.
+Fichiers DICOM ignorés : %3.
 
 </numerusform>
         </translation>
@@ -329,8 +349,8 @@ Fichiers DICOM ignorés : %3.
         <source>Mind you: DICOMDIR files were found.
 They do not contain DICOM tags to anonymize but still contain PHI:
 </source>
-        <translation>Attention : des fichiers DICOMDIR ont été trouvés.
-Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des données de patients :
+        <translation>Attention : des fichiers DICOMDIR ont été trouvés.
+Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des données de patients :
 </translation>
     </message>
     <message>
@@ -363,7 +383,7 @@ Ils ne contiennent pas d&apos;attributs DICOM à anonymiser, mais bien des donn�
     </message>
     <message>
         <source>Reverting to default anonymization config from &apos;DefaultAnonymizationConfiguration.txt&apos;from the Application Bundle.</source>
-        <translation>La configuration d&apos;anonymisation par défaut « DefaultAnonymizationConfiguration.txt » fournie avec l&apos;application est utilisée.</translation>
+        <translation>La configuration d&apos;anonymisation par défaut « DefaultAnonymizationConfiguration.txt » fournie avec l&apos;application est utilisée.</translation>
     </message>
     <message>
         <source>
@@ -379,7 +399,7 @@ If not found in any of those places, it reverts to the default configuration, wh
 
 </source>
         <translation>
-L&apos;application cherche « AnonymizationConfiguration.txt » à 4 emplacements, dans cet ordre :
+L&apos;application cherche « AnonymizationConfiguration.txt » à 4 emplacements, dans cet ordre :
 
 1. dans l&apos;application elle-même
 2. sur le bureau
@@ -410,7 +430,7 @@ S&apos;il n&apos;est à aucun de ces emplacements, la configuration par défaut 
 Saving a copy of the default Configuration to the Desktop instead.
 
 </source>
-        <translation>Impossible d&apos;ouvrir ou de créer le dossier de configuration :
+        <translation>Impossible d&apos;ouvrir ou de créer le dossier de configuration :
 %1
 
 Une copie de la configuration par défaut est enregistrée à la place sur le bureau.
@@ -423,7 +443,7 @@ Une copie de la configuration par défaut est enregistrée à la place sur le bu
     </message>
     <message>
         <source>Open the web site %1 in your web browser?</source>
-        <translation>Ouvrir le site web %1 dans votre navigateur ?</translation>
+        <translation>Ouvrir le site web %1 dans votre navigateur ?</translation>
     </message>
     <message>
         <source>Yes, sure</source>
@@ -444,10 +464,6 @@ Une copie de la configuration par défaut est enregistrée à la place sur le bu
     <message>
         <source>No look-up table files found</source>
         <translation>Aucune table de correspondance trouvée</translation>
-    </message>
-    <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Une table est un fichier nommé AnonymizationLUT_NAME.txt, sur le bureau ou dans le dossier de configuration</translation>
     </message>
     <message>
         <source>Don&apos;t use a look-up table</source>
@@ -500,14 +516,14 @@ Selected LUT: %1%2
 
 </source>
         <translation>
-Table de correspondance choisie : %1%2
+Table de correspondance choisie : %1%2
 
 
 </translation>
     </message>
     <message>
         <source>Your configuration file provided no tags to anonymize!</source>
-        <translation>Votre fichier de configuration n&apos;indique aucun attribut à anonymiser !</translation>
+        <translation>Votre fichier de configuration n&apos;indique aucun attribut à anonymiser !</translation>
     </message>
     <message>
         <source>
@@ -516,7 +532,7 @@ Path: %1
 
 </source>
         <translation>
-Chemin : %1
+Chemin : %1
 
 
 </translation>
@@ -536,11 +552,11 @@ If this enclosing folder contains subfolders that should not be anonymized, cons
 
 Continue with dropped files?
 </source>
-        <translation>Vous avez déposé un grand nombre de fichiers : le traitement est plus rapide si vous déposez le dossier qui les contient.
+        <translation>Vous avez déposé un grand nombre de fichiers : le traitement est plus rapide si vous déposez le dossier qui les contient.
 
 Si ce dossier contient des sous-dossiers à ne pas anonymiser, placez provisoirement les fichiers dans un nouveau dossier et déposez celui-ci.
 
-Continuer avec les fichiers déposés ?
+Continuer avec les fichiers déposés ?
 </translation>
     </message>
     <message>
@@ -549,7 +565,7 @@ Continuer avec les fichiers déposés ?
     </message>
     <message>
         <source>Yes, get on with it!</source>
-        <translation>Oui, continuer !</translation>
+        <translation>Oui, continuer !</translation>
     </message>
     <message>
         <source>About to anonymize your data</source>
@@ -557,7 +573,7 @@ Continuer avec les fichiers déposés ?
     </message>
     <message>
         <source>Your source data will be overwritten. Continue?</source>
-        <translation>Vos données sources seront écrasées. Continuer ?</translation>
+        <translation>Vos données sources seront écrasées. Continuer ?</translation>
     </message>
     <message>
         <source>No, Cancel</source>
@@ -580,12 +596,12 @@ Only digits and &apos;.&apos; are allowed, and the total maximum length is 64 ch
         <translation>L&apos;identifiant du cas et la racine UID donneraient ensemble un Study Instance UID non valide.
 Ce n&apos;est pas autorisé.
 
-Seuls les chiffres et « . » sont autorisés, pour une longueur totale de 64 caractères au plus.
+Seuls les chiffres et « . » sont autorisés, pour une longueur totale de 64 caractères au plus.
 </translation>
     </message>
     <message>
         <source>Ran out of file handles!</source>
-        <translation>Plus aucun descripteur de fichier disponible !</translation>
+        <translation>Plus aucun descripteur de fichier disponible !</translation>
     </message>
     <message>
         <source>Please try and process your data in slightly smaller batches.
@@ -597,7 +613,7 @@ Cela n&apos;aurait cependant pas dû se produire. Si cela se reproduit, merci de
     </message>
     <message>
         <source>Your configuration file provided no tags matching the selected LUT!</source>
-        <translation>Votre fichier de configuration n&apos;indique aucun attribut correspondant à la table de correspondance choisie !</translation>
+        <translation>Votre fichier de configuration n&apos;indique aucun attribut correspondant à la table de correspondance choisie !</translation>
     </message>
     <message>
         <source>
@@ -606,7 +622,7 @@ Selected LUT: %1
 
 </source>
         <translation>
-Table de correspondance choisie : %1
+Table de correspondance choisie : %1
 
 
 </translation>
@@ -643,7 +659,7 @@ so you can continue to use your computer
 (stop watching this).</source>
         <translation>Le traitement peut prendre *très* longtemps…
 
-Il s&apos;exécute en arrière-plan :
+Il s&apos;exécute en arrière-plan :
 vous pouvez continuer à utiliser votre ordinateur
 (inutile de rester devant).</translation>
     </message>
@@ -658,6 +674,159 @@ Traitement en cours… %1/%2 dossiers</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Application de la table de correspondance… %1/%2 dossiers</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>introuvable</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>À propos de Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Le guide de l&apos;utilisateur n&apos;est pas installé.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Outils, images et configuration par défaut :</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>choisir un dossier au lieu de le déposer</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>afficher le journal du dernier traitement</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>quitter</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt et une lettre soulignée : aller à ce champ ou changer cette case</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>Dans le journal, %1 : rechercher, %2 : fermer</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Ce qui est modifié dans les fichiers</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Une table est un fichier nommé AnonymizationLUT_NAME.txt dans
+%1
+ou
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Nouvelles valeurs d&apos;un attribut</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Traitement en cours. Un autre dépôt serait traité en parallèle.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Aucune valeur trouvée, aucun fichier modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 valeur trouvée, aucun fichier modifié</numerusform>
+            <numerusform>%1 valeurs trouvées, aucun fichier modifié</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Aucun fichier trouvé</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Aucun fichier modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 fichier modifié</numerusform>
+            <numerusform>%1 fichiers modifiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 inchangé</numerusform>
+            <numerusform>%1 inchangés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 laissé de côté</numerusform>
+            <numerusform>%1 laissés de côté</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>dans %1 dossier</numerusform>
+            <numerusform>dans %1 dossiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID du patient ; vide l&apos;efface</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Trop long avec la racine</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Chiffres uniquement</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Refusé</translation>
     </message>
 </context>
 </TS>

@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Guida, scorciatoie, versioni</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>Mostr&amp;a registro</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Mostra che cosa hanno segnalato gli strumenti nell&apos;ultima elaborazione che aveva qualcosa da segnalare</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>questa cartella: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ Una copia della configurazione predefinita viene invece salvata sulla scrivania.
         <translation>Nessuna tabella di corrispondenza</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Una tabella è un file di nome AnonymizationLUT_NAME.txt, sulla scrivania o nella cartella di configurazione</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Senza tabella di corrispondenza</translation>
     </message>
@@ -658,6 +674,159 @@ Elaborazione in corso… %1/%2 cartelle</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Applicazione della tabella di corrispondenza… %1/%2 cartelle</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>non trovato</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guida per l&apos;utente</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Scorciatoie da tastiera</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Sito web</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Informazioni su Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>La guida per l&apos;utente non è installata.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Strumenti, immagini e configurazione predefinita:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>guida per l&apos;utente</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>scegliere una cartella invece di trascinarla</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>mostrare il registro dell&apos;ultima elaborazione</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>uscire</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt e una lettera sottolineata: andare al campo o cambiare la casella</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>Nel registro, %1: cercare, %2: chiudere</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Che cosa viene modificato nei file</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Una tabella è un file di nome AnonymizationLUT_NAME.txt in
+%1
+o
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Nuovi valori per un attributo</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Elaborazione in corso. Un altro rilascio verrebbe elaborato in parallelo.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Nessun valore trovato, nessun file modificato</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 valore trovato, nessun file modificato</numerusform>
+            <numerusform>%1 valori trovati, nessun file modificato</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Nessun file trovato</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Nessun file modificato</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 file modificato</numerusform>
+            <numerusform>%1 file modificati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 invariato</numerusform>
+            <numerusform>%1 invariati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 tralasciato</numerusform>
+            <numerusform>%1 tralasciati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>in %1 cartella</numerusform>
+            <numerusform>in %1 cartelle</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID paziente; vuoto lo cancella</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Troppo lungo insieme alla radice</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Sono ammesse solo cifre</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminato</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Attenzione</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Rifiutato</translation>
     </message>
 </context>
 </TS>

@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>進捗</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>ガイド、ショートカット、バージョン</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>ログを表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>報告のあった直近の処理について、ツールからの報告を表示します</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>このフォルダ: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -427,10 +447,6 @@ Saving a copy of the default Configuration to the Desktop instead.
         <translation>対応表がありません</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>対応表は、デスクトップまたは設定フォルダにある AnonymizationLUT_NAME.txt という名前のファイルです</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>対応表を使用しない</translation>
     </message>
@@ -639,6 +655,153 @@ Working... %1/%2 folders</source>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 対応表を適用しています… フォルダ %1/%2</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>ウェブサイト</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Dravolin について</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>ユーザーガイドがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>ツール、画像、既定の設定:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>ドロップせずにフォルダを選択</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>直近の処理のログを表示</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt と下線の文字: その項目へ移動、またはチェックを切り替え</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>ログでは %1: 検索、%2: 閉じる</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>ファイル内で変更する内容</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>対応表は、次のいずれかにある AnonymizationLUT_NAME.txt という名前のファイルです:
+%1
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>1つの属性の新しい値</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>処理中です。もう一度ドロップすると並行して処理されます。</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>値は見つからず、変更したファイルはありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>値が %1 個見つかり、変更したファイルはありません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>変更したファイルはありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>変更: %1 ファイル</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>変更なし: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>対象外: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>フォルダ: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>患者ID。空欄なら消去</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>ルートと合わせると長すぎます</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>数字だけが使えます</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>拒否</translation>
     </message>
 </context>
 </TS>

@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Voortgang</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Handleiding, sneltoetsen, versies</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>&amp;Logboek tonen</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Toont wat de hulpprogramma&apos;s meldden bij de laatste verwerking waarbij er iets te melden was</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>deze map: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ Een kopie van de standaardconfiguratie wordt in plaats daarvan op het bureaublad
         <translation>Geen opzoektabellen gevonden</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Een tabel is een bestand met de naam AnonymizationLUT_NAME.txt, op het bureaublad of in de configuratiemap</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Geen opzoektabel gebruiken</translation>
     </message>
@@ -658,6 +674,159 @@ Bezig… %1/%2 mappen</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Opzoektabel wordt toegepast… %1/%2 mappen</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>niet gevonden</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Handleiding</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Sneltoetsen</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Over Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>De handleiding is niet geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Hulpprogramma&apos;s, afbeeldingen en standaardconfiguratie:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>handleiding</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>een map kiezen in plaats van neerzetten</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>het logboek van de laatste verwerking tonen</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>afsluiten</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt en een onderstreepte letter: naar dat veld gaan of dat vakje omzetten</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>In het logboek, %1: zoeken, %2: sluiten</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Wat er in de bestanden wordt gewijzigd</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Een tabel is een bestand met de naam AnonymizationLUT_NAME.txt in
+%1
+of
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Nieuwe waarden voor één attribuut</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Bezig. Iets anders neerzetten loopt hiernaast.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Geen waarde gevonden, geen bestand gewijzigd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 waarde gevonden, geen bestand gewijzigd</numerusform>
+            <numerusform>%1 waarden gevonden, geen bestand gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Geen bestand gevonden</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Geen bestand gewijzigd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 bestand gewijzigd</numerusform>
+            <numerusform>%1 bestanden gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 ongewijzigd</numerusform>
+            <numerusform>%1 ongewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 overgeslagen</numerusform>
+            <numerusform>%1 overgeslagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>in %1 map</numerusform>
+            <numerusform>in %1 mappen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>Patiënt-ID; leeg wist deze</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Te lang samen met de wortel</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Alleen cijfers zijn mogelijk</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Klaar</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Let op</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fouten</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Geweigerd</translation>
     </message>
 </context>
 </TS>

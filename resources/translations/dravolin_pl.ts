@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Postęp</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Pomoc</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Podręcznik, skróty, wersje</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>&amp;Pokaż dziennik</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Pokazuje, co zgłosiły narzędzia w ostatnim przebiegu, w którym było co zgłosić</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>ten katalog: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -465,10 +485,6 @@ Kopia konfiguracji domyślnej zostanie zapisana na pulpicie.
         <translation>Nie znaleziono tabel podstawień</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Tabela to plik o nazwie AnonymizationLUT_NAME.txt na pulpicie lub w katalogu konfiguracji</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Bez tabeli podstawień</translation>
     </message>
@@ -677,6 +693,164 @@ Trwa przetwarzanie… katalogi: %1/%2</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Stosowanie tabeli podstawień… katalogi: %1/%2</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nie znaleziono</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Podręcznik użytkownika</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Skróty klawiszowe</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Witryna</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>O programie Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Podręcznik użytkownika nie jest zainstalowany.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Narzędzia, obrazy i konfiguracja domyślna:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>podręcznik użytkownika</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>wybierz katalog zamiast go upuszczać</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>pokaż dziennik ostatniego przebiegu</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>zakończ</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt i podkreślona litera: przejdź do pola lub przełącz pole wyboru</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>W dzienniku: %1: szukaj, %2: zamknij</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>Co zostanie zmienione w plikach</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Tabela to plik o nazwie AnonymizationLUT_NAME.txt w
+%1
+lub
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Nowe wartości jednego atrybutu</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Trwa przetwarzanie. Kolejne upuszczenie będzie działać równolegle.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Nie znaleziono wartości, nie zmieniono plików</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>Znaleziono %1 wartość, nie zmieniono plików</numerusform>
+            <numerusform>Znaleziono %1 wartości, nie zmieniono plików</numerusform>
+            <numerusform>Znaleziono %1 wartości, nie zmieniono plików</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Nie znaleziono plików</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Nie zmieniono plików</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>Zmieniono %1 plik</numerusform>
+            <numerusform>Zmieniono %1 pliki</numerusform>
+            <numerusform>Zmieniono %1 plików</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>bez zmian: %1</numerusform>
+            <numerusform>bez zmian: %1</numerusform>
+            <numerusform>bez zmian: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>pominięto: %1</numerusform>
+            <numerusform>pominięto: %1</numerusform>
+            <numerusform>pominięto: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>w %1 katalogu</numerusform>
+            <numerusform>w %1 katalogach</numerusform>
+            <numerusform>w %1 katalogach</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID pacjenta; puste usuwa</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Za długie razem z korzeniem</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Dozwolone są tylko cyfry</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotowe</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Uwaga</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Błędy</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Odrzucono</translation>
     </message>
 </context>
 </TS>

@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>Progresso</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>Guia, atalhos, versões</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>&amp;Mostrar registro</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>Mostra o que as ferramentas relataram no último processamento em que houve algo a relatar</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>esta pasta: %p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -446,10 +466,6 @@ Em vez disso, uma cópia da configuração padrão será salva na área de traba
         <translation>Nenhuma tabela de correspondência</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>Uma tabela é um arquivo chamado AnonymizationLUT_NAME.txt, na área de trabalho ou na pasta de configuração</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>Sem tabela de correspondência</translation>
     </message>
@@ -658,6 +674,159 @@ Processando… %1/%2 pastas</translation>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 Aplicando a tabela de correspondência… %1/%2 pastas</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>não encontrado</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guia do usuário</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>Sobre o Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>O guia do usuário não está instalado.</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>Ferramentas, imagens e configuração padrão:</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>guia do usuário</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>escolher uma pasta em vez de soltá-la</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>mostrar o registro do último processamento</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>sair</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt e uma letra sublinhada: ir para o campo ou alternar a caixa</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>No registro, %1: procurar, %2: fechar</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>O que é alterado nos arquivos</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>Uma tabela é um arquivo chamado AnonymizationLUT_NAME.txt em
+%1
+ou
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>Novos valores para um atributo</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>Processando. O que for solto agora será processado em paralelo.</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>Nenhum valor encontrado, nenhum arquivo alterado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>%1 valor encontrado, nenhum arquivo alterado</numerusform>
+            <numerusform>%1 valores encontrados, nenhum arquivo alterado</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>Nenhum arquivo encontrado</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>Nenhum arquivo alterado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>%1 arquivo alterado</numerusform>
+            <numerusform>%1 arquivos alterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 inalterado</numerusform>
+            <numerusform>%1 inalterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 deixado de fora</numerusform>
+            <numerusform>%1 deixados de fora</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>em %1 pasta</numerusform>
+            <numerusform>em %1 pastas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>ID do paciente; vazio o apaga</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>Longo demais junto com a raiz</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>Só dígitos são aceitos</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Atenção</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Recusado</translation>
     </message>
 </context>
 </TS>

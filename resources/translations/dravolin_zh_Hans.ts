@@ -209,6 +209,26 @@
         <source>Progress</source>
         <translation>进度</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Guide, shortcuts, versions</source>
+        <translation>指南、快捷键、版本</translation>
+    </message>
+    <message>
+        <source>&amp;Show log</source>
+        <translation>显示日志(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Shows what the tools reported in the last run that had something to say</source>
+        <translation>显示最近一次有内容可报告的运行中工具报告的内容</translation>
+    </message>
+    <message>
+        <source>this folder: %p%</source>
+        <translation>此文件夹：%p%</translation>
+    </message>
 </context>
 <context>
     <name>Texts</name>
@@ -427,10 +447,6 @@ Saving a copy of the default Configuration to the Desktop instead.
         <translation>未找到对照表文件</translation>
     </message>
     <message>
-        <source>A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the configuration folder</source>
-        <translation>对照表是名为 AnonymizationLUT_NAME.txt 的文件，位于桌面或配置文件夹中</translation>
-    </message>
-    <message>
         <source>Don&apos;t use a look-up table</source>
         <translation>不使用对照表</translation>
     </message>
@@ -639,6 +655,154 @@ Working... %1/%2 folders</source>
 Propagating LUT tag... %1/%2 folders</source>
         <translation>
 正在应用对照表… 文件夹 %1/%2</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>网站</translation>
+    </message>
+    <message>
+        <source>About Dravolin</source>
+        <translation>关于 Dravolin</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>未安装用户指南。</translation>
+    </message>
+    <message>
+        <source>Tools, pictures and default configuration:</source>
+        <translation>工具、图片和默认配置：</translation>
+    </message>
+    <message>
+        <source>user guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>choose a folder instead of dropping one</source>
+        <translation>选择文件夹而不是拖放</translation>
+    </message>
+    <message>
+        <source>show the log of the last run</source>
+        <translation>显示最近一次运行的日志</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter: go to that field, or switch that box</source>
+        <translation>Alt 加带下划线的字母：转到该字段或切换该复选框</translation>
+    </message>
+    <message>
+        <source>In the log, %1: find, %2: close</source>
+        <translation>在日志中，%1：查找，%2：关闭</translation>
+    </message>
+    <message>
+        <source>What is changed in the files</source>
+        <translation>文件中要更改的内容</translation>
+    </message>
+    <message>
+        <source>A table is a file named AnonymizationLUT_NAME.txt in
+%1
+or
+%2</source>
+        <translation>对照表是名为 AnonymizationLUT_NAME.txt 的文件，位于
+%1
+或
+%2</translation>
+    </message>
+    <message>
+        <source>New values for one attribute</source>
+        <translation>一个属性的新值</translation>
+    </message>
+    <message>
+        <source>Working. Another drop would run beside this one.</source>
+        <translation>正在处理。再次拖放会同时运行。</translation>
+    </message>
+    <message>
+        <source>No value found, no file changed</source>
+        <translation>未找到值，未更改文件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 value%2 found, no file changed</source>
+        <translation>
+            <numerusform>找到 %1 个值，未更改文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file found</source>
+        <translation>未找到文件</translation>
+    </message>
+    <message>
+        <source>No file changed</source>
+        <translation>未更改文件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 file%2 changed</source>
+        <translation>
+            <numerusform>已更改 %1 个文件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 unchanged</source>
+        <translation>
+            <numerusform>%1 个未更改</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left out</source>
+        <translation>
+            <numerusform>%1 个被略过</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %1 folder%2</source>
+        <translation>
+            <numerusform>位于 %1 个文件夹</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>Patient ID; empty erases it</source>
+        <translation>患者 ID；留空则删除</translation>
+    </message>
+    <message>
+        <source>Too long together with the root</source>
+        <translation>与根合起来太长</translation>
+    </message>
+    <message>
+        <source>Only digits can be used</source>
+        <translation>只能使用数字</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>已拒绝</translation>
     </message>
 </context>
 </TS>

@@ -24,6 +24,8 @@ struct RunTally
     QStringList AllFoldersNames; // lower-cased; the tool complains about them and need not be believed
     QString output;              // what the tools of this run printed
     JobTally jobs;
+    FileCounts files;
+    QSet<QString> unchangedFiles; // paths; only of a run with a table
 };
 
 // What is kept from run to run while the program runs.

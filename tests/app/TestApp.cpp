@@ -23,6 +23,11 @@ void ScriptedPresenter::beginSheet(const AlertSheet &sheet, QWidget *)
     sheets.append(sheet);
 }
 
+void ScriptedPresenter::notify(const QString &summary, const QString &body)
+{
+    notes.append(summary + u'|' + body);
+}
+
 void useHome(const QString &folder)
 {
     qputenv("HOME", folder.toUtf8());

@@ -18,9 +18,11 @@ public:
     QList<AlertButton> answers; // of modal alerts
     QList<ModalAlert> alerts;
     QList<AlertSheet> sheets; // the test calls their completions
+    QStringList notes;        // "summary|body"
 
     [[nodiscard]] AlertButton runModal(const ModalAlert &alert, QWidget *window) override;
     void beginSheet(const AlertSheet &sheet, QWidget *window) override;
+    void notify(const QString &summary, const QString &body) override;
 };
 
 // HOME and the XDG folders of this process point into `folder` from now on; call it before anything else.

@@ -174,7 +174,7 @@ void TestMainWindow::mnemonicsDiffer()
         add(label->text());
     for (const QAbstractButton *button : m_app->controller->window().findChildren<QAbstractButton *>())
         add(button->text());
-    QCOMPARE(byKey.size(), 14);
+    QCOMPARE(byKey.size(), 15);
     for (const QStringList &texts : std::as_const(byKey))
         QCOMPARE(texts.size(), 1);
 }
@@ -187,7 +187,7 @@ void TestMainWindow::tabGoesFromTopToBottom()
     window.activateWindow();
     m_app->controls->selectConfigPopupButton->setFocus();
     QStringList order;
-    for (int i = 0; i < 15; ++i) {
+    for (int i = 0; i < 16; ++i) {
         order.append(window.focusWidget()->objectName());
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
@@ -195,7 +195,7 @@ void TestMainWindow::tabGoesFromTopToBottom()
                                    "overWriteSourceCheckbox prepopulateLUTcheckbox generateSOPCheckbox "
                                    "onlyGenerateSOPCheckbox caseIDTextField diagnosisTextField "
                                    "keywordsTextField creditsTextField uidRootTextField createUIDrootButton "
-                                   "dragDropView webSiteButton")
+                                   "dragDropView webSiteButton helpButton")
                         .split(u' '));
 }
 

@@ -290,9 +290,10 @@ void TestWindowChanges::popUpsTellThePathsOfWhatTheyOffer()
 
 void TestWindowChanges::anEmptyTablePopUpTellsHowATableIsNamed()
 {
-    QCOMPARE(m_app->controls->selectLUTpopupButton->toolTip(),
-             QStringLiteral("A table is a file named AnonymizationLUT_NAME.txt, on the Desktop or in the "
-                            "configuration folder"));
+    QCOMPARE(
+        m_app->controls->selectLUTpopupButton->toolTip(),
+        QStringLiteral("A table is a file named AnonymizationLUT_NAME.txt in\n%1\nor\n%2")
+            .arg(m_app->run.paths.desktopFolder, m_app->run.path(QStringLiteral("home/share/Dravolin"))));
 }
 
 void TestWindowChanges::theWindowClosesByItsKeys()

@@ -46,7 +46,7 @@ Plan TestPlan::planOf(const QByteArray &rows, bool isOwn) const
     BatchOptions options;
     options.list = m_scratch->file(QStringLiteral("list.csv"),
                                    "source,destination,case_id,configuration,table,uid_root\n" + rows);
-    options.runFolder = m_scratch->path(QStringLiteral("list.run"));
+    options.wholeFolder = m_scratch->path(QStringLiteral("list.run"));
     options.defaultConfiguration = m_scratch->path(QStringLiteral("good.txt"));
     return judgeList(options, [isOwn](const CaseRow &) { return isOwn; });
 }

@@ -86,6 +86,8 @@ void TestCheckCall::printsHelp()
     const CheckCall call = parseCheckCall({QStringLiteral("--help")});
     QCOMPARE(call.error, QString());
     QVERIFY(call.help.contains(QStringLiteral("--show-values")));
+    QCOMPARE(call.help.section(u'\n', 0, 0),
+             QStringLiteral("Usage: dravolin-cli check [options] ORIGINALS RESULT"));
 }
 
 DRAVOLIN_TEST(TestCheckCall)

@@ -7,56 +7,33 @@ A failing test leaves a picture of the screen in the picture folder.
 """
 import pathlib
 import shutil
-import stat
 import sys
 import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "desktop"))
+from failures import run_tests  # noqa: E402
 from outside import table_job  # noqa: E402
 from outside.configuration import asked_for, read_rules  # noqa: E402
 from outside.controls import Role  # noqa: E402
 from outside.main_job import CASE, DEFAULT, default_rules, describe_case, prepare, run_and_judge  # noqa: E402
-from outside.program import (DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program,  # noqa: E402
-                             take_picture)
+from outside.program import DEFAULT_CONFIGURATION, FIELDS, OVERWRITE, FileBrowser, Home, Program  # noqa: E402
 from outside.verdict import expected_report, problems, wrong_report  # noqa: E402
 from outside.waiting import wait_until  # noqa: E402
+from outside.waiting_tool import copy_with_waiting_tool  # noqa: E402
 
 EXECUTABLE = pathlib.Path()
-PICTURES = pathlib.Path()
 ROOT = "2.25.271828182845904523536028747135"
 GENERATE = "Generate new instance UIDs"
 GENERATE_ONLY = "Only generate new instance UIDs"
 CONSTRUCT = "Construct look-up table"
 BOXES = ("Overwrite source files", CONSTRUCT, GENERATE, GENERATE_ONLY)
 PRIVATE = "0009,1001\n0011,1010\n"
-WAITING_TOOL = """#!/bin/sh
-here="${0%/*}"
-: > "$here/started"
-while [ ! -e "$here/go" ]; do sleep 0.05; done
-"$here/real-dcmodify" "$@"
-: > "$here/finished"
-"""
 
 
 def contents(folder):
     """Every path of the tree with its bytes; a folder has none."""
     return {path.relative_to(folder): path.read_bytes() if path.is_file() else None for path in folder.rglob("*")}
-
-
-class ResultWithPictures(unittest.TextTestResult):
-    """Takes a picture as soon as a test fails, while the program is still on the screen."""
-
-    def addFailure(self, test, err):
-        self.failed(test)
-        super().addFailure(test, err)
-
-    def addError(self, test, err):
-        self.failed(test)
-        super().addError(test, err)
-
-    def failed(self, test):
-        take_picture(PICTURES / (test.id().rpartition(".")[2] + ".png"))
 
 
 class MainJob(unittest.TestCase):
@@ -203,7 +180,7 @@ class MainJob(unittest.TestCase):
 
     def test_a_window_closed_in_mid_run_leaves_the_tool_to_finish_its_file(self):
         study = prepare(self.folder)
-        executable = self.copy_with_waiting_tool()
+        executable = copy_with_waiting_tool(EXECUTABLE, self.folder / "program")
         resources = executable.parent / "resources"
         program = self.start(executable)
         program.start_with_default_configuration()
@@ -226,18 +203,7 @@ class MainJob(unittest.TestCase):
         wrong, _ = problems(study.before, study.after, files, asked, new_instances=False)
         self.assertEqual([line for line in wrong if line.startswith("disc/IMAGES/AXIAL")], [])
 
-    def copy_with_waiting_tool(self):
-        """A copy of the program whose dcmodify says when it has started and waits until it may go on."""
-        copy = self.folder / "program"
-        shutil.copytree(EXECUTABLE.parent / "resources", copy / "resources", symlinks=True)
-        shutil.copy2(EXECUTABLE, copy)
-        tool = copy / "resources/dcmodify"
-        tool.rename(tool.with_name("real-dcmodify"))
-        tool.write_text(WAITING_TOOL, encoding="ascii")
-        tool.chmod(tool.stat().st_mode | stat.S_IXUSR)
-        return copy / EXECUTABLE.name
-
 
 if __name__ == "__main__":
-    EXECUTABLE, PICTURES = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
-    unittest.main(argv=sys.argv[:1], testRunner=unittest.TextTestRunner(verbosity=2, resultclass=ResultWithPictures))
+    EXECUTABLE = pathlib.Path(sys.argv[1]).resolve()
+    run_tests(sys.argv[2])
