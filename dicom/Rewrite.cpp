@@ -15,6 +15,8 @@ using Token = ElementReader::Token;
 constexpr TagNumber characterSetTag = 0x00080005;
 // of a character set, a creator or a UID; a longer one is none
 constexpr quint64 longestNoted = 4096;
+// so that a worker stays below 64 MiB whatever the object
+constexpr quint64 mostMemory = 40 * 1024 * 1024;
 
 // One walk over a data set.
 class Rewriter
@@ -56,6 +58,8 @@ Rewriting Rewriter::run()
         token = m_reader.next();
         if (!step(token) && m_result.problem.isEmpty())
             m_result.problem = Texts::tr("cannot be rewritten");
+        if (m_levels.memory() > mostMemory)
+            (void)fail(Texts::tr("needs more changes than a worker has memory for"));
     }
     m_result.patches = m_levels.patches();
     return std::move(m_result);

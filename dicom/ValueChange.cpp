@@ -19,7 +19,7 @@ using Copies = AttributeRule::Copies;
 constexpr TagNumber characterSetTag = 0x00080005;
 constexpr TagNumber trailingPadding = 0xfffcfffc;
 // so that no value fills the memory; text that people wrote is far shorter
-constexpr quint64 longestValue = 16 * 1024 * 1024;
+constexpr quint64 longestValue = 4 * 1024 * 1024;
 const char registeredPrefix[] = "1.2.840.10008.";
 
 ValueChange::Result problem(const QString &text)
