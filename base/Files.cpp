@@ -15,6 +15,7 @@ namespace dravolin {
 namespace {
 
 constexpr qsizetype largestFile = qsizetype(1) << 30;
+constexpr qsizetype largestRead = 8 * 1024 * 1024;
 
 std::filesystem::path nativePath(const QString &path)
 {
@@ -132,7 +133,9 @@ std::optional<QByteArray> readBytes(const QString &path)
             return std::nullopt;
         if (used == bytes.size())
             bytes.resize(used + std::max<qsizetype>(4096, used / 2));
-        const ssize_t got = ::read(file.get(), bytes.data() + used, static_cast<size_t>(bytes.size() - used));
+        // in pieces: the system ends a process only between two of them
+        const auto wanted = static_cast<size_t>(std::min(bytes.size() - used, largestRead));
+        const ssize_t got = ::read(file.get(), bytes.data() + used, wanted);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)

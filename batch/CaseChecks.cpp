@@ -87,17 +87,20 @@ bool CaseChecks::check(qsizetype index)
 {
     const PlannedCase &planned = m_plan.cases.at(index);
     const QString &caseId = planned.row.caseId;
-    const QHash<QString, FileRecord> records = m_journal.files(caseId);
-    const QByteArray subject = subjectOf(planned, optionsFor(planned, m_options, records), records);
-    const QString report = joinPath(joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId)),
-                                    QStringLiteral("report.json"));
-    const QByteArray known = pathExists(report) ? m_journal.checked(caseId, subject) : QByteArray();
+    QHash<QString, FileRecord> records = m_journal.files(caseId);
+    const check::CheckOptions options = optionsFor(planned, m_options, records);
+    const QByteArray subject = subjectOf(planned, options, records);
+    records.clear(); // they may be many
+    const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId));
+    const QByteArray known = pathExists(joinPath(folder, QStringLiteral("report.html")))
+                                 ? m_journal.checked(caseId, subject)
+                                 : QByteArray();
     if (!known.isEmpty()) {
         m_findings[index] = findingsFrom(QJsonDocument::fromJson(known).object());
         return true;
     }
     m_hasChecked = true;
-    m_findings[index] = checkNow(planned, records);
+    m_findings[index] = checkNow(options, folder);
     if (!m_findings[index])
         return false;
     const QByteArray json = QJsonDocument(jsonOf(*m_findings[index])).toJson(QJsonDocument::Compact);
@@ -106,11 +109,8 @@ bool CaseChecks::check(qsizetype index)
     return m_failure.isEmpty();
 }
 
-std::optional<CaseFindings> CaseChecks::checkNow(const PlannedCase &planned,
-                                                 const QHash<QString, FileRecord> &records)
+std::optional<CaseFindings> CaseChecks::checkNow(const check::CheckOptions &options, const QString &folder)
 {
-    const check::CheckOptions options = optionsFor(planned, m_options, records);
-    const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(planned.row.caseId));
     check::ReportWriter writer(folder, {options, m_options.atLeast, QDateTime::currentDateTime()});
     check::CheckEvents events;
     events.progress = m_events.progress;

@@ -39,8 +39,8 @@ public:
     [[nodiscard]] const QList<std::optional<CaseFindings>> &findings() const { return m_findings; }
 
 private:
-    [[nodiscard]] std::optional<CaseFindings> checkNow(const PlannedCase &planned,
-                                                       const QHash<QString, FileRecord> &records);
+    [[nodiscard]] std::optional<CaseFindings> checkNow(const check::CheckOptions &options,
+                                                       const QString &folder);
 
     const Plan &m_plan;
     const BatchOptions &m_options;

@@ -20,13 +20,11 @@ bool writeFiles(const EvidenceSources &sources, const QString &folder)
     table.addLine({QStringLiteral("case_id"), QStringLiteral("result"), QStringLiteral("sha256_before"),
                    QStringLiteral("sha256_after")});
     for (const PlannedCase &planned : sources.plan.cases) {
-        QList<FileRecord> records = sources.journal.files(planned.row.caseId).values();
-        std::sort(records.begin(), records.end(),
-                  [](const FileRecord &one, const FileRecord &other) { return one.result < other.result; });
-        for (const FileRecord &record : records)
-            if (!record.result.isEmpty())
-                table.addLine({planned.row.caseId, record.result, QString::fromLatin1(record.hashBefore),
-                               QString::fromLatin1(record.hashAfter)});
+        const QString &caseId = planned.row.caseId;
+        sources.journal.forEachResult(caseId, [&](const FileRecord &record) {
+            table.addLine({caseId, record.result, QString::fromLatin1(record.hashBefore),
+                           QString::fromLatin1(record.hashAfter)});
+        });
     }
     return table.finish();
 }

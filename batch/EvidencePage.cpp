@@ -76,7 +76,11 @@ private:
             return Texts::tr(
                 "All files are done, and none of the originals' values was found in the results.");
         case Verdict::Found: return textOf(Verdict::Found);
-        case Verdict::Incomplete: return Texts::tr("Not everything is done, or could be checked.");
+        case Verdict::Incomplete:
+            return Texts::tr("No value was found, but not all is done and checked. Files not done: %1. Files "
+                             "not checked: %2.")
+                .arg(sum("notDone"))
+                .arg(m_findings.notChecked);
         }
         return {};
     }

@@ -83,6 +83,21 @@ bool Journal::begin(const CaseRow &row, const QByteArray &rules)
                         {row.caseId, toBytes(row.destination), rules}));
 }
 
+void Journal::forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const
+{
+    QSqlQuery query = prepared(database(),
+                               QStringLiteral("SELECT result, before, after FROM files "
+                                              "WHERE id = ? AND result <> '' ORDER BY result"),
+                               {caseId});
+    FileRecord record;
+    while (query.next()) {
+        record.result = query.value(0).toString();
+        record.hashBefore = query.value(1).toByteArray().toHex();
+        record.hashAfter = query.value(2).toByteArray().toHex();
+        visit(record);
+    }
+}
+
 bool Journal::remove(const QString &caseId, const QString &path)
 {
     return run(QStringLiteral("DELETE FROM files WHERE id = ? AND path = ?"), {caseId, toBytes(path)});

@@ -49,6 +49,9 @@ public:
     // The files of a case, by path.
     [[nodiscard]] QHash<QString, FileRecord> files(const QString &caseId) const;
 
+    // Calls `visit` with every file of a case that has a result, by result.
+    void forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const;
+
     // All of it or nothing is written; on return it is safe.
     bool add(const QList<QPair<QString, FileRecord>> &filesOfCases,
              const QHash<QByteArray, QByteArray> &uids);

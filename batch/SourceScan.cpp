@@ -7,6 +7,9 @@
 #include "dicom/ObjectFile.h"
 #include "identifiers/UidRoot.h"
 
+#include <QMutex>
+#include <QMutexLocker>
+
 #include <algorithm>
 #include <vector>
 
@@ -44,57 +47,88 @@ void listSource(PlannedCase &planned)
               [](const PlannedFile &one, const PlannedFile &other) { return one.path < other.path; });
 }
 
-// What the files of a case say, together.
-void sumUp(PlannedCase &planned, const std::vector<ObjectFacts> &facts, size_t first)
+// Looks at files, whose names are many: nothing of them is kept twice.
+class Scan
 {
-    for (PlannedFile &file : planned.files) {
-        const ObjectFacts &known = facts.at(first++);
-        file.size = known.size;
-        file.modified = known.modified;
-        file.problem = known.problem;
-        file.isDirectory = known.isDirectory;
-        file.sopInstance = known.names.sopInstance;
-        file.series = known.names.series;
-        planned.bytes += known.size;
-        if (!known.problem.isEmpty() || known.isDirectory)
-            continue;
+public:
+    explicit Scan(Plan &plan)
+    {
+        for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
+            for (PlannedCase &planned : *some)
+                add(planned);
+    }
+
+    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(m_places.size()); }
+
+    // Any thread; each number once.
+    void look(qsizetype number)
+    {
+        const Place &place = m_places[static_cast<size_t>(number)];
+        const QString folder = m_folders[place.ofCase];
+        const ObjectFacts facts = readFacts(joinPath(folder, place.file->path));
+        const QMutexLocker locker(&m_mutex);
+        take(*m_cases[place.ofCase], *place.file, facts);
+    }
+
+    void finish()
+    {
+        for (PlannedCase *planned : m_cases) {
+            planned->studies.remove(QByteArray());
+            const CaseRow &row = planned->row;
+            if (planned->studies.size() <= 1 && !row.uidRoot.isEmpty())
+                planned->studyUid =
+                    studyInstanceUid(checkRoot(row.uidRoot, row.caseId).trimmedRoot, row.caseId).toLatin1();
+        }
+    }
+
+private:
+    struct Place
+    {
+        size_t ofCase = 0;
+        PlannedFile *file = nullptr;
+    };
+
+    void add(PlannedCase &planned)
+    {
+        listSource(planned);
+        for (PlannedFile &file : planned.files)
+            m_places.push_back({m_cases.size(), &file});
+        m_folders.push_back(planned.sourceFolder());
+        m_cases.push_back(&planned);
+    }
+
+    void take(PlannedCase &planned, PlannedFile &file, const ObjectFacts &facts)
+    {
+        file.size = facts.size;
+        file.modified = facts.modified;
+        file.problem = facts.problem;
+        file.isDirectory = facts.isDirectory;
+        planned.bytes += facts.size;
+        if (!facts.problem.isEmpty() || facts.isDirectory)
+            return;
+        file.sopInstance = facts.names.sopInstance;
+        file.series = *m_series.insert(facts.names.series);
         if (file.sopInstance.isEmpty())
             file.problem = Texts::tr("has no SOP Instance UID");
-        planned.studies.insert(known.names.study);
-        planned.patients.insert(known.names.patientId);
+        planned.studies.insert(facts.names.study);
+        planned.patients.insert(facts.names.patientId);
     }
-    planned.studies.remove(QByteArray());
-    if (planned.studies.size() <= 1 && !planned.row.uidRoot.isEmpty())
-        planned.studyUid = studyInstanceUid(checkRoot(planned.row.uidRoot, planned.row.caseId).trimmedRoot,
-                                            planned.row.caseId)
-                               .toLatin1();
-}
+
+    std::vector<PlannedCase *> m_cases;
+    std::vector<QString> m_folders; // of the cases
+    std::vector<Place> m_places;
+    QMutex m_mutex;            // guards what the files say
+    QSet<QByteArray> m_series; // each once, however many files name it
+};
 
 } // namespace
 
 void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
 {
-    QStringList paths;
-    std::vector<PlannedCase *> cases;
-    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
-        for (PlannedCase &planned : *some)
-            cases.push_back(&planned);
-    for (PlannedCase *found : cases) {
-        PlannedCase &planned = *found;
-        listSource(planned);
-        const QString folder = planned.sourceFolder();
-        for (const PlannedFile &file : planned.files)
-            paths.append(joinPath(folder, file.path));
-    }
-    std::vector<ObjectFacts> facts(static_cast<size_t>(paths.size()));
+    Scan scan(plan);
     workThrough(
-        paths.size(), workers,
-        [&](qsizetype number) { facts[static_cast<size_t>(number)] = readFacts(paths.at(number)); }, stop);
-    size_t first = 0;
-    for (PlannedCase *planned : cases) {
-        sumUp(*planned, facts, first);
-        first += static_cast<size_t>(planned->files.size());
-    }
+        scan.size(), workers, [&scan](qsizetype number) { scan.look(number); }, stop);
+    scan.finish();
 }
 
 } // namespace dravolin

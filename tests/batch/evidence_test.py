@@ -8,9 +8,11 @@ import json
 import os
 import pathlib
 import re
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
@@ -126,6 +128,22 @@ class Evidence(unittest.TestCase):
         source = next(path for path in sorted((self.folder / "in").rglob("*")) if path.is_file())
         self.run_list(self.row(str(source), "17"))
         self.assertEqual(self.report()["cases"][0]["check"]["notChecked"], 0)
+
+    def test_can_be_interrupted_while_it_checks(self):
+        self.make("in", count=200)
+        self.run_list(self.row("in", "17"), options=("--folder", "other.run"))
+        (self.folder / "out17").rename(self.folder / "whole")
+        report = self.folder / "list.run/evidence/cases/17/report.json"
+        with subprocess.Popen([CLI, "run", "list.csv", "--key", "other.run/secret/project.key"], cwd=self.folder,
+                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as running:
+            while not report.exists() and running.poll() is None:
+                time.sleep(0.001)
+            running.send_signal(signal.SIGINT)
+            _, errors = running.communicate(timeout=60)
+        self.assertEqual((running.returncode, "the same call goes on from here" in errors), (130, True))
+        self.assertFalse((self.folder / "list.run/evidence/report.html").exists())
+        printed = self.run_list(self.row("in", "17"), options=("--key", "other.run/secret/project.key"))
+        self.assertIn("case 17: 200 done, 0 not done; nothing found", printed)
 
     def test_takes_back_the_result_of_a_file_that_is_gone(self):
         self.make("in", count=3)
