@@ -154,7 +154,7 @@ class Objects(unittest.TestCase):
         """These objects of the hostile set as source; gives their bytes."""
         with tempfile.TemporaryDirectory() as made:
             subprocess.run([sys.executable, MAKE_OBJECTS, "hostile", made], check=True, stdout=subprocess.DEVNULL)
-            return [shutil.copy(pathlib.Path(made, f"unusual/{name}.dcm"), self.source).read_bytes()
+            return [pathlib.Path(shutil.copy(f"{made}/unusual/{name}.dcm", self.source)).read_bytes()
                     for name in names]
 
     def test_treats_known_attributes_and_pixels_that_nobody_knows(self):
