@@ -3,6 +3,7 @@
 #include "app/AlertSheetRunner.h"
 #include "app/FieldText.h"
 #include "app/MainWindow.h"
+#include "app/Preferences.h"
 #include "run/DropIntake.h"
 #include "run/RunDriver.h"
 #include "run/UidRootFields.h"
@@ -11,7 +12,6 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
-#include <QSettings>
 #include <QShortcut>
 #include <QTimer>
 
@@ -20,13 +20,6 @@
 namespace dravolin {
 
 namespace {
-
-const QString uidRootKey = QStringLiteral("uidRoot");
-
-QSettings preferences()
-{
-    return QSettings(executableName(), executableName());
-}
 
 // No generated root is longer than this.
 void showWholeRoots(QLineEdit &field)
@@ -154,7 +147,7 @@ void MainController::initAndShow()
 
 void MainController::restoreUidRoot()
 {
-    const QString root = preferences().value(uidRootKey).toString();
+    const QString root = storedUidRoot();
     if (root.isEmpty())
         return;
     {
@@ -167,11 +160,8 @@ void MainController::restoreUidRoot()
 void MainController::windowWillClose()
 {
     const QString root = m_controls->uidRootTextField->text();
-    if (!root.isEmpty()) {
-        QSettings settings = preferences();
-        settings.setValue(uidRootKey, root);
-        settings.sync();
-    }
+    if (!root.isEmpty())
+        storeUidRoot(root);
     Q_EMIT closed();
 }
 
@@ -210,6 +200,11 @@ void MainController::startRunThread(const Drop &drop)
         run->deleteLater();
     });
     run->start();
+    if (run->isRunning() || run->isFinished())
+        return;
+    m_runs.removeOne(run); // no thread was to be had
+    delete run;
+    (void)giveUpRun(m_context);
 }
 
 void MainController::showLogWindowWithLogText(const QString &text)

@@ -1,8 +1,12 @@
 #include "app/MainThreadGate.h"
 
+#include "base/SystemLog.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QThread>
+
+#include <new>
 
 namespace dravolin {
 
@@ -63,7 +67,11 @@ void MainThreadGate::runQueued()
         m_queue.pop_front();
         handover->begun = true;
         lock.unlock();
-        handover->work();
+        try {
+            handover->work();
+        } catch (const std::bad_alloc &) {
+            logMessage(QStringLiteral("Not enough memory"));
+        }
         lock.lock();
         handover->done = true;
         lock.unlock(); // from here on the handover may be gone

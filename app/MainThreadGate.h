@@ -21,7 +21,8 @@ public:
     explicit MainThreadGate(QObject *parent = nullptr);
 
     // Any thread. On the main thread runs `work` at once; elsewhere queues it and returns when it is done.
-    // False when the gate was closed before the work began: it then never runs.
+    // False when the gate was closed before the work began: it then never runs. Work for which memory does
+    // not suffice is left where it is, with a message in the system log.
     [[nodiscard]] bool run(const std::function<void()> &work);
 
     // The same with a value; nothing when the gate was closed.

@@ -14,7 +14,7 @@ void QVAppDelegate::applicationDidFinishLaunching()
 {
     QApplication::setStyle(new OutlineStyle); // the application owns it
     installAccessibility();
-    const AppPaths paths = AppPaths::forExecutable(QCoreApplication::applicationFilePath());
+    const AppPaths paths = AppPaths::forExecutable(AppPaths::ownExecutable());
     startUp(paths);
     m_controller = std::make_unique<MainController>(AppPorts{paths, m_jobs, m_uuids, m_presenter, Delays()});
     QObject::connect(m_controller.get(), &MainController::closed, QCoreApplication::instance(),

@@ -1,12 +1,13 @@
 #include "app/QVAppDelegate.h"
+#include "app/Application.h"
 #include "config/AppPaths.h"
-
-#include <QApplication>
+#include "run/StartUp.h"
 
 int main(int, char *argv[])
 {
+    dravolin::prepareProcess();
     int ownName = 1; // the program reads no options, the toolkit's own included
-    QApplication application(ownName, argv);
+    dravolin::Application application(ownName, argv);
     QApplication::setApplicationName(dravolin::executableName());
     QApplication::setDesktopFileName(QStringLiteral("example.dravolin.Dravolin"));
     QApplication::setQuitOnLastWindowClosed(false); // the main window decides, not the log window

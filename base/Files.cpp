@@ -1,11 +1,14 @@
 #include "base/Files.h"
 
+#include "base/SystemLog.h"
+
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <new>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -14,7 +17,6 @@ namespace dravolin {
 
 namespace {
 
-constexpr qsizetype largestFile = qsizetype(1) << 30;
 constexpr qsizetype largestRead = 8 * 1024 * 1024;
 
 std::filesystem::path nativePath(const QString &path)
@@ -43,7 +45,7 @@ private:
     int m_fd;
 };
 
-// Writes and closes.
+// Writes, and closes when all of it was written.
 bool writeAll(FileDescriptor &file, const QByteArray &bytes)
 {
     qsizetype written = 0;
@@ -57,6 +59,57 @@ bool writeAll(FileDescriptor &file, const QByteArray &bytes)
         written += count;
     }
     return file.close();
+}
+
+// Removes the file at `path` if it is still the one of these attributes, and no link, pipe or device.
+void removeRegularFile(const QString &path, const struct stat &written)
+{
+    struct stat named = {};
+    if (::lstat(systemPath(path).constData(), &named) == 0 && S_ISREG(named.st_mode) &&
+        named.st_ino == written.st_ino && named.st_dev == written.st_dev)
+        removeFile(path);
+}
+
+// What `read` gives; nothing, and a message, when memory does not suffice for it.
+template <typename Read>
+auto readIfItFits(const QString &path, Read &&read) -> decltype(read())
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc &) {
+        logMessage(QStringLiteral("Not enough memory to read file: %1").arg(path));
+        return std::nullopt;
+    }
+}
+
+std::optional<QByteArray> readWhole(const QString &path)
+{
+    // O_NONBLOCK: a pipe of that name must not stop the program
+    FileDescriptor file(::open(systemPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat attributes = {};
+    if (!file.isOpen() || ::fstat(file.get(), &attributes) != 0 || !S_ISREG(attributes.st_mode) ||
+        attributes.st_size > largestFile)
+        return std::nullopt;
+    QByteArray bytes(static_cast<qsizetype>(attributes.st_size) + 1, Qt::Uninitialized);
+    qsizetype used = 0;
+    for (;;) {
+        if (used > largestFile)
+            return std::nullopt;
+        if (used == bytes.size())
+            bytes.resize(used + std::max<qsizetype>(4096, used / 2));
+        // in pieces: the system ends a process only between two of them
+        const auto wanted = static_cast<size_t>(std::min(bytes.size() - used, largestRead));
+        const ssize_t got = ::read(file.get(), bytes.data() + used, wanted);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return std::nullopt;
+        if (got == 0)
+            break;
+        used += got;
+    }
+    bytes.truncate(used);
+    return bytes;
 }
 
 void forEachEntry(const QString &folder, const std::function<void(const dirent &)> &visit)
@@ -120,38 +173,15 @@ bool pathExists(const QString &path)
 
 std::optional<QByteArray> readBytes(const QString &path)
 {
-    // O_NONBLOCK: a pipe of that name must not stop the program
-    FileDescriptor file(::open(systemPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat attributes = {};
-    if (!file.isOpen() || ::fstat(file.get(), &attributes) != 0 || !S_ISREG(attributes.st_mode) ||
-        attributes.st_size > largestFile)
-        return std::nullopt;
-    QByteArray bytes(static_cast<qsizetype>(attributes.st_size) + 1, Qt::Uninitialized);
-    qsizetype used = 0;
-    for (;;) {
-        if (used > largestFile)
-            return std::nullopt;
-        if (used == bytes.size())
-            bytes.resize(used + std::max<qsizetype>(4096, used / 2));
-        // in pieces: the system ends a process only between two of them
-        const auto wanted = static_cast<size_t>(std::min(bytes.size() - used, largestRead));
-        const ssize_t got = ::read(file.get(), bytes.data() + used, wanted);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return std::nullopt;
-        if (got == 0)
-            break;
-        used += got;
-    }
-    bytes.truncate(used);
-    return bytes;
+    return readIfItFits(path, [&path] { return readWhole(path); });
 }
 
 std::optional<QString> readText(const QString &path)
 {
-    const std::optional<QByteArray> bytes = readBytes(path);
-    return bytes ? decodeUtf8(*bytes) : std::nullopt;
+    return readIfItFits(path, [&path] {
+        const std::optional<QByteArray> bytes = readWhole(path);
+        return bytes ? decodeUtf8(*bytes) : std::nullopt;
+    });
 }
 
 bool writeText(const QString &path, const QString &text, Links links)
@@ -159,7 +189,13 @@ bool writeText(const QString &path, const QString &text, Links links)
     const int linkFlag = links == Links::Refuse ? O_NOFOLLOW : 0;
     FileDescriptor file(::open(systemPath(path).constData(),
                                O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | linkFlag, 0666));
-    return file.isOpen() && writeAll(file, toBytes(text));
+    struct stat attributes = {};
+    if (!file.isOpen() || ::fstat(file.get(), &attributes) != 0)
+        return false;
+    if (writeAll(file, toBytes(text)))
+        return true;
+    removeRegularFile(path, attributes); // half a text would be found and used
+    return false;
 }
 
 bool makeExecutable(const QString &path)

@@ -34,14 +34,17 @@ enum class EntryKind { File, Folder, Other };
 // Follows links: a broken link does not exist.
 [[nodiscard]] bool pathExists(const QString &path);
 
-// The whole file; nothing when it cannot be opened or read, is no regular file (a folder, a pipe, a device)
-// or holds more than 1 GiB.
+// Bytes; a larger file is not read as a whole.
+inline constexpr qsizetype largestFile = qsizetype(1) << 30;
+// The whole file; nothing when it cannot be opened or read, is no regular file (a folder, a pipe, a device),
+// is larger than `largestFile`, or does not fit into memory (which is logged).
 [[nodiscard]] std::optional<QByteArray> readBytes(const QString &path);
 // readBytes, then decodeUtf8.
 [[nodiscard]] std::optional<QString> readText(const QString &path);
 enum class Links { Follow, Refuse };
-// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written, or
-// when `path` is a link and links are refused; a partly written file may stay behind.
+// Creates or truncates `path` and writes in place, not by renaming. False when anything was not written (a
+// partly written file is removed again; what a link leads to stays), or when `path` is a link and links are
+// refused.
 [[nodiscard]] bool writeText(const QString &path, const QString &text, Links links = Links::Follow);
 // Sets the permissions to 0777.
 [[nodiscard]] bool makeExecutable(const QString &path);

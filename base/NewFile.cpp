@@ -1,6 +1,6 @@
 #include "base/NewFile.h"
 
-#include "base/PathText.h"
+#include "base/Files.h"
 
 #include <QFile>
 
@@ -19,7 +19,10 @@ NewFile writeNewText(const QString &path, const QString &text)
     const bool written =
         file.open(fd, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle) &&
         file.write(bytes) == bytes.size();
-    return written ? NewFile::Written : NewFile::Failed;
+    if (written)
+        return NewFile::Written;
+    removeFile(path);
+    return NewFile::Failed;
 }
 
 } // namespace dravolin

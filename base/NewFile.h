@@ -7,7 +7,7 @@ namespace dravolin {
 enum class NewFile {
     Written,
     Taken, // something has this name already, be it a link that leads nowhere; it was left alone
-    Failed // a partly written file may stay behind
+    Failed // nothing of it stays behind
 };
 
 // Creates `path`, a name of base/PathText.h, with `text`. Of two that want the same name beside each other

@@ -8,4 +8,7 @@ namespace dravolin {
 // program that the desktop started, the session's journal. Any thread.
 void logMessage(const QString &text);
 
+// Whether a short text written to standard error now would not wait for a reader. Any thread.
+[[nodiscard]] bool canWriteToStandardError();
+
 } // namespace dravolin

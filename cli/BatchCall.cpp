@@ -90,8 +90,7 @@ void readPaths(const QCommandLineParser &parser, BatchCall &call)
     options.key = parser.isSet(keyOption)
                       ? absolute(parser.value(keyOption))
                       : joinPath(secretFolder(options.wholeFolder), QStringLiteral("project.key"));
-    options.defaultConfiguration =
-        AppPaths::forExecutable(QCoreApplication::applicationFilePath()).defaultConfiguration();
+    options.defaultConfiguration = AppPaths::forExecutable(AppPaths::ownExecutable()).defaultConfiguration();
 }
 
 void readWorkers(const QCommandLineParser &parser, BatchCall &call)

@@ -2,10 +2,33 @@
 
 #include "base/Files.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
+#include <filesystem>
+#include <system_error>
+
 namespace dravolin {
+
+namespace {
+
+// Qt replaces bytes of the home folder that are not UTF-8.
+QString withBytesOfHome(const QString &path)
+{
+    const QString home = QDir::homePath();
+    return path.startsWith(home) ? fromBytes(qgetenv("HOME")) + path.sliced(home.size()) : path;
+}
+
+} // namespace
+
+QString AppPaths::ownExecutable()
+{
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? QCoreApplication::applicationFilePath()
+                 : fromBytes(QByteArray::fromStdString(path.native()));
+}
 
 AppPaths AppPaths::forExecutable(const QString &executable)
 {
@@ -15,8 +38,9 @@ AppPaths AppPaths::forExecutable(const QString &executable)
     if (!pathExists(paths.resourceFolder))
         paths.resourceFolder =
             QDir::cleanPath(joinPath(paths.applicationFolder, QStringLiteral("../share/dravolin")));
-    paths.desktopFolder = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    paths.applicationSupportFolders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    paths.desktopFolder = withBytesOfHome(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    for (const QString &folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+        paths.applicationSupportFolders.append(withBytesOfHome(folder));
     return paths;
 }
 

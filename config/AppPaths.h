@@ -14,6 +14,8 @@ struct AppPaths
     // The system's application support folders, the user's own first; may not exist, may be empty.
     QStringList applicationSupportFolders;
 
+    // The path of this process's executable, whatever bytes its name has; a name of base/PathText.h.
+    [[nodiscard]] static QString ownExecutable();
     // For the executable at `executable`: its folder's "resources" when that exists, else
     // "../share/dravolin".
     [[nodiscard]] static AppPaths forExecutable(const QString &executable);

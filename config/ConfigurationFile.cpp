@@ -56,15 +56,15 @@ void sortWithoutDuplicates(QStringList &tags)
 TagRules parseConfiguration(const QString &text)
 {
     TagRules rules;
-    for (const QStringView line : lines(text)) {
+    forEachLine(text, [&rules](QStringView line) {
         const QStringView trimmed = NOXUtils::trimmed(line);
         if (trimmed.startsWith(u'#'))
-            continue;
+            return;
         const TagRule rule = parseLine(trimmed);
         if (rule.value)
             rules.newValueDict.insert(rule.tag, *rule.value);
         rules.allTagsToAnonymize.append(rule.tag);
-    }
+    });
     sortWithoutDuplicates(rules.allTagsToAnonymize);
     return rules;
 }

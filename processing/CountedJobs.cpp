@@ -22,9 +22,10 @@ JobResult runCounted(const RunContext &context, const Job &job)
     return result;
 }
 
-ScriptJobResult runScriptCounted(const RunContext &context, const QString &folder, const QString &commands)
+ScriptJobResult runScriptCounted(const RunContext &context, const QString &folder, const QString &commands,
+                                 OutputUse use)
 {
-    ScriptJobResult result = runScriptJob(context.jobs, context.paths, folder, commands);
+    ScriptJobResult result = runScriptJob(context.jobs, context.paths, folder, commands, use);
     count(context, result.ran, result.exitStatus);
     return result;
 }

@@ -11,6 +11,6 @@ namespace dravolin {
 
 // runScriptJob() in `folder`; a script that could not be placed counts as a job that could not start.
 [[nodiscard]] ScriptJobResult runScriptCounted(const RunContext &context, const QString &folder,
-                                               const QString &commands);
+                                               const QString &commands, OutputUse use = OutputUse::Judged);
 
 } // namespace dravolin

@@ -40,8 +40,8 @@ quint64 collect(const RunContext &context, const QString &folder, CommandsFor &&
         return 1;
     }
     removeOutputBeside(folder);
-    const ScriptJobResult result =
-        runScriptCounted(context, folder, commandsFor(constructionPrefix(context.paths.dcmdump(), tag)));
+    const ScriptJobResult result = runScriptCounted(
+        context, folder, commandsFor(constructionPrefix(context.paths.dcmdump(), tag)), OutputUse::Collected);
     addValues(context.state, result.output);
     return result.ran ? 0 : 1;
 }

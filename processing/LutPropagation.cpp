@@ -12,6 +12,10 @@ namespace dravolin {
 
 namespace {
 
+// Bytes. The value stands in the first line; more than this is printed only by a tool that prints without
+// end.
+constexpr qsizetype enoughOfASearch = 64 << 20;
+
 // What the files of one folder have in common.
 struct FolderPass
 {
@@ -42,7 +46,8 @@ JobResult search(const FolderPass &pass, const QString &name)
                                      QStringLiteral("-s"), QStringLiteral("--search"), pass.tag, name},
                        .folder = pass.folder,
                        .environment = toolEnvironment(paths),
-                       .pipeOutput = true});
+                       .pipeOutput = true,
+                       .enoughOutput = enoughOfASearch});
 }
 
 void tellAboutFileHandles(RunHost &host)

@@ -1,11 +1,14 @@
 #include "run/RunDriver.h"
 
 #include "base/PathText.h"
+#include "base/SystemLog.h"
 #include "processing/FolderAnonymization.h"
 #include "processing/FolderTree.h"
 #include "run/Configuration.h"
 #include "run/LutSteps.h"
 #include "run/OutputAnalysis.h"
+
+#include <new>
 
 namespace dravolin {
 
@@ -67,6 +70,20 @@ RunReport reportOf(const RunContext &context)
     });
 }
 
+RunJudgement judged(const RunContext &context)
+{
+    try {
+        return judgeOutput(reportOf(context));
+    } catch (const std::bad_alloc &) {
+        logMessage(QStringLiteral("Not enough memory to look at the output of the tools"));
+        context.state.update([](RunState &state) {
+            state.output.clear();
+            ++state.errCount;
+        });
+        return judgeOutput(reportOf(context));
+    }
+}
+
 } // namespace
 
 bool refusesEmptyTagList(const RunContext &context, const QString &configurationPath)
@@ -105,7 +122,7 @@ void beginRun(const RunContext &context, std::function<void()> start)
 
 RunJudgement parseLog(const RunContext &context)
 {
-    RunJudgement judgement = judgeOutput(reportOf(context));
+    RunJudgement judgement = judged(context);
     judgement.jobs = context.state.get(&RunState::jobs);
     judgement.files = context.state.get(&RunState::files);
     judgement.constructedRows = context.state.update(
@@ -117,9 +134,21 @@ RunJudgement parseLog(const RunContext &context)
 
 RunJudgement performRun(const RunContext &context, Drop &drop)
 {
+    quint64 result = 1;
+    try {
+        result = processDroppedItems(context, drop.folders, drop.individualFiles, drop.options);
+    } catch (const std::bad_alloc &) {
+        logMessage(QStringLiteral("Not enough memory to go on with the run"));
+    }
     // intended: the result replaces whatever the operations counted during the run
-    context.state.set(&RunState::errCount,
-                      processDroppedItems(context, drop.folders, drop.individualFiles, drop.options));
+    context.state.set(&RunState::errCount, result);
+    return parseLog(context);
+}
+
+RunJudgement giveUpRun(const RunContext &context)
+{
+    logMessage(QStringLiteral("Could not start a thread for the run"));
+    context.state.set(&RunState::errCount, quint64{1});
     return parseLog(context);
 }
 

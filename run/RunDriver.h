@@ -15,8 +15,11 @@ namespace dravolin {
 void beginRun(const RunContext &context, std::function<void()> start);
 
 // A run and its judgement: what the run's thread does. The drop's options get the attribute that a table is
-// bound to.
+// bound to. A run for which memory does not suffice ends where it is, with one error and a message.
 RunJudgement performRun(const RunContext &context, Drop &drop);
+
+// Ends, with one error, a run for which no thread could be had. Any thread.
+RunJudgement giveUpRun(const RunContext &context);
 
 // The steps of a run over `folders` and `files`. 1 when it was refused before any file was touched, else 0.
 [[nodiscard]] quint64 processDroppedItems(const RunContext &context, const QStringList &folders,

@@ -1,5 +1,6 @@
 #include "run/StartUp.h"
 
+#include "base/SystemLog.h"
 #include "run/jobs/JobRunner.h"
 
 #include <QCoreApplication>
@@ -7,9 +8,21 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <csignal>
+#include <pwd.h>
+#include <unistd.h>
+
 namespace dravolin {
 
 namespace {
+
+QtMessageHandler usualHandler = nullptr;
+
+void writeUnlessStuck(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtFatalMsg || canWriteToStandardError())
+        usualHandler(type, context, message);
+}
 
 bool install(const QLocale &locale, const QString &table, const QString &folder)
 {
@@ -19,6 +32,16 @@ bool install(const QLocale &locale, const QString &table, const QString &folder)
 }
 
 } // namespace
+
+void prepareProcess()
+{
+    if (qEnvironmentVariableIsEmpty("HOME")) {
+        if (const passwd *user = ::getpwuid(::geteuid()))
+            qputenv("HOME", user->pw_dir);
+    }
+    std::signal(SIGPIPE, SIG_IGN);
+    usualHandler = qInstallMessageHandler(writeUnlessStuck);
+}
 
 bool useLanguage(const QString &language, const QString &folder)
 {

@@ -1,6 +1,7 @@
 #include "run/jobs/JobRunner.h"
 
 #include "base/PathText.h"
+#include "base/SystemLog.h"
 
 #include <algorithm>
 #include <array>
@@ -86,6 +87,8 @@ std::optional<pid_t> start(const Job &job, int output)
     ::posix_spawn_file_actions_addopen(actions.get(), STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     if (output >= 0)
         ::posix_spawn_file_actions_adddup2(actions.get(), output, STDOUT_FILENO);
+    if (!canWriteToStandardError()) // the child would wait for ever for somebody to read it
+        ::posix_spawn_file_actions_addopen(actions.get(), STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     ::posix_spawn_file_actions_addchdir_np(actions.get(), folder.constData());
 
     const SpawnAttributes attributes;
@@ -96,17 +99,19 @@ std::optional<pid_t> start(const Job &job, int output)
     return failure == 0 ? std::optional(child) : std::nullopt;
 }
 
-QByteArray readToEnd(int pipe)
+// Until its end, or until there is enough of it.
+QByteArray readFrom(int pipe, qsizetype enough)
 {
     QByteArray output;
     std::array<char, 16384> buffer = {};
-    for (;;) {
+    while (output.size() < enough) {
         const ssize_t got = ::read(pipe, buffer.data(), buffer.size());
         if (got > 0)
             output.append(buffer.data(), got);
         else if (got == 0 || errno != EINTR)
-            return output;
+            break;
     }
+    return output;
 }
 
 int waitAndTerminate(pid_t child)
@@ -135,7 +140,9 @@ JobResult PosixJobRunner::run(const Job &job)
     JobResult result;
     // read while it runs: a child whose output fills the pipe would otherwise never end
     if (child && pipe[0] >= 0)
-        result.output = readToEnd(pipe[0]);
+        result.output = readFrom(pipe[0], job.enoughOutput);
+    if (child && result.output.size() >= job.enoughOutput)
+        ::kill(*child, SIGKILL); // not yet reaped, so that the id is still its own
     if (pipe[0] >= 0)
         ::close(pipe[0]);
     if (child) {

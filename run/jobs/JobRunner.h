@@ -4,12 +4,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
 #include <mutex>
 #include <optional>
 
 namespace dravolin {
 
-// One child process. Its standard input is the null device, its standard error the application's own.
+// One child process. Its standard input is the null device, its standard error the application's own, or the
+// null device while nobody reads that.
 struct Job
 {
     QString executable;
@@ -18,6 +20,8 @@ struct Job
     // The whole environment, "NAME=value"; nothing: the application's own.
     std::optional<QStringList> environment = std::nullopt;
     bool pipeOutput = false; // collect standard output; else it is the application's own
+    // Bytes of piped output after which no more is wanted: the process is then ended.
+    qsizetype enoughOutput = std::numeric_limits<qsizetype>::max();
 };
 
 enum class JobOutcome {

@@ -33,7 +33,7 @@ struct RunJudgement
     QString summary;
     QString logText; // empty when there is nothing to show
     bool wantsLogWindow = false;
-    bool refused = false;   // before any file was touched
+    bool refused = false;   // it was not carried out, or not to its end
     bool hasErrors = false; // the tools reported some
     JobTally jobs;
     FileCounts files;

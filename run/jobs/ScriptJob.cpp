@@ -17,7 +17,7 @@ bool placeScript(const QString &path, const QString &text)
 } // namespace
 
 ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QString &folder,
-                             const QString &commands)
+                             const QString &commands, OutputUse use)
 {
     const QString script = joinPath(folder, scriptFileName);
     if (!placeScript(script, scriptText(commands)))
@@ -29,7 +29,7 @@ ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QStri
     removeFile(script);
     if (job.outcome != JobOutcome::Ran)
         return {};
-    const QString output = readText(joinPath(folder, outputFileName)).value_or(QString());
+    const QString output = readOutput(joinPath(folder, outputFileName), use).value_or(QString());
     removeOutputBeside(folder);
     return {.ran = true, .output = output, .exitStatus = job.exitStatus};
 }

@@ -2,6 +2,7 @@
 
 #include "config/AppPaths.h"
 #include "run/jobs/JobRunner.h"
+#include "run/jobs/ToolOutput.h"
 
 #include <QString>
 
@@ -14,7 +15,7 @@ inline const QString outputFileName = QStringLiteral(".noxTemp.out");
 struct ScriptJobResult
 {
     bool ran = false;   // false: the script could not be written or made executable, or no process started
-    QString output;     // text of the output file; "" when there is none or when it is not UTF-8
+    QString output;     // what readOutput() gives of the output file, or ""
     int exitStatus = 0; // of the shell, when it ran
 };
 
@@ -22,7 +23,7 @@ struct ScriptJobResult
 // its whole environment, and waits. The script is deleted when it has run; the output file stays in the
 // folder. Nothing is shown or logged; what the tools report is only in the output.
 [[nodiscard]] ScriptJobResult runScriptJob(JobRunner &jobs, const AppPaths &paths, const QString &folder,
-                                           const QString &commands);
+                                           const QString &commands, OutputUse use = OutputUse::Judged);
 
 // The environment that the tools get: the path of their dictionary and nothing else.
 [[nodiscard]] QStringList toolEnvironment(const AppPaths &paths);

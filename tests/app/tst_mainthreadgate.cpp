@@ -1,5 +1,6 @@
 #include "app/MainThreadGate.h"
 #include "support/TestEntry.h"
+#include "support/TestRun.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -7,6 +8,7 @@
 
 #include <atomic>
 #include <memory>
+#include <new>
 
 using namespace dravolin;
 
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void closedGateTurnsAway();
     void closingWakesWaiters();
     void manyThreadsInterleave();
+    void workWithoutMemoryIsLeft();
 
 private:
     [[nodiscard]] static std::unique_ptr<QThread> started(const std::function<void()> &work)
@@ -92,6 +95,17 @@ void TestMainThreadGate::closingWakesWaiters()
     QVERIFY(!result);
     QCoreApplication::processEvents();
     QVERIFY(!ran);
+}
+
+void TestMainThreadGate::workWithoutMemoryIsLeft()
+{
+    MainThreadGate gate;
+    std::atomic<bool> result = false;
+    const test::LogCatcher log;
+    const auto thread = started([&] { result = gate.run([] { throw std::bad_alloc(); }); });
+    QTRY_VERIFY(thread->isFinished());
+    QVERIFY(result);
+    QCOMPARE(test::LogCatcher::messages(), QStringList(QStringLiteral("Not enough memory")));
 }
 
 void TestMainThreadGate::manyThreadsInterleave()

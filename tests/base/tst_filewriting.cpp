@@ -79,6 +79,7 @@ void TestFileWriting::reportsATruncatedWrite()
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
     ::signal(SIGXFSZ, handler);
     QVERIFY(!written);
+    QVERIFY(!pathExists(path(QStringLiteral("x"))));
 }
 
 void TestFileWriting::makesExecutableForEverybody()

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void namesTheResources();
     void joinsTheDictionaryWithOneSeparator();
     void usersOwnFoldersComeFromTheDesktop();
+    void foldersMayHaveNamesThatAreNotUtf8();
+    void ownExecutableIsThisOne();
     void executableIsCalledDravolin();
 };
 
@@ -76,6 +78,25 @@ void TestAppPaths::usersOwnFoldersComeFromTheDesktop()
     scratch.file(QStringLiteral("config/user-dirs.dirs"), "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n");
     paths = AppPaths::forExecutable(QStringLiteral("/opt/x/bin/Dravolin"));
     QCOMPARE(paths.desktopFolder, scratch.path(QStringLiteral("Schreibtisch")));
+}
+
+void TestAppPaths::foldersMayHaveNamesThatAreNotUtf8()
+{
+    const ScratchFolder scratch;
+    const QByteArray home = toBytes(scratch.path()) + "/J\xFCrgen";
+    qputenv("HOME", home);
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_DIRS", "/usr/share");
+    const AppPaths paths = AppPaths::forExecutable(QStringLiteral("/opt/x/bin/Dravolin"));
+    QCOMPARE(toBytes(paths.desktopFolder), home + "/Desktop");
+    QCOMPARE(toBytes(paths.applicationSupportFolders.join(u' ')), home + "/.local/share /usr/share");
+}
+
+void TestAppPaths::ownExecutableIsThisOne()
+{
+    QVERIFY(AppPaths::ownExecutable().endsWith(QStringLiteral("/config_tests")));
+    QVERIFY(pathExists(AppPaths::ownExecutable()));
 }
 
 void TestAppPaths::executableIsCalledDravolin()

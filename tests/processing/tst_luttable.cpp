@@ -261,6 +261,7 @@ void TestLutTable::fullDiskIsOnlyLogged()
     QCOMPARE(LogCatcher::messages(),
              QStringList{QStringLiteral("Could not write LUT to file: ") + m_run->paths.desktopFolder +
                          QStringLiteral("/AnonymizationLUT_ID.txt")});
+    QCOMPARE(listNames(m_run->paths.desktopFolder), QStringList()); // half a table would be offered
 }
 
 DRAVOLIN_TEST(TestLutTable)

@@ -1,9 +1,11 @@
+#include "base/SystemLog.h"
 #include "run/jobs/JobRunner.h"
 #include "support/ScratchFolder.h"
 #include "support/TestEntry.h"
 
 #include <QTest>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -53,6 +55,8 @@ private Q_SLOTS:
     void reportsThatThereIsNoPipe();
     void waitsUntilItHasEnded();
     void leavesNoProcessAndNoDescriptorBehind();
+    void endsAProcessThatPrintsWithoutEnd();
+    void doesNotWaitForAReaderOfStandardError();
 };
 
 void TestJobRunner::environmentIsExactlyTheOneGiven_data()
@@ -265,6 +269,37 @@ void TestJobRunner::leavesNoProcessAndNoDescriptorBehind()
     QCOMPARE(descriptors(), before);
     QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1);
     QCOMPARE(errno, ECHILD);
+}
+
+void TestJobRunner::endsAProcessThatPrintsWithoutEnd()
+{
+    Job job = shellJob(QStringLiteral("trap '' TERM PIPE; while :; do echo endless; done 2>/dev/null"));
+    job.enoughOutput = 100'000;
+    const JobResult result = run(job);
+    QCOMPARE(result.outcome, JobOutcome::Ran);
+    QCOMPARE(result.exitStatus, 128 + SIGKILL);
+    QVERIFY(result.output.startsWith("endless\nendless\n"));
+    QVERIFY(result.output.size() >= 100'000 && result.output.size() < 200'000);
+}
+
+void TestJobRunner::doesNotWaitForAReaderOfStandardError()
+{
+    std::array<int, 2> pipe = {-1, -1};
+    QCOMPARE(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    const QByteArray text(4096, 'x');
+    while (::write(pipe[1], text.constData(), static_cast<size_t>(text.size())) > 0) {
+    }
+    ::fcntl(pipe[1], F_SETFL, 0);
+    const int before = ::dup(STDERR_FILENO);
+    ::dup2(pipe[1], STDERR_FILENO);
+    const bool canWrite = canWriteToStandardError();
+    const JobResult result = run(shellJob(QStringLiteral("echo a message >&2; echo done")));
+    ::dup2(before, STDERR_FILENO);
+    for (const int descriptor : {before, pipe[0], pipe[1]})
+        ::close(descriptor);
+    QVERIFY(!canWrite);
+    QVERIFY(canWriteToStandardError());
+    QCOMPARE(result.output, QByteArray("done\n"));
 }
 
 DRAVOLIN_TEST(TestJobRunner)

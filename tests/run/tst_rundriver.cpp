@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <new>
+
 using namespace dravolin;
 using namespace dravolin::test;
 
@@ -24,6 +26,8 @@ private Q_SLOTS:
     void keepsAllFilesInTheFolderOfTheFirst();
     void keepsProgressBehindForIndividualFiles();
     void anEmptyDropRunsToItsEnd();
+    void aRunWithoutMemoryEnds();
+    void aRunWithoutAThreadEnds();
 };
 
 void TestRunDriver::anonymizesFoldersThenFilesAndSearchesDicomdirs()
@@ -207,6 +211,31 @@ void TestRunDriver::anEmptyDropRunsToItsEnd()
     performRun(run.context, drop);
     QCOMPARE(run.host.calls, loadCalls + endCalls(str("\nDone!")));
     QCOMPARE(run.jobTexts(), QStringList());
+}
+
+void TestRunDriver::aRunWithoutMemoryEnds()
+{
+    TracedRun run;
+    run.configure(QString());
+    const QString folder = run.makeFolder(str("in"));
+    run.jobs.answer = [](const Job &) -> JobResult { throw std::bad_alloc(); };
+    Drop drop = run.drop({folder}, {});
+    const LogCatcher log;
+    performRun(run.context, drop);
+    const QString summary = str("Done...\nEncountered 1 error.\nSee messages logged to console.");
+    QCOMPARE(run.host.calls, loadCalls + QStringList(status(0, 1)) + endCalls(summary));
+    QCOMPARE(LogCatcher::messages(), QStringList(str("Not enough memory to go on with the run")));
+    QCOMPARE(run.state.get(&RunState::totalFolders), quint64(0));
+}
+
+void TestRunDriver::aRunWithoutAThreadEnds()
+{
+    TracedRun run;
+    const LogCatcher log;
+    QVERIFY(giveUpRun(run.context).refused);
+    QCOMPARE(run.host.calls, endCalls(str("Done...\nEncountered 1 error.\nSee messages logged to console.")));
+    QCOMPARE(LogCatcher::messages(), QStringList(str("Could not start a thread for the run")));
+    QCOMPARE(run.state.get(&RunState::errCount), quint64(0));
 }
 
 DRAVOLIN_TEST(TestRunDriver)

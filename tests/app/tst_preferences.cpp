@@ -1,0 +1,92 @@
+#include "app/Preferences.h"
+#include "app/TestApp.h"
+#include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
+
+#include <QDir>
+#include <QLockFile>
+#include <QTest>
+
+using namespace dravolin;
+using test::LogCatcher;
+using test::ScratchFolder;
+
+// The settings file, and what may stand in its place.
+class TestPreferences : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void remembersTheRoot();
+    void aPipeInItsPlaceIsNotWaitedFor_data();
+    void aPipeInItsPlaceIsNotWaitedFor();
+    void aLockOfAnotherIsNotWaitedFor();
+
+private:
+    [[nodiscard]] QString failure() const
+    {
+        return QStringLiteral("Could not store the UID root in file: ") +
+               m_scratch.path(QStringLiteral("xdg_config_home/Dravolin/Dravolin.conf"));
+    }
+
+    ScratchFolder m_scratch;
+};
+
+// Once: Qt asks for the place of the settings only once.
+void TestPreferences::initTestCase()
+{
+    test::useHome(m_scratch.path());
+}
+
+void TestPreferences::init()
+{
+    QDir(m_scratch.path(QStringLiteral("xdg_config_home"))).removeRecursively();
+    m_scratch.folder(QStringLiteral("xdg_config_home"));
+    m_scratch.folder(QStringLiteral("xdg_config_home/Dravolin"));
+}
+
+void TestPreferences::remembersTheRoot()
+{
+    QCOMPARE(storedUidRoot(), QString());
+    storeUidRoot(QStringLiteral("1.2.3"));
+    QCOMPARE(storedUidRoot(), QStringLiteral("1.2.3"));
+    storeUidRoot(QStringLiteral("1.2.4"));
+    QCOMPARE(storedUidRoot(), QStringLiteral("1.2.4"));
+}
+
+void TestPreferences::aPipeInItsPlaceIsNotWaitedFor_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the program's") << QStringLiteral("xdg_config_home/Dravolin/Dravolin.conf");
+    QTest::newRow("the maker's") << QStringLiteral("xdg_config_home/Dravolin.conf");
+}
+
+void TestPreferences::aPipeInItsPlaceIsNotWaitedFor()
+{
+    QFETCH(const QString, name);
+    m_scratch.pipe(name);
+    QCOMPARE(storedUidRoot(), QString());
+    const LogCatcher log;
+    storeUidRoot(QStringLiteral("1.2.3"));
+    QCOMPARE(LogCatcher::messages(), QStringList(failure()));
+    QCOMPARE(entryKind(m_scratch.path(name)), EntryKind::Other);
+}
+
+void TestPreferences::aLockOfAnotherIsNotWaitedFor()
+{
+    storeUidRoot(QStringLiteral("1.2.3"));
+    QLockFile lock(m_scratch.path(QStringLiteral("xdg_config_home/Dravolin/Dravolin.conf.lock")));
+    QVERIFY(lock.lock());
+    const LogCatcher log;
+    storeUidRoot(QStringLiteral("1.2.4"));
+    QCOMPARE(LogCatcher::messages(), QStringList(failure()));
+    QCOMPARE(storedUidRoot(), QStringLiteral("1.2.3"));
+    lock.unlock();
+    storeUidRoot(QStringLiteral("1.2.4"));
+    QCOMPARE(storedUidRoot(), QStringLiteral("1.2.4"));
+}
+
+DRAVOLIN_TEST(TestPreferences)
+#include "tst_preferences.moc"
