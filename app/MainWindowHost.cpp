@@ -56,7 +56,11 @@ void MainWindowHost::readChoices()
 
 void MainWindowHost::onMain(const std::function<void()> &work)
 {
-    if (!m_parts.gate.run(work))
+    const auto withHandles = [&] {
+        m_handles.releaseWhenScarce();
+        work();
+    };
+    if (!m_parts.gate.run(withHandles))
         throw RunCancelled();
 }
 
@@ -130,6 +134,7 @@ void MainWindowHost::answered(Refusal refusal, int code)
 void MainWindowHost::runBegins(const RunBeginning &beginning, std::function<void()> start)
 {
     const QPointer<QWidget> focus = m_parts.window.focusWidget();
+    m_handles.fill();
     clearResult();
     ++m_running;
     showBusy(true);

@@ -3,6 +3,7 @@
 #include "app/AlertPresenter.h"
 #include "app/MainThreadGate.h"
 #include "app/WindowSteps.h"
+#include "base/FileHandleReserve.h"
 #include "config/AppPaths.h"
 #include "run/jobs/RunHost.h"
 
@@ -73,6 +74,7 @@ private:
 
     Parts m_parts;
     // Main thread only.
+    FileHandleReserve m_handles;
     bool m_tablesExist = false;
     int m_running = 0;
     QPointer<QWidget> m_focusBefore;    // the control that lost the focus when a run disabled it

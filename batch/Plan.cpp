@@ -23,9 +23,11 @@ constexpr TagNumber identityRemovedTag = 0x00120062;
 constexpr TagNumber methodTag = 0x00120063;
 constexpr TagNumber datesModifiedTag = 0x00280303;
 
-// Whether `inner` is `outer` or lies in it.
+// Whether `inner` is `outer` or lies in it. A path that is missing is told elsewhere.
 bool isInside(const QString &inner, const QString &outer)
 {
+    if (inner.isEmpty() || outer.isEmpty())
+        return false;
     return inner == outer || inner.startsWith(joinPath(outer, QString()));
 }
 
@@ -40,7 +42,7 @@ QString overlap(const CaseRow &row, const QList<CaseRow> &rows, const QString &r
         if (isInside(row.destination, other.source) || isInside(other.source, row.destination))
             return Texts::tr("the destination and the source of line %1 lie one inside the other")
                 .arg(other.line);
-        if (other.line != row.line && isInside(row.destination, other.destination))
+        if (row.destination != other.destination && isInside(row.destination, other.destination))
             return Texts::tr("the destination lies inside that of line %1").arg(other.line);
     }
     return {};

@@ -483,7 +483,7 @@ Em vez disso, uma cópia da configuração padrão será salva na área de traba
     </message>
     <message>
         <source>Drop folders or DICOM files here to anonymize them</source>
-        <translation>Solte aqui pastas ou arquivos DICOM para anonimizá-los</translation>
+        <translation>Solte aqui pastas ou arquivos DICOM para anonimizar</translation>
     </message>
     <message>
         <source>Choose a folder...</source>

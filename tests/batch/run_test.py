@@ -183,7 +183,7 @@ class Run(unittest.TestCase):
         for text in ("line 2: there is no source", "line 3: has the destination of line 2",
                      "line 3: has the case_id of line 2", "line 3: the UID root 7 makes no UID"):
             self.assertIn(text, printed)
-        self.assertFalse((self.folder / "out").exists())
+        self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["list.csv", "rules.txt"])
 
     def test_refuses_a_second_call_and_another_key(self):
         make("mixed", self.folder / "in", "--count", "3", "--no-directory")

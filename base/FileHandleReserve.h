@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+namespace dravolin {
+
+// File handles that are kept open so that there are some when all others are taken, whoever took them:
+// without a single one a window cannot be painted and a thread cannot be started. One thread at a time.
+class FileHandleReserve
+{
+public:
+    FileHandleReserve() { fill(); }
+    ~FileHandleReserve() { release(); }
+    FileHandleReserve(const FileHandleReserve &) = delete;
+    FileHandleReserve &operator=(const FileHandleReserve &) = delete;
+
+    // Takes what is missing, if as many again are then left for others.
+    void fill();
+    // Gives all of them to others when no other is to be had. Costs two system calls.
+    void releaseWhenScarce();
+
+private:
+    void release();
+
+    std::vector<int> m_handles;
+};
+
+} // namespace dravolin

@@ -1,0 +1,77 @@
+#!/bin/sh
+# check-package.sh [PACKAGE]: tries Dravolin's Debian package, which package.sh makes when none is given, on a bare Debian
+# of its own: installs it with nothing but what it depends on, starts it from its desktop entry, anonymizes the sample
+# study with it, removes it and sees that nothing but its user's files is left. Needs root and Debian's package servers.
+set -eu
+cd "$(dirname "$0")/.."
+release=bookworm
+user=person
+
+package=${1-}
+if [ -z "$package" ]; then
+    scripts/package.sh
+    package=$(ls build/package/dravolin_*.deb)
+fi
+scripts/install-packages.sh bare
+server=$(apt-get indextargets --format '$(REPO_URI)' "Codename: $release" | head -n 1)
+
+root=$(mktemp -d)
+leave() {
+    for process in /proc/[0-9]*; do # what was started in there
+        if [ "$(readlink "$process/root")" = "$root" ]; then kill "${process#/proc/}" 2>/dev/null || true; fi
+    done
+    for place in proc sys dev/pts dev/shm; do umount "$root/$place" 2>/dev/null || true; done
+    rm -rf --one-file-system "$root"
+}
+trap leave EXIT
+trap 'exit 1' INT TERM
+
+say() { echo "== $*"; }
+inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
+as_user() { chroot --userspec=$user:$user "$root" env -i PATH=/usr/bin:/bin HOME=/home/$user LC_ALL=C.UTF-8 "$@"; }
+quietly() { "$@" >"$root/log" 2>&1 || { tail -n 40 "$root/log" >&2; exit 1; }; }
+files() {
+    (cd "$root" && find . \( -path ./proc -o -path ./dev -o -path ./run -o -path ./tmp -o -path ./var/cache \
+        -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg -o -path ./log \) -prune -o -print) | sort
+}
+
+say "a bare Debian ($release)"
+debootstrap --variant=minbase $release "$root" "$server" >"$root.log" 2>&1 || { tail -n 40 "$root.log" >&2; exit 1; }
+rm "$root.log"
+# not everywhere is it allowed; then things go on without
+mountpoint -q "$root/proc" || mount -t proc proc "$root/proc" 2>/dev/null || echo "without /proc"
+inside useradd --create-home --shell /bin/sh $user
+inside install -d -m 1777 /tmp/.X11-unix
+cp "$package" "$root/tmp/dravolin.deb"
+cp -r desktop scripts "$root/opt"
+
+say "the package with what it depends on"
+quietly inside apt-get install -y --no-install-recommends /tmp/dravolin.deb
+# it runs until it is told to end
+status=0
+as_user env QT_QPA_PLATFORM=offscreen timeout 3 Dravolin 2>"$root/log" || status=$?
+if [ $status != 124 ]; then cat "$root/log" >&2; echo "It does not start." >&2; exit 1; fi
+rm -rf "$root/home/$user"
+inside install -d -o $user -g $user /home/$user
+quietly inside dpkg --purge dravolin
+
+say "a desktop to start it on"
+quietly inside /opt/scripts/install-packages.sh desktop bare
+files >"$root/tmp/before"
+
+say "the study, with the program from the desktop's menu"
+quietly inside dpkg --install /tmp/dravolin.deb
+as_user /usr/bin/python3 /opt/desktop/in_a_box.py /usr/bin/python3 /opt/scripts/installed.py /home/$user
+
+say "what is left of it"
+quietly inside dpkg --purge dravolin
+files >"$root/tmp/after"
+left=$(comm -13 "$root/tmp/before" "$root/tmp/after")
+echo "$left" | grep "^\./home/$user/" | grep -v "/studies/\|/before/\|/tried/" || true
+others=$(echo "$left" | grep -v "^\./home/$user/" || true)
+if [ -n "$others" ]; then
+    echo "Left behind, and no user's:" >&2
+    echo "$others" >&2
+    exit 1
+fi
+say "as it should be"
