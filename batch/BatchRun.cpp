@@ -123,7 +123,7 @@ private:
                     tell(work.progress());
                 });
             for (; m_casesDone < work.casesBefore(end) && !isToEnd(); ++m_casesDone)
-                if (!isChecked(checks))
+                if (!work.finishCase(m_casesDone, m_events.stop) || !isChecked(checks))
                     return;
             if (end == work.open())
                 return;

@@ -21,6 +21,7 @@ namespace {
 constexpr TagNumber studyTag = 0x0020000d;
 constexpr TagNumber identityRemovedTag = 0x00120062;
 constexpr TagNumber methodTag = 0x00120063;
+constexpr TagNumber datesModifiedTag = 0x00280303;
 
 // Whether `inner` is `outer` or lies in it. A path that is missing is told elsewhere.
 bool isInside(const QString &inner, const QString &outer)
@@ -202,9 +203,11 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     return plan;
 }
 
-QString deidentificationMethod()
+QString deidentificationMethod(const BatchOptions &options)
 {
-    return QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+    // with the dates it has the 64 characters that the attribute holds
+    const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+    return options.moveDates ? method + QStringLiteral(", dates") : method;
 }
 
 AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)
@@ -220,8 +223,10 @@ AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, 
         result[studyTag].copies = AttributeRule::Copies::AsWithoutRule; // they may name other studies
     if (options.removePrivate && options.mapUids && !result.contains(identityRemovedTag))
         result.insert(identityRemovedTag, {AttributeRule::Kind::Set, QStringLiteral("YES")});
+    if (options.moveDates && !result.contains(datesModifiedTag))
+        result.insert(datesModifiedTag, {AttributeRule::Kind::Set, QStringLiteral("MODIFIED")});
     if (options.removePrivate && options.mapUids && !result.contains(methodTag))
-        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod()});
+        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod(options)});
     return result;
 }
 
