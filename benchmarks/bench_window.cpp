@@ -93,6 +93,7 @@ int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     prepareHome();
+    QThread::msleep(2000);                         // until there is a window manager, which nothing tells
     qunsetenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"); // there is no screen reader
     QScreen &screen = *QGuiApplication::primaryScreen();
     const QString executable = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
