@@ -123,7 +123,7 @@ private:
                     tell(work.progress());
                 });
             for (; m_casesDone < work.casesBefore(end) && !isToEnd(); ++m_casesDone)
-                if (!isChecked(checks))
+                if (!work.finishCase(m_casesDone, m_events.stop) || !isChecked(checks))
                     return;
             if (end == work.open())
                 return;
@@ -166,15 +166,20 @@ private:
     qsizetype m_casesDone = 0; // and checked
 };
 
-} // namespace
-
-Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
+// Judges the list before the run's folder is made.
+Plan judgeBefore(const BatchOptions &options)
 {
     QString problem;
     const QString path = joinPath(options.runFolder(), QStringLiteral("journal.sqlite"));
     const std::unique_ptr<Journal> journal = pathExists(path) ? Journal::open(path, &problem) : nullptr;
-    Plan plan =
-        judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
+    return judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
+}
+
+} // namespace
+
+Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
+{
+    Plan plan = judgeBefore(options);
     if (plan.problems.isEmpty())
         scanSources(plan, options.workers, stop);
     return plan;
@@ -182,6 +187,11 @@ Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
 
 BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events)
 {
+    if (const Plan plan = judgeBefore(options); !plan.problems.isEmpty()) {
+        BatchOutcome outcome;
+        outcome.problems = plan.problems;
+        return outcome;
+    }
     QString problem;
     const Descriptor lock = lockFolder(options, &problem);
     if (!problem.isEmpty())

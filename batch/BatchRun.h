@@ -28,7 +28,8 @@ struct CaseCounts
 {
     QString caseId;
     qsizetype done = 0;        // with a result, from this call or an earlier one
-    qsizetype directories = 0; // DICOMDIRs, which are left out
+    qsizetype directories = 0; // DICOMDIRs of the source; the result gets one of its own
+    qsizetype notInDirectory = 0;
     qsizetype movedToUtf8 = 0; // in this call
     QList<FileRecord> notDone; // with a problem
 };

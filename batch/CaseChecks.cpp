@@ -18,7 +18,7 @@ namespace dravolin {
 namespace {
 
 // What the run itself writes into results.
-QStringList setValues(const PlannedCase &planned)
+QStringList setValues(const PlannedCase &planned, const BatchOptions &batch)
 {
     const CaseRow &row = planned.row;
     QStringList values = {row.caseId,
@@ -27,7 +27,7 @@ QStringList setValues(const PlannedCase &planned)
                           row.credits,
                           row.uidRoot,
                           QString::fromLatin1(planned.studyUid),
-                          deidentificationMethod()};
+                          deidentificationMethod(batch)};
     for (const QString &value : planned.table)
         values.append(value);
     values.sort(); // a table has no order
@@ -41,7 +41,7 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.originals = planned.row.source;
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
-    options.setValues = setValues(planned);
+    options.setValues = setValues(planned, batch);
     for (const FileRecord &record : records)
         if (!record.result.isEmpty())
             options.renamed.insert(record.path, record.result);

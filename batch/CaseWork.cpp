@@ -3,8 +3,11 @@
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "batch/CaseDirectory.h"
+#include "batch/CaseRules.h"
+#include "batch/ResultNames.h"
+#include "dicom/MediaDirectory.h"
 
-#include <QCryptographicHash>
 #include <QMutexLocker>
 
 #include <algorithm>
@@ -19,31 +22,6 @@
 namespace dravolin {
 
 namespace {
-
-// Everything that decides what becomes of an object, in one hash.
-QByteArray hashOf(const AttributeRules &rules, const LutTable &table, const BatchOptions &options,
-                  const QByteArray &studyUid)
-{
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    const auto add = [&hash](const QString &text) {
-        hash.addData(QByteArray::number(text.size()));
-        hash.addData(text.toUtf8());
-    };
-    for (auto rule = rules.begin(); rule != rules.end(); ++rule)
-        add(tagText(rule.key()) + QString::number(int(rule->kind)) + QString::number(int(rule->copies)) +
-            rule->value);
-    QStringList rest = options.keptPrivate.values();
-    for (auto row = table.begin(); row != table.end(); ++row)
-        rest.append(row.key() + u'\t' + row.value());
-    std::sort(rest.begin(), rest.end());
-    for (const QString &text : rest)
-        add(text);
-    add(QStringLiteral("%1 %2 %3")
-            .arg(options.removePrivate)
-            .arg(options.mapUids)
-            .arg(QString::fromLatin1(studyUid)));
-    return hash.result();
-}
 
 QString temporaryName(qsizetype number)
 {
@@ -93,7 +71,7 @@ void CaseWork::beginCase(size_t index)
     m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
     m_treatments.push_back(treatmentOf(planned));
     m_sources.push_back(planned.sourceFolder());
-    const QByteArray rules = hashOf(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
+    const QByteArray rules = rulesHash(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
     SystemError error;
     if (!m_journal.begin(planned.row, rules))
         fail(Texts::tr("the journal cannot be written"));
@@ -101,18 +79,20 @@ void CaseWork::beginCase(size_t index)
         fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
     removeTemporaries(planned.row.destination);
     const QHash<QString, FileRecord> known = m_journal.files(planned.row.caseId);
-    QHash<QString, int> taken;
+    ResultNames names(m_key, directoryOf(planned) != nullptr);
     QSet<QString> results;
     for (const PlannedFile &file : planned.files) {
         ++m_progress.allFiles;
         if (file.isDirectory || !file.problem.isEmpty()) {
             countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
-        } else {
-            const QString result = resultName(file, taken);
-            results.insert(result);
-            beginFile(index, file, result, known.value(file.path));
+            continue;
         }
+        const QString result = names.next(file);
+        results.insert(result);
+        beginFile(index, file, result, known.value(file.path));
     }
+    if (directoryOf(planned))
+        results.insert(QString::fromLatin1(mediaDirectoryName));
     removeStale(planned, known, results);
 }
 
@@ -122,7 +102,7 @@ void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, File
 {
     QSet<QString> paths;
     for (const PlannedFile &file : planned.files)
-        if (!file.isDirectory && file.problem.isEmpty())
+        if (file.problem.isEmpty())
             paths.insert(file.path);
     for (const FileRecord &record : known) {
         if (!record.result.isEmpty() && !results.contains(record.result))
@@ -132,12 +112,13 @@ void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, File
     }
 }
 
-// Two objects with one UID get two names; their order is that of the source's paths.
-QString CaseWork::resultName(const PlannedFile &file, QHash<QString, int> &taken) const
+bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
 {
-    const QString stem = joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance));
-    const int copy = ++taken[stem];
-    return copy == 1 ? stem + QStringLiteral(".dcm") : QStringLiteral("%1_%2.dcm").arg(stem).arg(copy);
+    const CaseDirectory made = makeDirectoryOf(m_plan.cases.at(index), m_key, m_journal, stop);
+    m_counts[index].notInDirectory = made.leftOut;
+    if (!made.problem.isEmpty())
+        fail(made.problem);
+    return !m_failed;
 }
 
 void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &result,
@@ -178,11 +159,20 @@ Treatment CaseWork::treatmentOf(const PlannedCase &planned)
     QStringList problems; // the list was judged: there are none
     Treatment treatment;
     treatment.rules = rulesOf(planned, m_options, &problems);
+    // a DICOMDIR takes no object without one
+    constexpr TagNumber patientName = 0x00100010;
+    AttributeRule &nameRule = treatment.rules[patientName];
+    if (directoryOf(planned) && nameRule.kind == AttributeRule::Kind::Erase)
+        nameRule = {AttributeRule::Kind::Set, {}, AttributeRule::Copies::Erase};
     treatment.table = planned.table;
     treatment.removePrivate = m_options.removePrivate;
     treatment.keptPrivate = m_options.keptPrivate;
     if (m_options.mapUids)
         treatment.newUid = [this, &planned](const QByteArray &old) { return newUid(planned, old); };
+    if (m_options.moveDates)
+        treatment.daysBack = [this, &planned](const QByteArray &patientId) {
+            return m_key.daysBack(patientOf(planned, patientId));
+        };
     return treatment;
 }
 

@@ -35,6 +35,8 @@ public:
     // What follows is for one thread.
     // Makes what was treated since the last time safe, names it and writes it into the journal.
     void save();
+    // Adds to the results of a case, all of which are saved, what it needs besides; false after a failure.
+    [[nodiscard]] bool finishCase(qsizetype index, const std::function<bool()> &stop);
     [[nodiscard]] QString failure() const { return m_failure; }
     [[nodiscard]] BatchProgress progress() const { return m_progress; }
     [[nodiscard]] QList<CaseCounts> counts() const { return m_counts; }
@@ -58,7 +60,6 @@ private:
     void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
     void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
                      const QSet<QString> &results);
-    [[nodiscard]] QString resultName(const PlannedFile &file, QHash<QString, int> &taken) const;
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
     [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
     void countKnown(size_t index, const FileRecord &record);

@@ -114,6 +114,10 @@ private:
               removed ? Texts::tr("removed, but %1 that a list names").arg(kept) : Texts::tr("kept")},
              {Texts::tr("UIDs of instances"),
               mapped ? Texts::tr("replaced by ones made from a secret key") : Texts::tr("kept")},
+             {Texts::tr("Dates without a rule"),
+              m_report.value(QStringLiteral("datesMoved")).toBool()
+                  ? Texts::tr("moved back by days that a secret key gives for each patient")
+                  : Texts::tr("kept")},
              {Texts::tr("Pixel data"), Texts::tr("not altered")}});
     }
 
@@ -154,8 +158,11 @@ private:
                       Texts::tr("Files with findings: certain"), Texts::tr("likely"), Texts::tr("possible"),
                       Texts::tr("Attributes not as configured"), Texts::tr("Not checked")},
                      rows);
-        if (const qint64 directories = sum("dicomdirsLeftOut"); directories > 0)
-            m_page.paragraph(Texts::tr("DICOMDIR files, which are left out: %1.").arg(directories));
+        if (const qint64 directories = sum("dicomdirs"); directories > 0)
+            m_page.paragraph(
+                Texts::tr("DICOMDIR files in the sources: %1. Each case that had one has one made anew, "
+                          "without %2 objects of kinds that have no place in it.")
+                    .arg(QString::number(directories), QString::number(sum("notInDicomdir"))));
         m_page.paragraph(
             Texts::tr("The reports of each case are in the folder cases, the hashes of every file "
                       "before and after in files.csv."));

@@ -21,10 +21,13 @@ namespace {
 constexpr TagNumber studyTag = 0x0020000d;
 constexpr TagNumber identityRemovedTag = 0x00120062;
 constexpr TagNumber methodTag = 0x00120063;
+constexpr TagNumber datesModifiedTag = 0x00280303;
 
-// Whether `inner` is `outer` or lies in it.
+// Whether `inner` is `outer` or lies in it. A path that is missing is told elsewhere.
 bool isInside(const QString &inner, const QString &outer)
 {
+    if (inner.isEmpty() || outer.isEmpty())
+        return false;
     return inner == outer || inner.startsWith(joinPath(outer, QString()));
 }
 
@@ -39,7 +42,7 @@ QString overlap(const CaseRow &row, const QList<CaseRow> &rows, const QString &r
         if (isInside(row.destination, other.source) || isInside(other.source, row.destination))
             return Texts::tr("the destination and the source of line %1 lie one inside the other")
                 .arg(other.line);
-        if (other.line != row.line && isInside(row.destination, other.destination))
+        if (row.destination != other.destination && isInside(row.destination, other.destination))
             return Texts::tr("the destination lies inside that of line %1").arg(other.line);
     }
     return {};
@@ -200,9 +203,11 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     return plan;
 }
 
-QString deidentificationMethod()
+QString deidentificationMethod(const BatchOptions &options)
 {
-    return QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+    // with the dates it has the 64 characters that the attribute holds
+    const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+    return options.moveDates ? method + QStringLiteral(", dates") : method;
 }
 
 AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)
@@ -218,8 +223,10 @@ AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, 
         result[studyTag].copies = AttributeRule::Copies::AsWithoutRule; // they may name other studies
     if (options.removePrivate && options.mapUids && !result.contains(identityRemovedTag))
         result.insert(identityRemovedTag, {AttributeRule::Kind::Set, QStringLiteral("YES")});
+    if (options.moveDates && !result.contains(datesModifiedTag))
+        result.insert(datesModifiedTag, {AttributeRule::Kind::Set, QStringLiteral("MODIFIED")});
     if (options.removePrivate && options.mapUids && !result.contains(methodTag))
-        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod()});
+        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod(options)});
     return result;
 }
 

@@ -40,6 +40,7 @@ struct BatchOptions
     bool removePrivate = true;
     QSet<QString> keptPrivate; // as in Treatment
     bool mapUids = true;
+    bool moveDates = false;
     int workers = 1;
     check::Grade atLeast = check::Grade::Possible; // findings below it are told, but decide nothing
 
@@ -90,7 +91,7 @@ struct Plan
 void scanSources(Plan &plan, int workers, const std::function<bool()> &stop);
 
 // What results say about how they were made.
-[[nodiscard]] QString deidentificationMethod();
+[[nodiscard]] QString deidentificationMethod(const BatchOptions &options);
 
 // The rules of a case, the five fixed attributes and what tells that an object was treated among them.
 // Problems with lines of the configuration are added to `problems`.

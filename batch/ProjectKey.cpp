@@ -8,6 +8,7 @@
 
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>
+#include <QtEndian>
 
 #include <cerrno>
 #include <cstring>
@@ -89,6 +90,15 @@ QString ProjectKey::shortName(const QByteArray &uid) const
     for (qsizetype i = 0; i < length; ++i)
         name += QLatin1Char(alphabet[bytes.at(i) & 0x1f]);
     return name;
+}
+
+int ProjectKey::daysBack(const QByteArray &patient) const
+{
+    constexpr quint32 fewest = 366;
+    constexpr quint32 most = 3652;
+    const QByteArray bytes =
+        QMessageAuthenticationCode::hash("dates " + patient, m_bytes, QCryptographicHash::Sha256);
+    return static_cast<int>(fewest + qFromBigEndian<quint32>(bytes.constData()) % (most - fewest + 1));
 }
 
 QByteArray ProjectKey::newUid(const QByteArray &old) const

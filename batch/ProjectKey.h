@@ -24,6 +24,8 @@ public:
 
     // 2.25 and the first 128 bits of the HMAC-SHA-256 of `old`, made a UUID of version 8 (RFC 9562).
     [[nodiscard]] QByteArray newUid(const QByteArray &old) const;
+    // By how many days the dates of a patient are moved back, one to ten years: the same for all of them.
+    [[nodiscard]] int daysBack(const QByteArray &patient) const;
     // Eight letters and digits for the name of a file or folder, which tell nothing about `uid`.
     [[nodiscard]] QString shortName(const QByteArray &uid) const;
 

@@ -74,6 +74,7 @@ public:
     {
         for (PlannedCase *planned : m_cases) {
             planned->studies.remove(QByteArray());
+            planned->patients.remove(QByteArray());
             const CaseRow &row = planned->row;
             if (planned->studies.size() <= 1 && !row.uidRoot.isEmpty())
                 planned->studyUid =

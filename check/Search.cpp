@@ -46,6 +46,13 @@ Place placeOf(const Element &element)
         Place::Kind::Attribute, element.tag, element.path.empty() ? 0 : element.path.front().sequence, {}};
 }
 
+// A DICOMDIR's records have to have attributes that objects may lack; their values are made up then.
+bool isInDirectory(const Element &element)
+{
+    constexpr Tag records = 0x00041220;
+    return !element.path.empty() && element.path.front().sequence == records;
+}
+
 } // namespace
 
 Searcher::Searcher(const Patterns &patterns, const Rules *rules, bool searchPixels)
@@ -120,7 +127,7 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
         if (result.findings.size() == known && classOf(element.tag) && (m_words.empty() || isDummy(m_words)))
             ++result.emptied;
     }
-    if (m_rules)
+    if (m_rules && !isInDirectory(element))
         m_rules->compare(element, text, result.deviations);
     for (qsizetype i = known; i < result.findings.size(); ++i)
         result.findings[i].place.path = pathText(element.path, element.tag);

@@ -23,6 +23,7 @@ const QString workersOption = QStringLiteral("workers");
 const QString keepPrivateOption = QStringLiteral("keep-private");
 const QString privateListOption = QStringLiteral("private-list");
 const QString keepUidsOption = QStringLiteral("keep-uids");
+const QString shiftDatesOption = QStringLiteral("shift-dates");
 const QString atLeastOption = QStringLiteral("at-least");
 const QString shardOption = QStringLiteral("shard");
 const QString quietOption = QStringLiteral("quiet");
@@ -55,6 +56,8 @@ void addOptions(QCommandLineParser &parser)
            QStringLiteral("file"));
     option(keepUidsOption,
            Texts::tr("Leaves UIDs as they are, but the Study Instance UID of a case with a root."));
+    option(shiftDatesOption,
+           Texts::tr("Moves dates back, those of a patient by the same number of days, one to ten years."));
     option(atLeastOption,
            Texts::tr("Findings below certain, likely or possible leave the exit status alone."),
            QStringLiteral("grade"));
@@ -170,6 +173,7 @@ BatchCall parseBatchCall(const QString &command, const QStringList &arguments)
         return call;
     }
     call.options.removePrivate = !parser.isSet(keepPrivateOption);
+    call.options.moveDates = parser.isSet(shiftDatesOption);
     call.options.mapUids = !parser.isSet(keepUidsOption);
     call.quiet = parser.isSet(quietOption);
     readWorkers(parser, call);

@@ -29,7 +29,9 @@ QString caseText(const CaseCounts &counts)
         Texts::tr("case %1: %2 done, %3 not done")
             .arg(counts.caseId, QString::number(counts.done), QString::number(counts.notDone.size()));
     if (counts.directories > 0)
-        text += Texts::tr(", %1 DICOMDIR left out").arg(counts.directories);
+        text += counts.notInDirectory == 0
+                    ? Texts::tr(", DICOMDIR made anew")
+                    : Texts::tr(", DICOMDIR made anew without %1 objects").arg(counts.notInDirectory);
     if (counts.movedToUtf8 > 0)
         text += Texts::tr(", %1 moved to UTF-8").arg(counts.movedToUtf8);
     return text;

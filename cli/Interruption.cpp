@@ -26,6 +26,8 @@ void note(int)
 
 void noteInterruptions()
 {
+    // a limit on the size of files is told like a full disk
+    (void)::signal(SIGXFSZ, SIG_IGN);
     for (const int signal : {SIGINT, SIGTERM}) {
         struct sigaction action = {};
         action.sa_handler = note;

@@ -44,8 +44,7 @@ void Levels::leave()
         return;
     const Element &header = level.header;
     if (header.length != undefinedLength)
-        m_patches.push_back(
-            {header.lengthField, 4, header.notation.bytes32(grown(header.length, level.growth))});
+        add({header.lengthField, 4, header.notation.bytes32(grown(header.length, level.growth))});
     m_levels.back().growth += level.growth;
     m_levels.back().groupGrowth += level.growth;
 }
@@ -68,7 +67,7 @@ void Levels::setGroupLength(const Element &element, quint32 length)
 void Levels::replace(quint64 offset, quint64 removed, const QByteArray &inserted)
 {
     const qint64 growth = inserted.size() - static_cast<qint64>(removed);
-    m_patches.push_back({offset, removed, inserted});
+    add({offset, removed, inserted});
     m_levels.back().growth += growth;
     m_levels.back().groupGrowth += growth;
 }
@@ -81,6 +80,12 @@ Patches Levels::patches()
     return std::move(m_patches);
 }
 
+void Levels::add(const Patch &patch)
+{
+    m_patches.push_back(patch);
+    m_inserted += static_cast<quint64>(patch.inserted.size());
+}
+
 void Levels::leaveGroup()
 {
     Level &level = m_levels.back();
@@ -89,10 +94,10 @@ void Levels::leaveGroup()
     const bool changed = element.tag != 0 && level.groupGrowth != 0;
     level.groupGrowth = 0;
     if (changed && length != 0) {
-        m_patches.push_back({element.value, 4, level.notation.bytes32(length)});
+        add({element.value, 4, level.notation.bytes32(length)});
     } else if (changed) {
         const quint64 size = element.end() - element.start;
-        m_patches.push_back({element.start, size, {}});
+        add({element.start, size, {}});
         level.growth -= static_cast<qint64>(size);
     }
 }

@@ -42,6 +42,12 @@ public:
     [[nodiscard]] Surroundings &surroundings() { return m_levels.back().surroundings; }
     [[nodiscard]] bool isTop() const { return m_levels.size() == 1; }
 
+    // What the changes take so far, in bytes.
+    [[nodiscard]] quint64 memory() const
+    {
+        return m_patches.size() * (sizeof(Patch) + allocation) + m_inserted;
+    }
+
     // All changes, in order. To be called once, at the end of the data set.
     [[nodiscard]] Patches patches();
 
@@ -58,7 +64,10 @@ private:
         qint64 groupGrowth = 0;
     };
     void leaveGroup();
+    void add(const Patch &patch);
 
+    static constexpr quint64 allocation = 32; // of a byte array, beside its bytes
+    quint64 m_inserted = 0;                   // bytes
     std::vector<Level> m_levels;
     Patches m_patches;
 };

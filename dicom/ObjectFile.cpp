@@ -5,6 +5,7 @@
 #include "base/Texts.h"
 #include "dicom/Deflation.h"
 #include "dicom/FileSink.h"
+#include "dicom/MediaDirectory.h"
 #include "dicom/Prologue.h"
 #include "dicom/Rewrite.h"
 
@@ -17,7 +18,6 @@ namespace dravolin {
 
 namespace {
 
-constexpr char mediaDirectory[] = "1.2.840.10008.1.3.10";
 constexpr quint64 longestName = 1024;
 constexpr TagNumber lastName = 0x0020000e;
 
@@ -75,7 +75,7 @@ ObjectFacts factsOf(const OpenObject &object)
     facts.size = object.file->size();
     facts.modified = object.file->modified();
     facts.names.sopClass = object.prologue.sopClass;
-    facts.isDirectory = facts.names.sopClass == mediaDirectory;
+    facts.isDirectory = facts.names.sopClass == mediaDirectoryClass;
     return facts;
 }
 
@@ -156,8 +156,16 @@ TreatedFile treatFile(const QString &source, const QString &target, const Treatm
     if (treated.facts.isDirectory)
         return treated;
     SourceFile &dataSet = object->dataSet();
-    const Rewriting changes =
-        rewriting(dataSet, object->begin(), dataSet.size(), object->prologue.syntax.notation, treatment);
+    int daysBack = 0;
+    if (treatment.daysBack) {
+        ObjectNames names;
+        treated.facts.problem = readNames(*object, names);
+        daysBack = treatment.daysBack(names.patientId);
+    }
+    if (!treated.facts.problem.isEmpty())
+        return treated;
+    const Rewriting changes = rewriting(dataSet, object->begin(), dataSet.size(),
+                                        object->prologue.syntax.notation, treatment, daysBack);
     treated.facts.problem = changes.problem;
     treated.movedToUtf8 = changes.movedToUtf8;
     treated.facts.names = changes.names;

@@ -15,13 +15,15 @@ using Token = ElementReader::Token;
 constexpr TagNumber characterSetTag = 0x00080005;
 // of a character set, a creator or a UID; a longer one is none
 constexpr quint64 longestNoted = 4096;
+// so that a worker stays below 64 MiB whatever the object
+constexpr quint64 mostMemory = 40 * 1024 * 1024;
 
 // One walk over a data set.
 class Rewriter
 {
 public:
-    Rewriter(ElementReader &reader, const Notation &notation, const Treatment &treatment, bool toUtf8)
-        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(treatment, toUtf8),
+    Rewriter(ElementReader &reader, const Notation &notation, const ValueChange &change)
+        : m_reader(reader), m_notation(notation), m_levels(notation), m_change(change),
           m_toInsert(m_change.insertions())
     {
     }
@@ -56,6 +58,8 @@ Rewriting Rewriter::run()
         token = m_reader.next();
         if (!step(token) && m_result.problem.isEmpty())
             m_result.problem = Texts::tr("cannot be rewritten");
+        if (m_levels.memory() > mostMemory)
+            (void)fail(Texts::tr("needs more changes than a worker has memory for"));
     }
     m_result.patches = m_levels.patches();
     return std::move(m_result);
@@ -174,15 +178,15 @@ bool Rewriter::fail(const QString &problem)
 } // namespace
 
 Rewriting rewriting(SourceFile &file, quint64 begin, quint64 end, const Notation &notation,
-                    const Treatment &treatment)
+                    const Treatment &treatment, int daysBack)
 {
     ElementReader reader(file, begin, end, notation);
-    Rewriter rewriter(reader, notation, treatment, false);
+    Rewriter rewriter(reader, notation, ValueChange(treatment, daysBack, false));
     Rewriting result = rewriter.run();
     if (!rewriter.needsUtf8())
         return result;
     ElementReader again(file, begin, end, notation);
-    result = Rewriter(again, notation, treatment, true).run();
+    result = Rewriter(again, notation, ValueChange(treatment, daysBack, true)).run();
     result.movedToUtf8 = true;
     return result;
 }

@@ -20,8 +20,9 @@ struct Rewriting
 };
 
 // The data set from `begin` to `end` of `file`. Lengths of the sequences, items and groups that hold a change
-// are changed with it; nothing else is. Reads no pixel data. Any thread.
+// are changed with it; nothing else is. `daysBack` is what the treatment has for the object's patient. Reads
+// no pixel data. Any thread.
 [[nodiscard]] Rewriting rewriting(SourceFile &file, quint64 begin, quint64 end, const Notation &notation,
-                                  const Treatment &treatment);
+                                  const Treatment &treatment, int daysBack = 0);
 
 } // namespace dravolin

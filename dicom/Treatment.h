@@ -43,6 +43,9 @@ struct Treatment
     // The new UID for an old one; none: UIDs stay. Asked for every value of VR UI that names an instance of
     // something and is not registered by DICOM. Has to bear calls from several threads.
     std::function<QByteArray(const QByteArray &)> newUid;
+    // By how many days the dates of a patient are moved back, who is named by the Patient ID of the source;
+    // none: dates stay. From several threads as well.
+    std::function<int(const QByteArray &patientId)> daysBack;
 };
 
 // The rules that `edits` mean, the later one for the same attribute; a value for one that was erased before

@@ -2,6 +2,7 @@
 
 #include "base/Texts.h"
 #include "dicom/CharacterSet.h"
+#include "dicom/Dates.h"
 #include "dicom/Values.h"
 
 #include <QByteArrayList>
@@ -18,7 +19,7 @@ using Copies = AttributeRule::Copies;
 constexpr TagNumber characterSetTag = 0x00080005;
 constexpr TagNumber trailingPadding = 0xfffcfffc;
 // so that no value fills the memory; text that people wrote is far shorter
-constexpr quint64 longestValue = 16 * 1024 * 1024;
+constexpr quint64 longestValue = 4 * 1024 * 1024;
 const char registeredPrefix[] = "1.2.840.10008.";
 
 ValueChange::Result problem(const QString &text)
@@ -73,6 +74,8 @@ ValueChange::Result ValueChange::apply(ElementReader &reader, const Element &ele
     }
     if (m_treatment.newUid && element.representation == vr('U', 'I') && !namesNoInstance(element.tag))
         return mappedUids(reader, element);
+    if (m_daysBack != 0 && isDateOfAnEvent(element.tag, element.representation))
+        return movedDates(reader, element);
     if (m_toUtf8 && isText(element.representation))
         return movedText(reader, element, around.characterSet);
     return {};
@@ -163,6 +166,13 @@ ValueChange::Result ValueChange::mappedUids(ElementReader &reader, const Element
         changed = true;
     }
     return changed ? value(element, uids.join('\\')) : Result();
+}
+
+ValueChange::Result ValueChange::movedDates(ElementReader &reader, const Element &element) const
+{
+    if (element.length > longestValue)
+        return problem(Texts::tr("%1 is too long for dates").arg(tagText(element.tag)));
+    return element.length == 0 ? Result() : value(element, datesMovedBack(reader.value(), m_daysBack));
 }
 
 ValueChange::Result ValueChange::movedText(ElementReader &reader, const Element &element,

@@ -23,7 +23,10 @@ public:
     };
 
     // With `toUtf8` all text of the data set is moved to UTF-8.
-    ValueChange(const Treatment &treatment, bool toUtf8) : m_treatment(treatment), m_toUtf8(toUtf8) {}
+    ValueChange(const Treatment &treatment, int daysBack, bool toUtf8)
+        : m_treatment(treatment), m_daysBack(daysBack), m_toUtf8(toUtf8)
+    {
+    }
 
     // What the top level has to have; the caller takes out what it meets.
     [[nodiscard]] AttributeRules insertions() const;
@@ -46,10 +49,12 @@ private:
     [[nodiscard]] Result fromTable(ElementReader &reader, const Element &element,
                                    const QByteArray &characterSet);
     [[nodiscard]] Result mappedUids(ElementReader &reader, const Element &element) const;
+    [[nodiscard]] Result movedDates(ElementReader &reader, const Element &element) const;
     [[nodiscard]] Result movedText(ElementReader &reader, const Element &element,
                                    const QByteArray &characterSet) const;
 
     const Treatment &m_treatment;
+    int m_daysBack;
     bool m_toUtf8;
     bool m_needsUtf8 = false;
 };

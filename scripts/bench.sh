@@ -26,6 +26,7 @@ run bench_analysis
 run bench_lut
 run bench_configuration
 run bench_run
+run bench_worker
 run bench_bigint
 run bench_check
 exit $result

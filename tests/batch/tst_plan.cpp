@@ -73,6 +73,9 @@ void TestPlan::judgesRows_data()
     QTest::newRow("destinations one inside the other")
         << QByteArray("in,out,1,,,\nother,out/2,2,,,\n")
         << lines("3: the destination lies inside that of line 2");
+    QTest::newRow("one destination twice, and none at all")
+        << QByteArray("in,out,1,,,\nother,out,2,,,\nother,,3,,,\n")
+        << lines("3: has the destination of line 2\n4: has no destination");
     QTest::newRow("unusable root") << QByteArray("in,out,1,,,1.2.3\n")
                                    << lines("2: the UID root 1.2.3 makes no UID with the case id 1");
     QTest::newRow("lines that do nothing")

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void refusesWhatItCannotTreat_data();
     void refusesWhatItCannotTreat();
     void refusesToOverwrite();
+    void refusesWhatNeedsTooMuchMemory();
 
 private:
     [[nodiscard]] QString path(const char *name) const { return m_scratch->path(QString::fromLatin1(name)); }
@@ -197,6 +198,24 @@ void TestObjectFile::refusesToOverwrite()
     const QString target = m_scratch->file(QStringLiteral("there"), "something");
     QCOMPARE(treatFile(source, target, {}).facts.problem, QStringLiteral("cannot be written: File exists"));
     QCOMPARE(readBytes(target), std::optional<QByteArray>("something"));
+}
+
+void TestObjectFile::refusesWhatNeedsTooMuchMemory()
+{
+    constexpr qsizetype references = 500'000;
+    const Prologue prologue = {"1.2.3", "1.2.3.4.1", "1.2.840.10008.1.2.1", {}, 0};
+    const QByteArray item("\xfe\xff\x00\xe0\x0c\0\0\0\x08\x00\x55\x11UI\x04\x00"
+                          "1.2\0",
+                          20);
+    const QByteArray sequence("\x08\x00\x40\x11SQ\0\0\xff\xff\xff\xff", 12);
+    const QByteArray end("\xfe\xff\xdd\xe0\0\0\0\0", 8);
+    const QString source = m_scratch->file(QStringLiteral("x"), prologueBytes(prologue) + sequence +
+                                                                    item.repeated(references) + end);
+    Treatment treatment;
+    treatment.newUid = [](const QByteArray &) { return QByteArray("2.25.1"); };
+    QCOMPARE(treatFile(source, path("result"), treatment).facts.problem,
+             QStringLiteral("needs more changes than a worker has memory for"));
+    QVERIFY(!pathExists(path("result")));
 }
 
 DRAVOLIN_TEST(TestObjectFile)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "batch/Plan.h"
+
+// What a case's rules come to. Pure functions, any thread.
+namespace dravolin {
+
+// Everything that decides what becomes of an object, in one hash.
+[[nodiscard]] QByteArray rulesHash(const AttributeRules &rules, const LutTable &table,
+                                   const BatchOptions &options, const QByteArray &studyUid);
+
+// Whose dates those of an object are that has this Patient ID: objects without one go with the others of
+// their case.
+[[nodiscard]] QByteArray patientOf(const PlannedCase &planned, const QByteArray &patientId);
+
+} // namespace dravolin

@@ -1,0 +1,22 @@
+#include "batch/ResultNames.h"
+
+#include "base/PathText.h"
+
+namespace dravolin {
+
+QString ResultNames::next(const PlannedFile &file)
+{
+    const QString first = stem(file, 1);
+    const int copy = ++m_copies[first];
+    if (!m_forDirectory)
+        return copy == 1 ? first + QStringLiteral(".dcm") : QStringLiteral("%1_%2.dcm").arg(first).arg(copy);
+    return copy == 1 ? first : stem(file, copy);
+}
+
+QString ResultNames::stem(const PlannedFile &file, int copy) const
+{
+    const QByteArray number = copy == 1 ? QByteArray() : ' ' + QByteArray::number(copy);
+    return joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance + number));
+}
+
+} // namespace dravolin

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "batch/Plan.h"
+#include "batch/ProjectKey.h"
+
+#include <QHash>
+
+namespace dravolin {
+
+// Names for the results of a case, which come from series and instance, never from the source's names.
+class ResultNames
+{
+public:
+    // What a DICOMDIR names has eight characters and no dot.
+    ResultNames(const ProjectKey &key, bool forDirectory) : m_key(key), m_forDirectory(forDirectory) {}
+
+    // Relative to the destination. Objects with one UID get different names, by their order.
+    [[nodiscard]] QString next(const PlannedFile &file);
+
+private:
+    [[nodiscard]] QString stem(const PlannedFile &file, int copy) const;
+
+    const ProjectKey &m_key;
+    bool m_forDirectory;
+    QHash<QString, int> m_copies; // by the name of the first
+};
+
+} // namespace dravolin

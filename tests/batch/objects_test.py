@@ -1,0 +1,237 @@
+#!/usr/bin/env python3
+"""What dravolin-cli run makes of unusual objects and files: objects_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
+
+import contextlib
+import csv
+import datetime
+import hashlib
+import os
+import pathlib
+import re
+import resource
+import shutil
+import signal
+import stat
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+
+CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
+RULES = "0008,0080\tInstitution\n0008,0090\tReferring\tnobody\n0010,0040\tSex\n"
+UNDEFINED = b"\xff\xff\xff\xff"
+
+
+def tree(folder):
+    """What lies in a folder: kinds, links and hashes by path."""
+    found = {}
+    for top, folders, files in os.walk(os.fsencode(folder)):
+        for name in folders + files:
+            path = os.path.join(top, name)
+            mode = os.lstat(path).st_mode
+            content = b""
+            if stat.S_ISLNK(mode):
+                content = os.readlink(path)
+            elif stat.S_ISREG(mode):
+                content = hashlib.sha256(pathlib.Path(os.fsdecode(path)).read_bytes()).digest()
+            found[path] = (mode, os.lstat(path).st_size, content)
+    return found
+
+
+def values(path, *tags, everywhere=False):
+    """The values of attributes as dcmdump prints them, the first of each or those in all items."""
+    words = [word for tag in tags for word in ("+P", tag)] + (["+s"] if everywhere else [])
+    printed = subprocess.run(["dcmdump", "-q", "-Un", "-s", *words, str(path)], check=True, stdout=subprocess.PIPE)
+    return re.findall(r"^\(\S+ \S\S \[([^]]*)\]", printed.stdout.decode("latin-1"), re.MULTILINE)
+
+
+class Objects(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = pathlib.Path(scratch.name)
+        self.source = self.folder / "in"
+        self.source.mkdir()
+        (self.folder / "rules.txt").write_text(RULES, encoding="utf-8")
+
+    def make(self, *words):
+        subprocess.run([sys.executable, MAKE_OBJECTS, words[0], str(self.source), *words[1:]], check=True,
+                       stdout=subprocess.DEVNULL)
+        (self.source / "planted.json").unlink()
+
+    def run_list(self, *options, status=(0, 1), rows=(("in", "out", "17"),), **more):
+        """Carries the list out, and sees that the sources are as they were and that no part of a file is left."""
+        lines = ["source,destination,case_id,configuration", *(",".join((*row, "rules.txt")) for row in rows)]
+        (self.folder / "list.csv").write_text("\n".join(lines) + "\n", encoding="utf-8")
+        before = None if more.pop("sources_change", False) else tree(self.source)
+        done = subprocess.run([CLI, "run", "list.csv", *options], cwd=self.folder, check=False, timeout=300,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, **more)
+        printed = done.stdout.decode(errors="replace")
+        self.assertIn(done.returncode, status, printed)
+        if before is not None:
+            self.assertEqual(tree(self.source), before)
+        self.assertEqual(list(self.folder.rglob("*.part")), [])
+        return printed
+
+    def results(self, folder="out"):
+        return sorted(path for path in (self.folder / folder).rglob("*") if path.is_file() and path.name != "DICOMDIR")
+
+    def not_done(self):
+        with open(self.folder / "list.run/secret/not_done.csv", encoding="utf-8", newline="",
+                  errors="surrogateescape") as file:
+            return {row["source"]: row["reason"] for row in csv.DictReader(file)}
+
+    def test_makes_the_directory_anew(self):
+        self.make("mixed", "--count", "20")
+        (self.source / "DICOMDIR").rename(self.source / "P1/index.bin")
+        self.assertIn("20 done, 0 not done, DICOMDIR made anew;", self.run_list())
+        directory = self.folder / "out/DICOMDIR"
+        listed = set(values(directory, "0004,1500", everywhere=True))
+        self.assertEqual({path.relative_to(self.folder / "out").as_posix().replace("/", "\\")
+                          for path in self.results()}, listed)
+        self.assertEqual({part for name in listed for part in name.split("\\")
+                          if not re.fullmatch("[A-Z0-9_]{1,8}", part)}, set())
+        instances = {value for path in self.results() for value in values(path, "0008,0018")}
+        self.assertEqual(set(values(directory, "0004,1511", everywhere=True)), instances)
+        made = directory.read_bytes()
+        self.run_list()
+        directory.unlink()
+        self.run_list()
+        self.assertEqual(directory.read_bytes(), made)
+
+    def test_follows_a_changed_result_with_the_directory(self):
+        self.make("mixed", "--count", "6")
+        self.run_list()
+        before = (self.folder / "out/DICOMDIR").read_bytes()
+        gone = next(path for path in sorted(self.source.rglob("IM*")))
+        gone.unlink()
+        self.run_list()
+        self.assertNotEqual((self.folder / "out/DICOMDIR").read_bytes(), before)
+        self.assertEqual(len(values(self.folder / "out/DICOMDIR", "0004,1500", everywhere=True)), 5)
+        (self.source / "DICOMDIR").unlink()
+        self.run_list()
+        self.assertFalse((self.folder / "out/DICOMDIR").exists())
+        self.assertEqual({path.suffix for path in self.results()}, {".dcm"})
+
+    def test_moves_the_dates_of_a_patient_together(self):
+        self.make("mixed", "--count", "5", "--no-directory")
+        shutil.copytree(self.source, self.source / "again")
+        self.run_list("--shift-dates", rows=(("in/P1", "out", "1"), ("in/again", "out2", "2")))
+        old = next(path for path in sorted((self.source / "P1").rglob("*")) if path.is_file())
+        moved = set()
+        for path in self.results() + self.results("out2"):
+            for tag in ("0008,0020", "0010,0030"):
+                days = [datetime.datetime.strptime(values(file, tag)[0], "%Y%m%d") for file in (old, path)]
+                moved.add((days[0] - days[1]).days)
+            self.assertEqual(values(path, "0028,0303"), ["MODIFIED"])
+            self.assertEqual(values(path, "0008,0030"), values(old, "0008,0030"))
+        self.assertEqual(len(moved), 1)
+        self.assertTrue(366 <= moved.pop() <= 3652)
+
+    def test_leaves_dates_as_they_are_unless_asked(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        self.run_list()
+        old = next(path for path in self.source.rglob("*") if path.is_file())
+        self.assertEqual(values(self.results()[0], "0008,0020", "0028,0303"), values(old, "0008,0020"))
+
+    def test_comes_through_hostile_files(self):
+        self.make("hostile", "--special")
+        printed = self.run_list(status=(1,))
+        wrong = self.not_done()
+        for path, reason in wrong.items():
+            self.assertTrue(reason, path)
+            self.assertIn(reason, printed)
+        self.assertEqual(wrong["nested/100000-explicit.dcm"], "is nested more than 256 deep")
+        self.assertEqual(wrong["special/pipe.dcm"], "is no regular file")
+        self.assertEqual(wrong["special/link-in-a-circle"], "is a link")
+        self.assertEqual(wrong["none/text.txt"], "is no DICOM file")
+        self.assertEqual({path for path in wrong if path.startswith("unusual/")}, set())
+        for path in self.results():
+            subprocess.run(["dcmdump", "-q", str(path)], check=True, stdout=subprocess.DEVNULL)
+
+    def unusual(self, *names):
+        """These objects of the hostile set as source; gives their bytes."""
+        with tempfile.TemporaryDirectory() as made:
+            subprocess.run([sys.executable, MAKE_OBJECTS, "hostile", made], check=True, stdout=subprocess.DEVNULL)
+            return [pathlib.Path(shutil.copy(f"{made}/unusual/{name}.dcm", self.source)).read_bytes()
+                    for name in names]
+
+    def test_treats_known_attributes_and_pixels_that_nobody_knows(self):
+        pixels = b"\xe0\x7f\x10\x00OB\0\0" + UNDEFINED
+        *encoded, _ = self.unusual("htj2k", "jpeg-xl", "deflated-frames", "un")
+        self.run_list()
+        known = {path.read_bytes().partition(pixels)[2]: path for path in self.results()}
+        expected = {content.partition(pixels)[2] for content in encoded}
+        self.assertEqual(known.keys() - {b""}, expected)
+        self.assertNotIn(b"", expected)
+        with_unknown = known[b""]
+        printed = subprocess.run(["dcmdump", "-q", "-Un", "+P", "0010,0020", with_unknown], check=True,
+                                 stdout=subprocess.PIPE).stdout.decode()
+        self.assertTrue(printed.startswith("(0010,0020) LO [17]"), printed)
+        self.assertNotIn(b"Damaged^Deirdre", with_unknown.read_bytes())
+
+    def test_names_what_cannot_be_written(self):
+        self.make("mixed", "--count", "10", "--no-directory", "--pixels", "400000")
+        limit = 200_000
+
+        def limited():
+            resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))
+
+        printed = self.run_list(status=(1,), preexec_fn=limited)
+        self.assertIn("cannot be written: File too large", printed)
+        self.assertEqual([path for path in self.results() if path.stat().st_size >= limit], [])
+
+    @unittest.skipUnless(os.geteuid() == 0 and shutil.which("mount"), "a small file system takes an administrator")
+    def test_tells_that_the_disk_is_full(self):
+        self.make("mixed", "--count", "10", "--no-directory", "--pixels", "400000")
+        (self.folder / "small").mkdir()
+        mounted = subprocess.run(["mount", "-t", "tmpfs", "-o", "size=1m", "tmpfs", str(self.folder / "small")],
+                                 check=False, stderr=subprocess.DEVNULL)
+        if mounted.returncode != 0:
+            return  # not allowed in every container; the limit of a file's size is tried above
+        self.addCleanup(subprocess.run, ["umount", str(self.folder / "small")], check=True)
+        printed = self.run_list(status=(1,), rows=(("in", "small/out", "17"),))
+        self.assertIn("cannot be written: No space left on device", printed)
+        for path in self.results("small/out"):
+            subprocess.run(["dcmdump", "-q", str(path)], check=True, stdout=subprocess.DEVNULL)
+
+    def test_bears_sources_that_vanish_and_change(self):
+        self.make("mixed", "--count", "60", "--no-directory", "--pixels", "300000")
+        paths = sorted(path for path in self.source.rglob("*") if path.is_file())
+        started = threading.Event()
+
+        def disturb():
+            started.wait()
+            for number, path in enumerate(reversed(paths)):
+                with contextlib.suppress(FileNotFoundError):
+                    path.unlink() if number % 2 else os.truncate(path, path.stat().st_size // 2)
+
+        thread = threading.Thread(target=disturb)
+        thread.start()
+        started.set()
+        self.run_list("--workers", "1", sources_change=True)
+        thread.join()
+        for path in self.results():
+            subprocess.run(["dcmdump", "-q", str(path)], check=True, stdout=subprocess.DEVNULL)
+
+    def test_tells_what_cannot_be_read(self):
+        self.make("mixed", "--count", "3", "--no-directory")
+        locked = next(path for path in sorted(self.source.rglob("*")) if path.is_file())
+        locked.chmod(0)
+        more = {}
+        if os.geteuid() == 0:  # who may read everything
+            nobody = 65534
+            self.folder.chmod(0o777)
+            shutil.copy(CLI, self.folder / "cli")
+            more = {"user": nobody, "group": nobody, "executable": str(self.folder / "cli")}
+        self.run_list(status=(1,), **more)
+        self.assertEqual(self.not_done(), {locked.relative_to(self.source).as_posix():
+                                           "cannot be opened: Permission denied"})
+        self.assertEqual(len(self.results()), 2)
+
+
+if __name__ == "__main__":
+    os.environ.pop("DCMDICTPATH", None)
+    signal.signal(signal.SIGXFSZ, signal.SIG_DFL)
+    unittest.main(argv=sys.argv[:1])
