@@ -1,5 +1,6 @@
 #include "app/Contrast.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace dravolin {
@@ -21,6 +22,11 @@ double luminance(const QColor &colour)
            0.0722 * linear(static_cast<double>(colour.blueF()));
 }
 
+double contrast(double luminance, double other)
+{
+    return (std::max(luminance, other) + 0.05) / (std::min(luminance, other) + 0.05);
+}
+
 QColor mixed(const QColor &from, const QColor &to, float part)
 {
     const auto channel = [part](float a, float b) { return a + (b - a) * part; };
@@ -38,22 +44,25 @@ QColor asBorder(const QColor &colour, const QPalette &palette)
 
 double contrast(const QColor &one, const QColor &other)
 {
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return a > b ? a / b : b / a;
+    return contrast(luminance(one), luminance(other));
 }
 
 QColor readable(const QColor &colour, const QColor &ground, double ratio)
 {
-    const QColor end = contrast(ground, Qt::black) > contrast(ground, Qt::white) ? Qt::black : Qt::white;
+    const double behind = luminance(ground);
+    const QColor end = contrast(behind, 0) > contrast(behind, 1) ? Qt::black : Qt::white;
     const QColor seen = mixed(ground, colour, colour.alphaF());
-    constexpr int steps = 50;
-    for (int step = 0; step < steps; ++step) {
-        const QColor moved = mixed(seen, end, static_cast<float>(step) / steps);
-        if (contrast(moved, ground) >= ratio)
-            return moved;
+    const auto fits = [&](const QColor &moved) { return contrast(luminance(moved), behind) >= ratio; };
+    if (fits(seen))
+        return seen;
+    constexpr int steps = 64;
+    int tooLittle = 0;
+    int enough = steps;
+    while (enough - tooLittle > 1) {
+        const int step = (tooLittle + enough) / 2;
+        (fits(mixed(seen, end, static_cast<float>(step) / steps)) ? enough : tooLittle) = step;
     }
-    return end;
+    return mixed(seen, end, static_cast<float>(enough) / steps);
 }
 
 QColor borderColour(const QPalette &palette)

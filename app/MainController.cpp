@@ -30,18 +30,24 @@ void showWholeRoots(QLineEdit &field)
     field.setMinimumWidth(field.fontMetrics().horizontalAdvance(QString(characters, u'0')) + frameAndCaret);
 }
 
-std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
+// The screen's server keeps every icon in its full size.
+QIcon smallIcon(const QPixmap &picture)
+{
+    constexpr QSize size(128, 128);
+    return picture.isNull() ? QIcon()
+                            : QIcon(picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+std::unique_ptr<Ui::MainWindow> layOut(QWidget &window)
 {
     auto controls = std::make_unique<Ui::MainWindow>();
     controls->setupUi(&window);
-    controls->dragDropView->setImageFolder(paths.resourceFolder);
     showWholeRoots(*controls->uidRootTextField);
     controls->resultIcon->setLabel(controls->outputTextField);
     controls->rootValidIcon->setLabel(controls->rootValidLabel);
     controls->caseIDIcon->setLabel(controls->caseIDHint);
     controls->horLine->hide();
     controls->progressBar->hide();
-    QGuiApplication::setWindowIcon(QIcon(paths.resource(QStringLiteral("DragImage.png"))));
     return controls;
 }
 
@@ -49,7 +55,7 @@ std::unique_ptr<Ui::MainWindow> layOut(QWidget &window, const AppPaths &paths)
 
 MainController::MainController(const AppPorts &ports)
     : m_paths(ports.paths), m_delays(ports.delays), m_presenter(ports.presenter),
-      m_window(std::make_unique<MainWindow>()), m_controls(layOut(*m_window, m_paths)),
+      m_window(std::make_unique<MainWindow>()), m_controls(layOut(*m_window)),
       m_host({.gate = m_gate,
               .window = *m_window,
               .controls = *m_controls,
@@ -114,6 +120,9 @@ void MainController::connectControls()
     connect(c.helpButton, &QToolButton::clicked, this, [this] { m_help.popUp(*m_controls->helpButton); });
     connect(c.showLogButton, &QPushButton::clicked, this, &MainController::showLogAgain);
     connect(m_window.get(), &MainWindow::willClose, this, &MainController::windowWillClose);
+    // decoding the pictures takes as long as half of the rest
+    connect(
+        m_window.get(), &MainWindow::firstPainted, this, [this] { loadPictures(); }, Qt::QueuedConnection);
 }
 
 void MainController::connectKeys()
@@ -143,6 +152,12 @@ void MainController::initAndShow()
     restoreUidRoot();
     QTimer::singleShot(m_delays.beforeConfigurationScan, this,
                        &MainController::getConfigurationFilePathsAndPopulateButton);
+}
+
+void MainController::loadPictures()
+{
+    m_controls->dragDropView->setImageFolder(m_paths.resourceFolder);
+    QGuiApplication::setWindowIcon(smallIcon(m_controls->dragDropView->image()));
 }
 
 void MainController::restoreUidRoot()

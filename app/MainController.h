@@ -120,6 +120,7 @@ private:
     void connectControls();
     void connectKeys();
     void showLogAgain();
+    void loadPictures();
     void restoreUidRoot();
     void startRunThread(const Drop &drop);
     void apply(const CheckBoxChanges &changes);

@@ -37,6 +37,7 @@ public:
     // "LutImage.png" when `state` is exactly 1, else "DragImage.png".
     void setImageForLUTcheckboxState(int state);
     [[nodiscard]] QString imageName() const;
+    [[nodiscard]] QPixmap image() const { return m_image; }
     // What the view says a drop will do, in the hint under the picture and to a screen reader.
     void setConstructing(bool constructing);
     // While runs are under way the picture is dimmed and the view says what another drop would do.

@@ -23,8 +23,9 @@ namespace {
 using namespace dravolin;
 using namespace dravolin::bench;
 
-constexpr int objects = 2000; // of each side
-constexpr int links = 10;     // to each of them
+constexpr int files = 20'000;    // on each side, names of fewer objects
+constexpr int objects = 2000;    // originals
+constexpr int plainObjects = 20; // results, which name nobody
 constexpr int frameSize = 20'000;
 constexpr int rounds = 3;
 constexpr int manyFiles = 100'000;
@@ -71,11 +72,12 @@ int readFolders(const std::vector<std::string> &folders)
     return unread == 0 ? 0 : 2;
 }
 
-void makeObjects(const QString &folder, const char *seed)
+void makeObjects(const std::string &folder, std::vector<std::string> options)
 {
-    usageOf({PYTHON, OBJECT_GENERATOR, "mixed", folder.toStdString(), "--count", std::to_string(objects),
-             "--pixels", std::to_string(frameSize), "--flat", "--no-directory", "--seed", seed});
-    removeFile(joinPath(folder, QStringLiteral("planted.json")));
+    std::vector<std::string> words = {PYTHON, OBJECT_GENERATOR, options[0], folder};
+    words.insert(words.end(), options.begin() + 1, options.end());
+    usageOf(words);
+    std::filesystem::remove(folder + "/planted.json");
 }
 
 // `count` names of one file.
@@ -107,13 +109,12 @@ class Folders
 public:
     Folders()
     {
-        makeObjects(path(QStringLiteral("before")), "1");
-        makeObjects(path(QStringLiteral("after")), "2");
-        for (const char *side : {"before", "after"}) {
-            for (const auto &entry : std::filesystem::directory_iterator(native(side)))
-                makeLinks(entry.path(), native(side) + "/linked", links - 1);
-        }
-        makeLinks(native("before") + "/IM000001", native("few"), objects * links);
+        makeObjects(native("objects"), {"mixed", "--count", std::to_string(objects), "--pixels",
+                                        std::to_string(frameSize), "--flat", "--no-directory"});
+        makeObjects(native("nobody"), {"plain"});
+        linkAll("objects", "before", files / objects);
+        linkAll("nobody", "after", files / plainObjects);
+        makeLinks(native("objects") + "/IM000001", native("few"), files);
         writeValues(path(QStringLiteral("values.txt")));
     }
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -123,6 +124,15 @@ public:
     }
 
 private:
+    void linkAll(const char *from, const char *to, int count) const
+    {
+        int folder = 0;
+        for (const auto &entry : std::filesystem::recursive_directory_iterator(native(from))) {
+            if (entry.is_regular_file())
+                makeLinks(entry.path(), native(to) + "/" + std::to_string(++folder), count);
+        }
+    }
+
     QTemporaryDir m_folder;
 };
 
@@ -153,7 +163,7 @@ void compare(Figures &figures, const Folders &folders, const std::string &progra
 void measureMemory(Figures &figures, const Folders &folders)
 {
     const std::string many = folders.native("many");
-    makeLinks(folders.native("after") + "/IM000001", many, manyFiles);
+    makeLinks(folders.native("nobody") + "/CT/IM000001", many, manyFiles);
     const Usage used = usageOf({DRAVOLIN_CLI, "check", "--quiet", "--identifiers",
                                 folders.native("values.txt"), folders.native("before"), many});
     figures.add("memory, 100000 files", used.megabytes, 200, "MiB", 1);
@@ -167,9 +177,7 @@ int main(int argc, char *argv[])
     const std::vector<std::string> arguments(argv, argv + argc);
     if (argc > 2 && arguments[1] == "read")
         return readFolders({arguments.begin() + 2, arguments.end()});
-    std::printf(
-        "%d objects on each side, of all kinds and syntaxes, frames of %d bytes; GDCM reading them is 1\n",
-        objects, frameSize);
+    std::printf("%d files on each side, of all kinds and syntaxes; GDCM reading them is 1\n", files);
     const Folders folders;
     Figures figures;
     compare(figures, folders, std::filesystem::canonical("/proc/self/exe").string());

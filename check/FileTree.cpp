@@ -24,16 +24,15 @@ QString textOf(const fs::path &path)
 
 void sortIn(FileTree &tree, QStringList &folders, const fs::directory_entry &entry, const QString &path)
 {
-    std::error_code error;
-    const fs::file_status status = entry.symlink_status(error);
-    switch (status.type()) {
-    case fs::file_type::directory: folders.append(path); break;
-    case fs::file_type::regular: tree.files.append(path); break;
-    case fs::file_type::symlink:
+    std::error_code error; // mostly the entry knows without a call
+    if (entry.is_symlink(error))
         tree.links.append({path, textOf(fs::read_symlink(entry.path(), error))});
-        break;
-    default: tree.others.append(path);
-    }
+    else if (entry.is_directory(error))
+        folders.append(path);
+    else if (entry.is_regular_file(error))
+        tree.files.append(path);
+    else
+        tree.others.append(path);
 }
 
 void list(FileTree &tree, const QString &folder, QStringList &folders)

@@ -122,7 +122,7 @@ void TestMainWindow::startsCenteredAndNamed()
     const QWidget &window = m_app->controller->window();
     QVERIFY(window.isVisible());
     QCOMPARE(window.windowTitle(), QStringLiteral("Dravolin"));
-    QVERIFY(!window.windowIcon().isNull());
+    QTRY_VERIFY(!window.windowIcon().isNull()); // its picture comes when it has been painted
     const QPoint distance = window.geometry().center() - window.screen()->availableGeometry().center();
     QVERIFY2(distance.manhattanLength() <= 8, "off the middle by more than a frame's width");
     QCOMPARE(checked(*m_app->controls), QString());
