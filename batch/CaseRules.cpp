@@ -33,7 +33,7 @@ QByteArray rulesHash(const AttributeRules &rules, const LutTable &table, const B
 
 QByteArray patientOf(const PlannedCase &planned, const QByteArray &patientId)
 {
-    const QByteArray id = patientId.trimmed();
+    QByteArray id = patientId.trimmed();
     if (!id.isEmpty())
         return id;
     QSet<QByteArray> patients = planned.patients;

@@ -16,6 +16,7 @@ scripts/install-packages.sh bare
 server=$(apt-get indextargets --format '$(REPO_URI)' "Codename: $release" | head -n 1)
 
 root=$(mktemp -d)
+chmod 755 "$root" # its user goes through it
 leave() {
     for process in /proc/[0-9]*; do # what was started in there
         if [ "$(readlink "$process/root")" = "$root" ]; then kill "${process#/proc/}" 2>/dev/null || true; fi

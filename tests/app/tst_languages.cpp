@@ -206,9 +206,11 @@ void TestLanguages::cutsNoTextInTheSmallestWindow()
     QFETCH(QString, language);
     QVERIFY(useLanguage(language, translations));
     m_app->start();
-    m_app->controls->uidRootTextField->setText(QStringLiteral("1.2.3"));
+    m_app->controls->uidRootTextField->setText(test::validRoot);
     QWidget &window = m_app->controller->window();
     window.resize(window.minimumSizeHint().width(), runningHeight);
+    QVERIFY(!run().isEmpty()); // now the window shows all that a result has
+    m_app->controls->uidRootTextField->setText(QStringLiteral("1.2.3"));
     m_app->controls->outputTextField->setText(
         withCounts(Texts::tr("Done constructing LUT. File placed on Desktop.\nEncountered %1 error%2.\n"
                              "See messages logged to console.",
