@@ -54,11 +54,8 @@ void CaseWork::nameStudies()
 {
     std::vector<const PlannedCase *> cases;
     for (const QList<PlannedCase> *some : {&m_plan.cases, &m_plan.others})
-        for (const PlannedCase &planned : *some)
-            cases.push_back(&planned);
-    std::sort(cases.begin(), cases.end(), [](const PlannedCase *one, const PlannedCase *other) {
-        return one->row.line < other->row.line;
-    });
+        std::ranges::transform(*some, std::back_inserter(cases), [](const PlannedCase &one) { return &one; });
+    std::ranges::sort(cases, {}, [](const PlannedCase *planned) { return planned->row.line; });
     for (const PlannedCase *planned : cases)
         if (!planned->studyUid.isEmpty() && !planned->studies.isEmpty() &&
             !m_studies.contains(*planned->studies.begin()))
@@ -248,11 +245,11 @@ void CaseWork::syncDestinations(const std::vector<Treated> &treated)
 FileRecord CaseWork::nameResult(const Treated &treated)
 {
     const Task &task = *treated.task;
-    const QString destination = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row.destination;
     FileRecord record = {
         task.file->path,         treated.file.facts.size, treated.file.facts.modified, task.result,
         treated.file.hashBefore, treated.file.hashAfter,  treated.file.facts.problem};
-    const QString target = joinPath(destination, task.result);
+    const CaseRow &row = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row;
+    const QString target = joinPath(row.destination, task.result);
     if (record.problem.isEmpty() &&
         (!makeFolder(parentPath(target)) ||
          std::rename(systemPath(treated.temporary).constData(), systemPath(target).constData()) != 0)) {
