@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace dravolin {
 
 namespace {
@@ -18,20 +20,14 @@ int openHandle()
 
 void FileHandleReserve::fill()
 {
-    std::vector<int> handles;
-    while (handles.size() < 2 * reserved - m_handles.size()) {
-        const int handle = openHandle();
-        if (handle < 0)
-            break;
-        handles.push_back(handle);
-    }
-    const bool enough = handles.size() == 2 * reserved - m_handles.size();
-    while (enough && m_handles.size() < reserved) {
-        m_handles.push_back(handles.back());
-        handles.pop_back();
-    }
-    for (const int handle : handles)
-        ::close(handle);
+    if (!m_handles.empty())
+        return;
+    std::vector<int> handles(2 * reserved);
+    std::generate(handles.begin(), handles.end(), openHandle);
+    const bool enough = handles.back() >= 0;
+    const auto kept = handles.begin() + (enough ? reserved : 0);
+    m_handles.assign(handles.begin(), kept);
+    std::for_each(kept, handles.end(), ::close); // -1 is none, and is left alone
 }
 
 void FileHandleReserve::releaseWhenScarce()

@@ -14,7 +14,7 @@ public:
     FileHandleReserve(const FileHandleReserve &) = delete;
     FileHandleReserve &operator=(const FileHandleReserve &) = delete;
 
-    // Takes what is missing, if as many again are then left for others.
+    // Takes them again when they were released, if as many are then left for others.
     void fill();
     // Gives all of them to others when no other is to be had. Costs two system calls.
     void releaseWhenScarce();
