@@ -181,6 +181,9 @@ void MainWindowHost::runEnds(const RunJudgement &judgement)
 void MainWindowHost::showBusy(bool busy)
 {
     m_parts.controls.dragDropView->setRunning(busy);
+    // a label whose text can be selected takes ten times as long to be laid out, and every progress text is
+    m_parts.controls.outputTextField->setTextInteractionFlags(
+        busy ? Qt::NoTextInteraction : Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     setBusy(m_parts.window, busy);
 }
 
