@@ -13,8 +13,8 @@ namespace dravolin {
 namespace {
 
 const QString uidRootKey = QStringLiteral("uidRoot");
-constexpr int lockPatience =
-    20; // milliseconds; the window is closing, and Qt alone would wait for half a minute
+// Milliseconds. The window is closing, and Qt alone would wait for half a minute.
+constexpr int lockPatience = 20;
 
 // Where QSettings keeps what belongs to the user; it reads the maker's file as well.
 QString settingsFile(const QString &name)

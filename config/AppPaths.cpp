@@ -16,8 +16,11 @@ namespace {
 // Qt replaces bytes of the home folder that are not UTF-8.
 QString withBytesOfHome(const QString &path)
 {
+    const QByteArray bytes = qgetenv("HOME");
     const QString home = QDir::homePath();
-    return path.startsWith(home) ? fromBytes(qgetenv("HOME")) + path.sliced(home.size()) : path;
+    if (bytes.isValidUtf8() || !path.startsWith(home))
+        return path;
+    return QDir::cleanPath(fromBytes(bytes)) + path.sliced(home.size());
 }
 
 } // namespace

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void namesTheResources();
     void joinsTheDictionaryWithOneSeparator();
     void usersOwnFoldersComeFromTheDesktop();
+    void foldersMayHaveNamesThatAreNotUtf8_data();
     void foldersMayHaveNamesThatAreNotUtf8();
     void ownExecutableIsThisOne();
     void executableIsCalledDravolin();
@@ -80,11 +81,23 @@ void TestAppPaths::usersOwnFoldersComeFromTheDesktop()
     QCOMPARE(paths.desktopFolder, scratch.path(QStringLiteral("Schreibtisch")));
 }
 
+void TestAppPaths::foldersMayHaveNamesThatAreNotUtf8_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("UTF-8") << QByteArray("/J\u00FCrgen") << QByteArray();
+    QTest::newRow("UTF-8, with a slash at its end") << QByteArray("/J\u00FCrgen") << QByteArray("/");
+    QTest::newRow("Latin-1") << QByteArray("/J\xFCrgen") << QByteArray();
+    QTest::newRow("Latin-1, with a slash at its end") << QByteArray("/J\xFCrgen") << QByteArray("/");
+}
+
 void TestAppPaths::foldersMayHaveNamesThatAreNotUtf8()
 {
+    QFETCH(const QByteArray, name);
+    QFETCH(const QByteArray, end);
     const ScratchFolder scratch;
-    const QByteArray home = toBytes(scratch.path()) + "/J\xFCrgen";
-    qputenv("HOME", home);
+    const QByteArray home = toBytes(scratch.path()) + name;
+    qputenv("HOME", home + end);
     qunsetenv("XDG_CONFIG_HOME");
     qunsetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_DIRS", "/usr/share");
