@@ -1,5 +1,7 @@
 #include "base/FileHandleReserve.h"
 
+#include <QtGlobal>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -9,7 +11,7 @@ namespace dravolin {
 
 namespace {
 
-constexpr size_t reserved = 32;
+constexpr qsizetype reserved = 32;
 
 int openHandle()
 {
@@ -22,7 +24,7 @@ void FileHandleReserve::fill()
 {
     if (!m_handles.empty())
         return;
-    std::vector<int> handles(2 * reserved);
+    std::vector<int> handles(size_t{2 * reserved});
     std::generate(handles.begin(), handles.end(), openHandle);
     const bool enough = handles.back() >= 0;
     const auto kept = handles.begin() + (enough ? reserved : 0);
