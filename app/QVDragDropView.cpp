@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSet>
 #include <QSysInfo>
 #include <QUrl>
@@ -209,11 +210,29 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
-    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.setPen(hasFocus() ? QPen(focusColour(palette()), 2)
-                              : QPen(borderColour(palette()), 2, Qt::DashLine));
-    painter.setBrush(palette().base());
-    painter.drawRoundedRect(frame, 10, 10);
+    const QPen pen =
+        hasFocus() ? QPen(focusColour(palette()), 2) : QPen(borderColour(palette()), 2, Qt::DashLine);
+    // kept as a picture: the dashes take longer than all else in the window, and each run's begin waits for
+    // them
+    const QString key =
+        QStringLiteral("drop area %1x%2 %3 %4 %5")
+            .arg(width())
+            .arg(height())
+            .arg(devicePixelRatioF())
+            .arg(pen.color().name() + (pen.isSolid() ? u'-' : u' '), palette().base().color().name());
+    QPixmap frame;
+    if (!QPixmapCache::find(key, &frame)) {
+        frame = QPixmap(size() * devicePixelRatioF());
+        frame.setDevicePixelRatio(devicePixelRatioF());
+        frame.fill(Qt::transparent);
+        QPainter framePainter(&frame);
+        framePainter.setRenderHint(QPainter::Antialiasing);
+        framePainter.setPen(pen);
+        framePainter.setBrush(palette().base());
+        framePainter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+        QPixmapCache::insert(key, frame);
+    }
+    painter.drawPixmap(0, 0, frame);
 }
 
 void QVDragDropView::keyPressEvent(QKeyEvent *event)
