@@ -22,7 +22,8 @@ packages_of() {
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
             pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
         test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy \
-            qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland ;;
+            qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland \
+            python3-xlib strace util-linux mount ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
         bare) echo debootstrap libgtk-3-bin wmctrl ;;
