@@ -8,6 +8,7 @@
 #   desktop  a screen without a monitor, and what drives a program on it
 #   test     what the tests need beside these
 #   fuzz     what scripts/fuzz.sh needs beside what building needs
+#   coverage what scripts/coverage.sh needs beside what building and testing need
 #   package  what makes and checks the Debian package
 #   bare     what tries it on a Debian of its own
 set -eu
@@ -21,12 +22,13 @@ packages_of() {
         desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
             pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
-        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy \
+        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy cppcheck \
             qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
+        coverage) echo gcovr ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
         bare) echo debootstrap libgtk-3-bin wmctrl ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, package, bare)" >&2; exit 2 ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, coverage, package, bare)" >&2; exit 2 ;;
     esac
 }
 
