@@ -139,7 +139,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (const QByteArray &name : bytes.first(paragraph).split('\n'))
         folders.append(fromBytes(name).toLower());
     const QByteArray output = bytes.sliced(paragraph);
-    if (!output.isEmpty())
+    // it takes a hundred times as long as all the rest
+    if (!output.isEmpty() && output.size() % 8 == 0)
         requireSameWhenLarge(output, folders);
     const std::optional<QString> text = decodeUtf8(output);
     if (!text)
