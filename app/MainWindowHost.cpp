@@ -160,18 +160,14 @@ void MainWindowHost::giveFocusBack()
 
 void MainWindowHost::progress(const Progress &progress)
 {
-    perform(progressSteps(progress));
+    perform(progressSteps(progress), [] {});
 }
 
 void MainWindowHost::runEnds(const RunJudgement &judgement)
 {
     bool tablesExist = false;
     onMain([&] { tablesExist = m_tablesExist; });
-    for (const WindowStep &step : endSteps(judgement, tablesExist)) {
-        perform({step});
-        if (step.kind == WindowStep::Kind::Status)
-            onMain([&] { showResult(judgement); });
-    }
+    perform(endSteps(judgement, tablesExist), [&] { showResult(judgement); });
     onMain([&] {
         giveFocusBack();
         tellResult(judgement);
@@ -235,13 +231,26 @@ void MainWindowHost::tablesFound(const TitleToPath &tables)
     });
 }
 
-void MainWindowHost::perform(const WindowSteps &steps)
+void MainWindowHost::perform(const WindowSteps &steps, const std::function<void()> &behindStatus)
 {
-    for (const WindowStep &step : steps) {
-        if (step.kind == WindowStep::Kind::Pause)
+    using Kind = WindowStep::Kind;
+    const auto isPause = [](const WindowStep &step) { return step.kind == Kind::Pause; };
+    for (auto next = steps.begin(); next != steps.end();) {
+        if (isPause(*next)) {
             QThread::msleep(static_cast<unsigned long>(m_parts.delays.beforeSummary));
-        else
-            onMain([&] { performNow(step); });
+            ++next;
+            continue;
+        }
+        const auto pause = std::find_if(next, steps.end(), isPause);
+        // one hand-over; when memory fails a step, another goes on with the step behind it
+        onMain([&] {
+            while (next != pause) {
+                const WindowStep &step = *next++;
+                performNow(step);
+                if (step.kind == Kind::Status)
+                    behindStatus();
+            }
+        });
     }
 }
 

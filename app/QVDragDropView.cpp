@@ -2,6 +2,7 @@
 
 #include "app/Accessibility.h"
 #include "app/Contrast.h"
+#include "app/DroppedPaths.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
 
@@ -10,8 +11,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QSet>
-#include <QSysInfo>
+#include <QPixmapCache>
 #include <QUrl>
 
 #include <algorithm>
@@ -25,47 +25,7 @@ const QString lutImage = QStringLiteral("LutImage.png");
 constexpr qreal highlightWidth = 6.0;
 constexpr qreal margin = 12;
 
-bool isLocalFile(const QUrl &url)
-{
-    const QString host = url.host();
-    const bool thisHost = host.isEmpty() || host == QStringLiteral("localhost") ||
-                          host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
-    // no file has a NUL in its name
-    return url.isLocalFile() && thisHost && !url.path(QUrl::FullyEncoded).contains(QStringLiteral("%00"));
-}
-
-// QUrl::toLocalFile would replace bytes that are not UTF-8.
-QString localPath(const QUrl &url)
-{
-    if (!isLocalFile(url))
-        return {};
-    QString path = fromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
-    while (path.size() > 1 && path.endsWith(u'/'))
-        path.chop(1);
-    return path;
-}
-
-bool isPicture(const QString &path)
-{
-    static const QSet<QString> extensions = [] {
-        const QString list =
-            QStringLiteral("png jpg jpeg tiff pdf pic ps bmp pct pict eps mac pnt ico psd icns "
-                           "nef dng tif jpf jp2 gif jfif");
-        const QStringList items = list.split(u' ');
-        return QSet<QString>(items.cbegin(), items.cend());
-    }();
-    return extensions.contains(pathExtension(path).toLower());
-}
-
 } // namespace
-
-QStringList droppedPaths(const QMimeData &drag)
-{
-    QStringList paths;
-    for (const QUrl &url : drag.urls())
-        paths.append(localPath(url));
-    return paths;
-}
 
 QVDragDropView::QVDragDropView(QWidget *parent) : QAbstractButton(parent)
 {
@@ -209,11 +169,29 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
-    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.setPen(hasFocus() ? QPen(focusColour(palette()), 2)
-                              : QPen(borderColour(palette()), 2, Qt::DashLine));
-    painter.setBrush(palette().base());
-    painter.drawRoundedRect(frame, 10, 10);
+    const QPen pen =
+        hasFocus() ? QPen(focusColour(palette()), 2) : QPen(borderColour(palette()), 2, Qt::DashLine);
+    // kept as a picture: the dashes take longer than all else in the window, and each run's begin waits for
+    // them
+    const QString key =
+        QStringLiteral("drop area %1x%2 %3 %4 %5")
+            .arg(width())
+            .arg(height())
+            .arg(devicePixelRatioF())
+            .arg(pen.color().name() + (pen.isSolid() ? u'-' : u' '), palette().base().color().name());
+    QPixmap frame;
+    if (!QPixmapCache::find(key, &frame)) {
+        frame = QPixmap(size() * devicePixelRatioF());
+        frame.setDevicePixelRatio(devicePixelRatioF());
+        frame.fill(Qt::transparent);
+        QPainter framePainter(&frame);
+        framePainter.setRenderHint(QPainter::Antialiasing);
+        framePainter.setPen(pen);
+        framePainter.setBrush(palette().base());
+        framePainter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+        QPixmapCache::insert(key, frame);
+    }
+    painter.drawPixmap(0, 0, frame);
 }
 
 void QVDragDropView::keyPressEvent(QKeyEvent *event)

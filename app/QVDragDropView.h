@@ -87,8 +87,4 @@ private:
     QPixmap m_image;
 };
 
-// The paths of a drag's file-name list, byte for byte, without a separator at the end; addresses that are no
-// local files give empty paths.
-[[nodiscard]] QStringList droppedPaths(const QMimeData &drag);
-
 } // namespace dravolin

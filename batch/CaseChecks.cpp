@@ -34,17 +34,16 @@ QStringList setValues(const PlannedCase &planned, const BatchOptions &batch)
     return values;
 }
 
-check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &batch,
-                               const QHash<QString, FileRecord> &records)
+check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &batch, const Journal &journal)
 {
     check::CheckOptions options;
     options.originals = planned.row.source;
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
     options.setValues = setValues(planned, batch);
-    for (const FileRecord &record : records)
-        if (!record.result.isEmpty())
-            options.renamed.insert(record.path, record.result);
+    journal.forEachResult(planned.row.caseId, [&options](const FileRecord &record) {
+        options.renamed.insert(record.path, record.result);
+    });
     options.rules = planned.configuration;
     options.uids = batch.mapUids;
     options.workers = batch.workers;
@@ -52,19 +51,23 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
 }
 
 // Everything that decides what a check finds, in one hash.
-QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &options,
-                     const QHash<QString, FileRecord> &records)
+QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &options, const Journal &journal)
 {
-    QStringList lines = {QStringLiteral(DRAVOLIN_VERSION), options.originals, options.result,
-                         QString::number(options.uids)};
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    const auto add = [&hash](const QString &line) { hash.addData(toBytes(line) + '\n'); };
+    for (const QString &line :
+         {QStringLiteral(DRAVOLIN_VERSION), options.originals, options.result, QString::number(options.uids)})
+        add(line);
     for (auto rule = options.rules->newValueDict.begin(); rule != options.rules->newValueDict.end(); ++rule)
-        lines.append(rule.key() + u'\t' + rule.value());
-    lines += options.rules->allTagsToAnonymize + options.identifiers + options.setValues;
+        add(rule.key() + u'\t' + rule.value());
+    for (const QString &line : options.rules->allTagsToAnonymize + options.identifiers + options.setValues)
+        add(line);
     for (const PlannedFile &file : planned.files)
-        lines.append(QStringLiteral("%1\t%2\t%3\t%4")
-                         .arg(file.path, QString::number(file.size), QString::number(file.modified),
-                              QString::fromLatin1(records.value(file.path).hashAfter)));
-    return QCryptographicHash::hash(toBytes(lines.join(u'\n')), QCryptographicHash::Sha256);
+        add(file.path + QStringLiteral("\t%1\t%2").arg(file.size).arg(file.modified));
+    journal.forEachResult(planned.row.caseId, [&add](const FileRecord &record) {
+        add(record.path + u'\t' + record.result + u'\t' + QString::fromLatin1(record.hashAfter));
+    });
+    return hash.result();
 }
 
 } // namespace
@@ -87,10 +90,8 @@ bool CaseChecks::check(qsizetype index)
 {
     const PlannedCase &planned = m_plan.cases.at(index);
     const QString &caseId = planned.row.caseId;
-    QHash<QString, FileRecord> records = m_journal.files(caseId);
-    const check::CheckOptions options = optionsFor(planned, m_options, records);
-    const QByteArray subject = subjectOf(planned, options, records);
-    records.clear(); // they may be many
+    const check::CheckOptions options = optionsFor(planned, m_options, m_journal);
+    const QByteArray subject = subjectOf(planned, options, m_journal);
     const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId));
     const QByteArray known = pathExists(joinPath(folder, QStringLiteral("report.html")))
                                  ? m_journal.checked(caseId, subject)

@@ -86,14 +86,15 @@ bool Journal::begin(const CaseRow &row, const QByteArray &rules)
 void Journal::forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const
 {
     QSqlQuery query = prepared(database(),
-                               QStringLiteral("SELECT result, before, after FROM files "
+                               QStringLiteral("SELECT path, result, before, after FROM files "
                                               "WHERE id = ? AND result <> '' ORDER BY result"),
                                {caseId});
     FileRecord record;
     while (query.next()) {
-        record.result = query.value(0).toString();
-        record.hashBefore = query.value(1).toByteArray().toHex();
-        record.hashAfter = query.value(2).toByteArray().toHex();
+        record.path = fromBytes(query.value(0).toByteArray());
+        record.result = query.value(1).toString();
+        record.hashBefore = query.value(2).toByteArray().toHex();
+        record.hashAfter = query.value(3).toByteArray().toHex();
         visit(record);
     }
 }

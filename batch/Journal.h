@@ -49,7 +49,7 @@ public:
     // The files of a case, by path.
     [[nodiscard]] QHash<QString, FileRecord> files(const QString &caseId) const;
 
-    // Calls `visit` with every file of a case that has a result, by result.
+    // Calls `visit` with the paths and hashes of every file of a case that has a result, by result.
     void forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const;
 
     // All of it or nothing is written; on return it is safe.

@@ -17,6 +17,7 @@ namespace dravolin::bench {
 namespace {
 
 const QString capturedName = QStringLiteral(".captured.sh");
+const QString jobList = QStringLiteral("jobs.list");
 
 void require(bool condition, const char *what)
 {
@@ -53,20 +54,25 @@ private:
 
 } // namespace
 
-// Starts nothing; keeps a copy of each script beside it.
+// Starts nothing; keeps what a run starts, with a copy of each script beside it.
 class BenchApp::CapturingRunner : public JobRunner
 {
 public:
-    QStringList folders;
+    QByteArray list; // for the native loop
+    QStringList scriptFolders;
 
     [[nodiscard]] JobResult run(const Job &job) override
     {
-        const std::optional<QString> script = readText(joinPath(job.folder, scriptFileName));
-        if (!script)
-            return {JobOutcome::Ran, {}}; // the search for DICOMDIR files
-        const QString copy = joinPath(job.folder, capturedName);
-        require(writeText(copy, *script) && makeExecutable(copy), "a script could not be kept");
-        folders.append(job.folder);
+        QStringList words = QStringList(job.executable) + job.arguments;
+        if (const std::optional<QString> script = readText(joinPath(job.folder, scriptFileName))) {
+            const QString copy = joinPath(job.folder, capturedName);
+            require(writeText(copy, *script) && makeExecutable(copy), "a script could not be kept");
+            words.last().replace(scriptFileName, capturedName);
+            scriptFolders.append(job.folder);
+        }
+        for (const QString &word : QStringList(job.folder) + words)
+            list += toBytes(word) + '\0';
+        list += '\0';
         return {JobOutcome::Ran, {}};
     }
 };
@@ -173,30 +179,25 @@ double BenchApp::run(const QString &folder)
     return dropAndWait({folder});
 }
 
-int BenchApp::captureScripts(const QString &folder)
+int BenchApp::captureJobs(const QString &folder)
 {
     CapturingRunner capturing;
     start(capturing);
     (void)dropAndWait({folder});
     start(m_jobs);
-    m_captured = capturing.folders;
-    return static_cast<int>(m_captured.size());
+    m_scriptFolders = capturing.scriptFolders;
+    QFile list(path(jobList));
+    require(list.open(QIODevice::WriteOnly) && list.write(capturing.list) == capturing.list.size(),
+            "the list of jobs could not be written");
+    return static_cast<int>(m_scriptFolders.size());
 }
 
 double BenchApp::runNatively()
 {
-    const QString list = path(QStringLiteral("folders.list"));
-    QByteArray bytes;
-    for (const QString &folder : std::as_const(m_captured)) {
+    for (const QString &folder : std::as_const(m_scriptFolders))
         removeFile(joinPath(folder, outputFileName)); // so that each script has to make it, as in a run
-        bytes += toBytes(folder) + '\0';
-    }
-    QFile file(list);
-    require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
-            "the list could not be written");
-    file.close();
     QProcess loop;
-    loop.start(QString::fromUtf8(NATIVE_LOOP), {list, m_paths.dictionary(), capturedName});
+    loop.start(QString::fromUtf8(NATIVE_LOOP), {path(jobList), m_paths.dictionary()});
     require(loop.waitForFinished(-1) && loop.exitCode() == 0, "the native loop failed");
     return loop.readAllStandardOutput().trimmed().toDouble();
 }

@@ -46,9 +46,10 @@ public:
     [[nodiscard]] double run(const QStringList &paths) { return dropAndWait(paths); }
     // The processor time of all threads in the last run, children apart.
     [[nodiscard]] double ownProcessorSeconds() const { return m_ownProcessorSeconds; }
-    // The same without starting anything; the scripts stay in their folders. Gives the number of jobs.
-    int captureScripts(const QString &folder);
-    // Runs the captured scripts one after another; gives the seconds.
+    // The same without starting anything; what would be started is kept. Gives the number of scripts.
+    int captureJobs(const QString &folder);
+    // Starts what was kept, the scripts and the search for DICOMDIR files, one after another; gives the
+    // seconds.
     [[nodiscard]] double runNatively();
 
     [[nodiscard]] MainController &controller() { return *m_controller; }
@@ -68,7 +69,7 @@ private:
     WillingPresenter m_presenter;
     std::unique_ptr<MainController> m_controller;
     QByteArray m_image; // a DICOM file
-    QStringList m_captured;
+    QStringList m_scriptFolders;
     double m_ownProcessorSeconds = 0;
 };
 

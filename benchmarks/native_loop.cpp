@@ -1,11 +1,9 @@
-// Runs one script after another and prints the seconds that took: native_loop LIST DICTIONARY SCRIPT, where
-// LIST is a file of folders, each ended by a NUL. In each it starts /bin/sh -c "\"FOLDER/SCRIPT\"" and waits
-// for it.
+// Runs one program after another and prints the seconds that took: native_loop LIST DICTIONARY, where LIST is
+// a file of jobs. A job is a folder, a program and its arguments, each ended by a NUL, and one NUL more.
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <sys/wait.h>
 #include <time.h>
@@ -14,23 +12,25 @@
 
 namespace {
 
-void runScript(const std::string &folder, const std::string &script, char *const *environment)
+using Job = std::vector<std::string>; // folder, program, arguments
+
+void run(Job &job, char *const *environment)
 {
-    std::string command = '"' + folder + '/' + script + '"';
+    std::vector<char *> arguments;
+    for (size_t i = 1; i < job.size(); ++i)
+        arguments.push_back(job[i].data());
+    arguments.push_back(nullptr);
     const pid_t child = ::fork();
     if (child == 0) {
-        char shell[] = "/bin/sh";
-        char option[] = "-c";
-        char *const arguments[] = {shell, option, command.data(), nullptr};
         const int null = ::open("/dev/null", O_RDONLY);
-        if (null >= 0 && ::dup2(null, STDIN_FILENO) >= 0 && ::chdir(folder.c_str()) == 0)
-            ::execve(shell, arguments, environment);
+        if (null >= 0 && ::dup2(null, STDIN_FILENO) >= 0 && ::chdir(job[0].c_str()) == 0)
+            ::execve(arguments[0], arguments.data(), environment);
         ::_exit(127);
     }
     int status = 0;
     if (child < 0 || ::waitpid(child, &status, 0) != child ||
         (WIFEXITED(status) && WEXITSTATUS(status) > 125)) {
-        std::fprintf(stderr, "native_loop: the script in %s did not run\n", folder.c_str());
+        std::fprintf(stderr, "native_loop: %s did not run in %s\n", job[1].c_str(), job[0].c_str());
         std::exit(1);
     }
 }
@@ -46,19 +46,23 @@ double now()
 
 int main(int argc, char *argv[])
 {
-    if (argc != 4)
+    if (argc != 3)
         return 2;
     std::ifstream list(argv[1], std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(list)), std::istreambuf_iterator<char>());
-    std::vector<std::string> folders;
-    for (size_t start = 0; start < text.size(); start += folders.back().size() + 1)
-        folders.emplace_back(text.c_str() + start);
+    std::vector<Job> jobs(1);
+    for (std::string word; std::getline(list, word, '\0');) {
+        if (word.empty())
+            jobs.emplace_back();
+        else
+            jobs.back().push_back(word);
+    }
+    jobs.pop_back();
 
     std::string dictionary = std::string("DCMDICTPATH=") + argv[2];
     char *const environment[] = {dictionary.data(), nullptr};
     const double start = now();
-    for (const std::string &folder : folders)
-        runScript(folder, argv[3], environment);
+    for (Job &job : jobs)
+        run(job, environment);
     std::printf("%.9f\n", now() - start);
     return 0;
 }

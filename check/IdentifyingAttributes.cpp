@@ -51,7 +51,12 @@ QString nameOf(ValueClass valueClass)
 
 QString tagText(Tag tag)
 {
-    return QStringLiteral("(%1,%2)").arg(tag >> 16, 4, 16, QChar(u'0')).arg(tag & 0xFFFF, 4, 16, QChar(u'0'));
+    QString text = QStringLiteral("(0000,0000)");
+    for (const qsizetype place : {9, 8, 7, 6, 4, 3, 2, 1}) {
+        text[place] = QChar(u"0123456789abcdef"[tag & 0xF]);
+        tag >>= 4;
+    }
+    return text;
 }
 
 } // namespace dravolin::check

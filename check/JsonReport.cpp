@@ -66,6 +66,22 @@ QJsonObject searchedValues(const Values &values)
     return object;
 }
 
+// As RFC 8259, 7, has it; a byte of a name that is no UTF-8, half of a surrogate pair here, stays one.
+QByteArray jsonString(const QString &text)
+{
+    QString string(1, u'"');
+    for (const QChar c : text) {
+        if (c < u' ' || c.isSurrogate()) {
+            string += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QChar(u'0'));
+            continue;
+        }
+        if (c == u'"' || c == u'\\')
+            string += u'\\';
+        string += c;
+    }
+    return (string + u'"').toUtf8();
+}
+
 QString verdictName(Verdict verdict)
 {
     switch (verdict) {
@@ -89,14 +105,12 @@ QJsonObject jsonOf(const FindingGroup &group)
             {QStringLiteral("advice"), group.advice}};
 }
 
-QJsonObject jsonOf(const ToldFinding &finding)
+// Written straight, since there may be dozens for every file, and objects take ten times as long.
+QByteArray jsonOf(const ToldFinding &finding)
 {
-    return {{QStringLiteral("grade"), nameOf(finding.grade)},
-            {QStringLiteral("file"), finding.file},
-            {QStringLiteral("place"), finding.place},
-            {QStringLiteral("class"), nameOf(finding.valueClass)},
-            {QStringLiteral("source"), finding.source},
-            {QStringLiteral("masked"), finding.mask}};
+    return "{\"class\":" + jsonString(nameOf(finding.valueClass)) + ",\"file\":" + jsonString(finding.file) +
+           ",\"grade\":" + jsonString(nameOf(finding.grade)) + ",\"masked\":" + jsonString(finding.mask) +
+           ",\"place\":" + jsonString(finding.place) + ",\"source\":" + jsonString(finding.source) + '}';
 }
 
 QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call)

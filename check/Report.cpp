@@ -81,7 +81,7 @@ void ReportWriter::add(const QString &file, const QList<Finding> &findings, cons
     const QString path = maskedPath(file, patterns);
     for (const Finding &finding : findings) {
         const ToldFinding shown = told(path, finding, patterns);
-        m_json << (m_isFirst ? "\n" : ",\n") << compact(jsonOf(shown)).toStdString();
+        m_json << (m_isFirst ? "\n" : ",\n") << jsonOf(shown).constData();
         m_isFirst = false;
         if (QList<ToldFinding> &some = m_shown[static_cast<size_t>(shown.grade)]; some.size() < mostShown)
             some.append(shown);

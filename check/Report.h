@@ -60,7 +60,7 @@ private:
 [[nodiscard]] QString htmlReport(const CheckReport &report, const ReportedCall &call,
                                  const std::array<QList<ToldFinding>, 3> &findings);
 [[nodiscard]] QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call);
-[[nodiscard]] QJsonObject jsonOf(const ToldFinding &finding);
+[[nodiscard]] QByteArray jsonOf(const ToldFinding &finding);
 [[nodiscard]] QJsonObject jsonOf(const FindingGroup &group);
 
 } // namespace dravolin::check

@@ -129,8 +129,11 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
     }
     if (m_rules && !isInDirectory(element))
         m_rules->compare(element, text, result.deviations);
+    if (result.findings.size() == known)
+        return;
+    const QString path = pathText(element.path, element.tag);
     for (qsizetype i = known; i < result.findings.size(); ++i)
-        result.findings[i].place.path = pathText(element.path, element.tag);
+        result.findings[i].place.path = path;
 }
 
 void Searcher::searchPath(const QString &path, QList<Finding> &findings)

@@ -5,6 +5,7 @@
 #include "base/Texts.h"
 
 #include <algorithm>
+#include <bitset>
 #include <cstring>
 #include <limits>
 #include <string_view>
@@ -85,13 +86,17 @@ public:
         for (const QString &name : names) {
             m_names.insert(units(name));
             m_longest = std::max(m_longest, name.size());
+            m_firsts.set(firstOf(name + u':'));
         }
     }
 
     // Whether `text`, which is in lower case, begins with one of the names followed by ":". Only what stands
-    // before a ":" is looked up, so that the number of names does not matter.
+    // before a ":" is looked up, so that the number of names does not matter, and nothing when none of them
+    // has the text's first character.
     [[nodiscard]] bool beginLowered(QStringView text) const
     {
+        if (text.isEmpty() || !m_firsts.test(firstOf(text)))
+            return false;
         const std::u16string_view all = units(text.first(std::min(text.size(), neededCharacters())));
         for (size_t colon = all.find(u':'); colon != all.npos; colon = all.find(u':', colon + 1)) {
             if (m_names.contains(all.substr(0, colon)))
@@ -104,13 +109,19 @@ public:
     [[nodiscard]] qsizetype neededCharacters() const { return m_longest + 1; }
 
 private:
+    static unsigned char firstOf(QStringView text)
+    {
+        return static_cast<unsigned char>(text.front().unicode());
+    }
+
     static std::u16string_view units(QStringView text)
     {
         return {text.utf16(), static_cast<size_t>(text.size())};
     }
 
     std::unordered_set<std::u16string_view> m_names;
-    qsizetype m_longest = -1; // without names not even the first character is looked at
+    std::bitset<256> m_firsts; // low bytes of the first characters of the names, with the ":" behind them
+    qsizetype m_longest = -1;  // without names not even the first character is looked at
 };
 
 // What the lines of the output add up to. Output may be many megabytes of error lines, so nothing here copies

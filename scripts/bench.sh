@@ -16,6 +16,7 @@ run() {
     "$bin/$@" || result=1
 }
 run bench_overhead folder tree
+run bench_run check
 echo
 echo "== bench_window"
 /usr/bin/python3 desktop/in_a_box.py "$PWD/$bin/bench_window" "$PWD/$bin/Dravolin" || result=1
@@ -28,7 +29,7 @@ scripts/growth.py "$bin/bench_growth" || result=1
 run bench_load ${1:-}
 run bench_lut
 run bench_configuration
-run bench_run
+run bench_run small tree medium large table
 run bench_worker
 run bench_bigint
 run bench_check

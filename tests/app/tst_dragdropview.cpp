@@ -1,3 +1,4 @@
+#include "app/DroppedPaths.h"
 #include "app/QVDragDropView.h"
 #include "app/TestApp.h"
 #include "base/PathText.h"

@@ -37,6 +37,15 @@ void TestLines::cutsLinesAtEveryNewline_data()
     row("unit separator is none", u"a\u001Fb",
         "a\x1F"
         "b");
+    const auto longRow = [](const char *name, const QString &text) {
+        for (int at = 0; at < 20; ++at)
+            QTest::addRow("%s at %d", name, at) << QString(at, u'x') + text + QString(20, u'y')
+                                                << QStringList{QString(at, u'x'), QString(20, u'y')};
+    };
+    longRow("LF", QStringLiteral("\n"));
+    longRow("CR", QStringLiteral("\r"));
+    longRow("next line", QChar(0x85));
+    longRow("line separator", QChar(0x2028));
 }
 
 void TestLines::cutsLinesAtEveryNewline()

@@ -15,6 +15,8 @@ import tempfile
 import time
 import unittest
 
+from sources import untouched
+
 CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
 
 
@@ -39,8 +41,9 @@ class Evidence(unittest.TestCase):
             table = csv.DictWriter(file, rows[0].keys())
             table.writeheader()
             table.writerows(rows)
-        done = subprocess.run([CLI, "run", "list.csv", *options], cwd=self.folder, capture_output=True,
-                              text=True, check=False)
+        with untouched(self.folder):
+            done = subprocess.run([CLI, "run", "list.csv", *options], cwd=self.folder, capture_output=True,
+                                  text=True, check=False)
         self.assertEqual(done.returncode, status, done.stdout + done.stderr)
         return done.stdout
 
@@ -134,8 +137,9 @@ class Evidence(unittest.TestCase):
         self.run_list(self.row("in", "17"), options=("--folder", "other.run"))
         (self.folder / "out17").rename(self.folder / "whole")
         report = self.folder / "list.run/evidence/cases/17/report.json"
-        with subprocess.Popen([CLI, "run", "list.csv", "--key", "other.run/secret/project.key"], cwd=self.folder,
-                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as running:
+        with untouched(self.folder), subprocess.Popen(
+                [CLI, "run", "list.csv", "--key", "other.run/secret/project.key"], cwd=self.folder,
+                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True) as running:
             while not report.exists() and running.poll() is None:
                 time.sleep(0.001)
             running.send_signal(signal.SIGINT)

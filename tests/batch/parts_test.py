@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """One list on several machines, by GNU parallel: parts_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
 
-import hashlib
 import json
 import os
 import pathlib
@@ -12,14 +11,11 @@ import tempfile
 import time
 import unittest
 
+from sources import tree, untouched
+
 CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
 CASES = 4
 PARTS = 2
-
-
-def contents(folder):
-    return {path.relative_to(folder).as_posix(): hashlib.sha256(path.read_bytes()).hexdigest()
-            for path in sorted(folder.rglob("*")) if path.is_file()}
 
 
 class Parts(unittest.TestCase):
@@ -55,7 +51,8 @@ class Parts(unittest.TestCase):
 
     @classmethod
     def call(cls, *arguments, status=0):
-        done = subprocess.run([CLI, *arguments], cwd=cls.folder, capture_output=True, text=True, check=False)
+        with untouched(cls.folder):
+            done = subprocess.run([CLI, *arguments], cwd=cls.folder, capture_output=True, text=True, check=False)
         assert done.returncode == status, (done.returncode, done.stdout, done.stderr)
         return done.stdout + done.stderr
 
@@ -66,8 +63,9 @@ class Parts(unittest.TestCase):
         """All parts of a list, beside each other; one of them may be killed when it has begun."""
         command = ["parallel", "-j", str(PARTS), CLI, "run", name, "--key", "key", "--workers", "1", "--quiet",
                    "--shard", f"{{}}/{PARTS}", ":::", *map(str, range(1, PARTS + 1))]
-        with subprocess.Popen(command, cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              env={**os.environ, "HOME": str(self.folder)}) as running:
+        with untouched(self.folder), subprocess.Popen(
+                command, cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                env={**os.environ, "HOME": str(self.folder)}) as running:
             if kill:
                 self.kill_one(name, running)
         return running.returncode
@@ -93,7 +91,7 @@ class Parts(unittest.TestCase):
         self.assertNotEqual(self.in_parallel("killed.csv", kill=True), 0)
         self.assertIn("is not finished", self.call("merge", "killed.csv", status=2))
         self.assertEqual(self.in_parallel("killed.csv"), 0)
-        self.assertEqual(contents(self.folder / "killed"), contents(self.folder / "whole"))
+        self.assertEqual(tree(self.folder / "killed"), tree(self.folder / "whole"))
         self.assertIn(f"{CASES} cases: 160 done, 0 not done; nothing found", self.call("merge", "killed.csv"))
         for name in ("evidence/files.csv", "secret/uid_map.csv", "secret/patient_map.csv", "secret/not_done.csv"):
             self.assertEqual((self.folder / "killed.run" / name).read_bytes(),

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """The result of a run beside the window's, attribute by attribute:
 
-    same_result.py DRAVOLIN_CLI MAKE_OBJECTS WINDOW_SCRIPT CONFIGURATION [COUNT]
+    same_result.py DRAVOLIN_CLI MAKE_OBJECTS WINDOW_SCRIPT CONFIGURATION DESKTOP [COUNT]
 
-COUNT objects of all kinds in all ways of writing go through `dravolin-cli run` and, as copies, through the window's
+COUNT objects of all kinds in all ways of writing, and the sample study of the folder DESKTOP, go through `dravolin-cli run` and, as copies, through the window's
 script with DCMTK's tool. What docs/run.md lists as different is left out of the comparison, and nothing else.
 """
 
@@ -17,10 +17,12 @@ import subprocess
 import sys
 import tempfile
 
-CLI, MAKE_OBJECTS, WINDOW_SCRIPT, CONFIGURATION = map(os.path.abspath, sys.argv[1:5])
-COUNT = sys.argv[5] if len(sys.argv) > 5 else "60"
-sys.path.insert(0, os.path.dirname(MAKE_OBJECTS))
+CLI, MAKE_OBJECTS, WINDOW_SCRIPT, CONFIGURATION, DESKTOP = map(os.path.abspath, sys.argv[1:6])
+COUNT = int(sys.argv[6]) if len(sys.argv) > 6 else 60
+sys.path[:0] = [os.path.dirname(MAKE_OBJECTS), DESKTOP]
 from dump import dump  # noqa: E402
+from outside import study  # noqa: E402
+from sources import untouched  # noqa: E402
 
 STUDY = "(0020,000d)"  # the window gives one to everything, and erases copies that a run keeps or replaces
 TAG = re.compile(r"\(([0-9a-f]{4}),([0-9a-f]{4})\)$")
@@ -64,17 +66,21 @@ def window_run(folder):
 
 
 def main():
-    with tempfile.TemporaryDirectory() as name:
-        folder = pathlib.Path(name)
-        subprocess.run([sys.executable, MAKE_OBJECTS, "mixed", folder / "in", "--count", COUNT, "--no-directory"],
+    with tempfile.TemporaryDirectory() as scratch:
+        folder = pathlib.Path(scratch)
+        subprocess.run([sys.executable, MAKE_OBJECTS, "mixed", folder / "in", "--count", str(COUNT), "--no-directory"],
                        check=True, stdout=subprocess.DEVNULL)
         (folder / "in/planted.json").unlink()
+        objects = COUNT + len(study.make_study(folder / "in/sample"))
+        for name in study.DICOMDIR, study.TEXT_FILE:
+            (folder / "in/sample" / name).unlink()
         shutil.copytree(folder / "in", folder / "window")
         (folder / "list.csv").write_text("source,destination,case_id,diagnosis,configuration\n"
                                          f"in,out,17,Case,{CONFIGURATION}\n", encoding="utf-8")
-        run = subprocess.run([CLI, "run", "list.csv", "--keep-private", "--keep-uids"], cwd=folder, check=False,
-                             stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-        if f"{COUNT} done, 0 not done".encode() not in run.stdout:
+        with untouched(folder):
+            run = subprocess.run([CLI, "run", "list.csv", "--keep-private", "--keep-uids"], cwd=folder, check=False,
+                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        if f"{objects} done, 0 not done".encode() not in run.stdout:
             sys.exit(run.stdout.decode(errors="replace"))
         window_run(folder / "window")
         return compare(folder)
