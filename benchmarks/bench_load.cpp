@@ -107,8 +107,9 @@ public:
         removeFile(tool); // the link
         const QString script = QStringLiteral("#!/bin/sh\n"
                                               "yes 'E: modifying tag in file IM000001: Invalid target tag!' |"
-                                              " head -c %1000000 >&2\n");
-        if (!writeText(tool, script.arg(megabytes)) || !makeExecutable(tool))
+                                              " head -c ") +
+                               QString::number(megabytes * 1'000'000) + QStringLiteral(" >&2\n");
+        if (!writeText(tool, script) || !makeExecutable(tool))
             qFatal("the tool could not be made");
         const QByteArray what = QByteArray::number(megabytes) + " MB of errors in the log";
         drop(app, what.constData(), {app.makeFolder(QStringLiteral("folder"), 1)}, 2000);
