@@ -27,8 +27,11 @@ for program in "$@"; do
     if [ -n "$compiled" ]; then
         has "does not check its stack" '__stack_chk_fail' <"$scratch"
         has "does not check its buffers" '__[a-z]*_chk\>' <"$scratch"
-        objdump -d -j .text "$program" >"$scratch"
-        has "does not mark the targets of jumps" '\<endbr64\>' <"$scratch"
+        # a few are in what the compiler adds to every program
+        if [ "$(objdump -d -j .text "$program" | grep -c '\<endbr64\>')" -lt 20 ]; then
+            echo "$program: does not mark the targets of jumps"
+            result=1
+        fi
     fi
 done
 exit $result
