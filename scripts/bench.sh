@@ -23,6 +23,7 @@ echo "== bench_window"
 export TMPDIR="$memory"
 run bench_overhead stub ${1:-}
 run bench_memory
+run bench_log
 run bench_analysis
 run bench_growth
 scripts/growth.py "$bin/bench_growth" || result=1
