@@ -1,6 +1,7 @@
 #include "app/LogWindowController.h"
 
 #include "app/AlertSheetRunner.h"
+#include "app/LogView.h"
 #include "base/Files.h"
 #include "base/Texts.h"
 #include "ui_LogWindow.h"
@@ -19,9 +20,10 @@ namespace dravolin {
 
 namespace {
 
-constexpr qint64 turn = 10;              // milliseconds for which the event loop is held up
-constexpr qsizetype sliceLength = 16384; // so many characters cost far less than a turn
-constexpr qsizetype giantLine = 16384;   // characters
+constexpr qint64 turn = 10;               // milliseconds for which the event loop is held up
+constexpr qsizetype sliceLength = 16384;  // so many characters cost far less than a turn
+constexpr qsizetype giantLine = 16384;    // characters
+constexpr qsizetype longestBlock = 65536; // characters
 
 bool hasGiantLine(QStringView text)
 {
@@ -118,11 +120,13 @@ void LogWindowController::appendForOneTurn()
     QElapsedTimer timer;
     timer.start();
     QTextCursor end(m_logTextView->document());
+    end.movePosition(QTextCursor::End);
     while (m_shown < m_text.size() && timer.elapsed() < turn) {
-        end.movePosition(QTextCursor::End);
         const QString slice = nextSlice();
         end.insertText(slice);
         m_shown += slice.size();
+        if (m_shown < m_text.size() && !slice.endsWith(u'\n'))
+            goOnInNewBlock(end);
     }
     if (m_shown < m_text.size())
         m_nextTurn.start();
@@ -132,12 +136,18 @@ void LogWindowController::appendForOneTurn()
 
 QString LogWindowController::nextSlice() const
 {
-    if (m_text.size() - m_shown <= sliceLength)
-        return m_text.sliced(m_shown);
-    qsizetype lineEnd = m_text.lastIndexOf(u'\n', m_shown + sliceLength - 1);
-    if (lineEnd < m_shown) // one long line: it costs more in pieces
-        lineEnd = m_text.indexOf(u'\n', m_shown + sliceLength);
-    return m_text.sliced(m_shown, lineEnd < 0 ? m_text.size() - m_shown : lineEnd + 1 - m_shown);
+    const QStringView rest = QStringView(m_text).sliced(m_shown);
+    if (rest.size() <= sliceLength)
+        return rest.toString();
+    qsizetype lineEnd = rest.lastIndexOf(u'\n', sliceLength - 1);
+    if (lineEnd < 0) // one long line: it costs more in pieces
+        lineEnd = rest.first(std::min(rest.size(), longestBlock)).indexOf(u'\n', sliceLength);
+    if (lineEnd >= 0)
+        return rest.first(lineEnd + 1).toString();
+    if (rest.size() <= longestBlock)
+        return rest.toString();
+    return rest.first(rest.at(longestBlock - 1).isHighSurrogate() ? longestBlock - 1 : longestBlock)
+        .toString();
 }
 
 void centerOnScreen(QWidget &window)

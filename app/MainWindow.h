@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QCloseEvent>
 #include <QWidget>
-
-#include <utility>
 
 namespace dravolin {
 
@@ -22,20 +19,13 @@ Q_SIGNALS:
     void firstPainted();
 
 protected:
-    void closeEvent(QCloseEvent *event) override
-    {
-        event->accept();
-        Q_EMIT willClose();
-    }
-    void paintEvent(QPaintEvent *event) override
-    {
-        QWidget::paintEvent(event);
-        if (!std::exchange(m_painted, true))
-            Q_EMIT firstPainted();
-    }
+    void closeEvent(QCloseEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     bool m_painted = false;
+    int m_belowScreen = 0; // pixels of its height
 };
 
 } // namespace dravolin

@@ -3,6 +3,7 @@
 #include "app/Accessibility.h"
 #include "app/Contrast.h"
 #include "app/DroppedPaths.h"
+#include "app/ScreenEdge.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
 
@@ -156,11 +157,17 @@ QString QVDragDropView::hint() const
                           : Texts::tr("Drop folders or DICOM files here to anonymize them");
 }
 
+QRect QVDragDropView::shownArea() const
+{
+    const int below = heightBelowScreen(*this);
+    const int shown = below > 0 ? height() - below - int(margin) : height();
+    return {0, 0, width(), std::min(std::max(shown, minimumSizeHint().height()), height())};
+}
+
 QRectF QVDragDropView::paintHint(QPainter &painter) const
 {
-    // on top: on a low screen the lower edge may be out of sight
     constexpr int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
-    const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+    const QRectF inside = QRectF(shownArea()).adjusted(margin, margin, -margin, -margin);
     painter.setPen(palette().color(QPalette::Text));
     QRectF place;
     painter.drawText(inside, flags, hint(), &place);
@@ -169,26 +176,27 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
+    const QRect area = shownArea();
     const QPen pen =
         hasFocus() ? QPen(focusColour(palette()), 2) : QPen(borderColour(palette()), 2, Qt::DashLine);
     // kept as a picture: the dashes take longer than all else in the window, and each run's begin waits for
     // them
     const QString key =
         QStringLiteral("drop area %1x%2 %3 %4 %5")
-            .arg(width())
-            .arg(height())
+            .arg(area.width())
+            .arg(area.height())
             .arg(devicePixelRatioF())
             .arg(pen.color().name() + (pen.isSolid() ? u'-' : u' '), palette().base().color().name());
     QPixmap frame;
     if (!QPixmapCache::find(key, &frame)) {
-        frame = QPixmap(size() * devicePixelRatioF());
+        frame = QPixmap(area.size() * devicePixelRatioF());
         frame.setDevicePixelRatio(devicePixelRatioF());
         frame.fill(Qt::transparent);
         QPainter framePainter(&frame);
         framePainter.setRenderHint(QPainter::Antialiasing);
         framePainter.setPen(pen);
         framePainter.setBrush(palette().base());
-        framePainter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+        framePainter.drawRoundedRect(QRectF(area).adjusted(1, 1, -1, -1), 10, 10);
         QPixmapCache::insert(key, frame);
     }
     painter.drawPixmap(0, 0, frame);
@@ -252,7 +260,7 @@ void QVDragDropView::paintEvent(QPaintEvent *)
     paintFrame(painter);
     const QRectF textArea = paintHint(painter);
     const qreal top = textArea.bottom() + margin;
-    const QRectF imageArea(margin, top, width() - 2 * margin, height() - top - margin);
+    const QRectF imageArea(margin, top, width() - 2 * margin, shownArea().height() - top - margin);
     if (!m_image.isNull() && imageArea.height() > 0) {
         const QSizeF size = QSizeF(m_image.size()).scaled(imageArea.size(), Qt::KeepAspectRatio);
         const QPointF corner = imageArea.center() - QPointF(size.width(), size.height()) / 2;
@@ -264,7 +272,7 @@ void QVDragDropView::paintEvent(QPaintEvent *)
         return;
     painter.setPen(QPen(focusColour(palette()), highlightWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 8, 8);
+    painter.drawRoundedRect(QRectF(shownArea()).adjusted(3, 3, -3, -3), 8, 8);
 }
 
 } // namespace dravolin

@@ -56,6 +56,9 @@ public:
     // Asks which of the two.
     void showMenu(const QPoint &globalPosition);
 
+    // The part that is painted: it ends above the screen's lower edge, where the window may reach below it.
+    [[nodiscard]] QRect shownArea() const;
+
     [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
     void setHighlighted(bool highlighted);
 

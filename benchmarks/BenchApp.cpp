@@ -159,13 +159,13 @@ QString BenchApp::makeTree(const QString &name, int folders, int files)
     return path(name);
 }
 
-double BenchApp::dropAndWait(const QString &folder)
+double BenchApp::dropAndWait(const QStringList &paths)
 {
     EndOfRun end(m_controller->controls().outputTextField);
     const double processorStart = processorSeconds();
     QElapsedTimer timer;
     timer.start();
-    m_controller->handleDroppedPaths({folder});
+    m_controller->handleDroppedPaths(paths);
     end.wait();
     const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
     m_ownProcessorSeconds = processorSeconds() - processorStart;
@@ -176,14 +176,14 @@ double BenchApp::dropAndWait(const QString &folder)
 
 double BenchApp::run(const QString &folder)
 {
-    return dropAndWait(folder);
+    return dropAndWait({folder});
 }
 
 int BenchApp::captureJobs(const QString &folder)
 {
     CapturingRunner capturing;
     start(capturing);
-    (void)dropAndWait(folder);
+    (void)dropAndWait({folder});
     start(m_jobs);
     m_scriptFolders = capturing.scriptFolders;
     QFile list(path(jobList));

@@ -42,6 +42,8 @@ public:
 
     // Drops `folder` on the application and runs the event loop until the run has ended; gives the seconds.
     [[nodiscard]] double run(const QString &folder);
+    // The same with several paths at once.
+    [[nodiscard]] double run(const QStringList &paths) { return dropAndWait(paths); }
     // The processor time of all threads in the last run, children apart.
     [[nodiscard]] double ownProcessorSeconds() const { return m_ownProcessorSeconds; }
     // The same without starting anything; what would be started is kept. Gives the number of scripts.
@@ -58,7 +60,7 @@ private:
     void placeResources(Tool tool);
     void makeImage();
     void start(JobRunner &jobs);
-    double dropAndWait(const QString &folder);
+    double dropAndWait(const QStringList &paths);
 
     QTemporaryDir m_folder;
     AppPaths m_paths;

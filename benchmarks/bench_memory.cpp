@@ -1,15 +1,9 @@
-// Memory and responsiveness during a long run: 100000 files in 10000 folders, with a tool that does nothing;
-// and how long a long log holds up the main thread.
+// Memory and responsiveness during a long run: 100000 files in 10000 folders, with a tool that does nothing.
 #include "BenchApp.h"
 #include "Figures.h"
+#include "Heartbeat.h"
 
-#include <QElapsedTimer>
 #include <QFile>
-#include <QTimer>
-
-#include <atomic>
-#include <ctime>
-#include <thread>
 
 namespace {
 
@@ -36,66 +30,6 @@ void resetPeak()
         file.write("5");
 }
 
-// Beats each millisecond and keeps the longest time between two beats.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_timer.setInterval(1);
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { beat(); });
-        m_since.start();
-        m_timer.start();
-    }
-    [[nodiscard]] double longestMilliseconds() const { return m_longest; }
-
-private:
-    void beat()
-    {
-        m_longest = std::max(m_longest, static_cast<double>(m_since.nsecsElapsed()) / 1e6);
-        m_since.restart();
-    }
-
-    QTimer m_timer;
-    QElapsedTimer m_since;
-    double m_longest = 0;
-};
-
-// The same in a thread that does nothing else: how long the machine itself keeps a thread waiting.
-class MachineNoise
-{
-public:
-    MachineNoise() : m_thread([this] { beat(); }) {}
-    ~MachineNoise() { stop(); }
-    MachineNoise(const MachineNoise &) = delete;
-    MachineNoise &operator=(const MachineNoise &) = delete;
-
-    double stop()
-    {
-        m_stop = true;
-        if (m_thread.joinable())
-            m_thread.join();
-        return m_longest;
-    }
-
-private:
-    void beat()
-    {
-        while (!m_stop) {
-            QElapsedTimer since;
-            since.start();
-            const timespec millisecond = {0, 1'000'000};
-            ::nanosleep(&millisecond, nullptr);
-            m_longest = std::max(m_longest, static_cast<double>(since.nsecsElapsed()) / 1e6);
-        }
-    }
-
-    std::atomic<bool> m_stop = false;
-    double m_longest = 0;
-    std::thread m_thread;
-};
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -116,15 +50,5 @@ int main(int argc, char *argv[])
     figures.add("  longest time between two beats of the main thread", heartbeat.longestMilliseconds(), 50,
                 "ms", 1);
     Figures::note("  the same in a thread that only sleeps: the machine's share", machine, "ms", 1);
-
-    QString log;
-    for (int i = 0; i < 100'000; ++i)
-        log += QStringLiteral("E: unable to load file IM%1: End of stream\n\n").arg(i, 6, 10, QChar(u'0'));
-    QElapsedTimer timer;
-    timer.start();
-    app.controller().showLogWindowWithLogText(log);
-    QCoreApplication::processEvents();
-    Figures::note("opening the log window with 100000 lines", static_cast<double>(timer.nsecsElapsed()) / 1e6,
-                  "ms", 1);
     return figures.exitCode();
 }

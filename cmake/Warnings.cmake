@@ -23,3 +23,11 @@ if(DRAVOLIN_FUZZ)
 endif()
 target_compile_options(dravolin_warnings INTERFACE ${sanitizers})
 target_link_options(dravolin_warnings INTERFACE ${sanitizers})
+
+# A fault in memory is to end the program, not to be used by what it reads. What is compiled in is for what is shipped;
+# scripts/check-hardening.sh and the tests see that it is there.
+if(NOT DRAVOLIN_SANITIZE)
+    target_compile_options(dravolin_warnings INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong
+        -fstack-clash-protection -fcf-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3>)
+    target_link_options(dravolin_warnings INTERFACE -pie -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()

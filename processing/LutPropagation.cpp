@@ -127,10 +127,13 @@ quint64 propagateThroughFiles(const RunContext &context, const QStringList &entr
 
 std::optional<QString> searchedValue(const QString &printed)
 {
-    const QList<QStringView> pieces = QStringView(printed).split(u' ');
-    if (pieces.size() < 3)
+    const qsizetype first = printed.indexOf(u' ');
+    const qsizetype second = first < 0 ? -1 : printed.indexOf(u' ', first + 1);
+    if (second < 0)
         return std::nullopt;
-    const QStringView piece = pieces.at(2);
+    const QStringView rest = QStringView(printed).sliced(second + 1);
+    const qsizetype end = rest.indexOf(u' ');
+    const QStringView piece = end < 0 ? rest : rest.first(end);
     if (!piece.startsWith(u'['))
         return piece.toString();
     // intended: the last character goes whatever it is, so that of "[John Doe]" only "Joh" is left

@@ -1,6 +1,6 @@
 #!/bin/sh
 # bench.sh [large]: builds the benchmarks, runs them all, prints each figure beside its limit and ends with 1
-# when one is above. "large" adds a run over 100000 folders. What is measured with a tool that does nothing lies
+# when one is above. "large" adds runs over 100000 folders. What is measured with a tool that does nothing lies
 # in memory where possible, so that the disk is on neither side; TMPDIR names another place for everything. A
 # busy machine spoils the ratios.
 set -u
@@ -23,7 +23,11 @@ echo "== bench_window"
 export TMPDIR="$memory"
 run bench_overhead stub ${1:-}
 run bench_memory
+run bench_log
 run bench_analysis
+run bench_growth
+scripts/growth.py "$bin/bench_growth" || result=1
+run bench_load ${1:-}
 run bench_lut
 run bench_configuration
 run bench_run small tree medium large table

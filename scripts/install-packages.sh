@@ -5,9 +5,11 @@
 #
 #   build    the compiler, Qt and DCMTK: what building needs
 #   run      what the built program calls when it runs
-#   desktop  a screen without a monitor, and what drives a program on it
+#   screen   a screen without a monitor, and what drives a program on it
+#   desktop  the same, and other programs to work with there
 #   test     what the tests need beside these
 #   fuzz     what scripts/fuzz.sh needs beside what building needs
+#   coverage what scripts/coverage.sh needs beside what building and testing need
 #   package  what makes and checks the Debian package
 #   bare     what tries it on a Debian of its own
 set -eu
@@ -18,16 +20,16 @@ packages_of() {
             libssl-dev zlib1g-dev libqt6sql6-sqlite ;;
         run) echo dcmtk libdcmtk17 libgdcm3.0 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 \
             libqt6dbus6 qt6-translations-l10n xdg-utils fonts-dejavu-core ;;
-        desktop) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
-            gir1.2-atspi-2.0 gir1.2-gtk-3.0 dcmtk fonts-dejavu-core \
-            pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
-        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy \
-            qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland \
-            python3-xlib strace util-linux mount ;;
+        screen) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
+            gir1.2-atspi-2.0 gir1.2-gtk-3.0 libgtk-3-bin dcmtk fonts-dejavu-core ;;
+        desktop) packages_of screen && echo pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
+        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy cppcheck \
+            qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland python3-xlib strace ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
+        coverage) echo gcovr ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
-        bare) echo debootstrap libgtk-3-bin wmctrl ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, desktop, test, fuzz, package, bare)" >&2; exit 2 ;;
+        bare) echo mmdebstrap ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, screen, desktop, test, fuzz, coverage, package, bare)" >&2; exit 2 ;;
     esac
 }
 

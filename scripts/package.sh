@@ -7,6 +7,7 @@ folder=${1:-build/package}
 scripts/install-packages.sh build package
 cmake -S . -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF >/dev/null
 cmake --build "$folder"
+scripts/check-hardening.sh "$folder/bin/Dravolin" "$folder/bin/dravolin-cli"
 (cd "$folder" && cpack -G DEB)
 packaging/check.sh "$folder"/dravolin_*.deb
 ls "$folder"/dravolin_*.deb

@@ -1,19 +1,23 @@
 #!/bin/sh
 # test.sh [PRESET]: builds and runs every test, plainly (dev), then under the address, undefined behaviour (asan) and
-# thread (tsan) sanitizers; with the name of a preset only there.
+# thread (tsan) sanitizers; then feeds each parser for a minute (fuzz). With the name of a preset only there.
 set -eu
 cd "$(dirname "$0")/.."
 
 case "${1-}" in
-    "") presets="dev asan tsan" ;;
-    dev | asan | tsan) presets=$1 ;;
+    "") presets="dev asan tsan fuzz" ;;
+    dev | asan | tsan | fuzz) presets=$1 ;;
     *) sed -n '2,3s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
 esac
 echo "This installs the packages for building and testing, builds Dravolin ($presets) and runs its tests."
-scripts/install-packages.sh build test desktop package
+scripts/install-packages.sh build test desktop package fuzz
 
 for preset in $presets; do
     echo "== $preset"
+    if [ "$preset" = fuzz ]; then
+        scripts/fuzz.sh all 60
+        continue
+    fi
     cmake --preset "$preset"
     cmake --build --preset "$preset"
     ctest --preset "$preset"

@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Show configuration &amp;folder</source>
-        <translation>Mostrar car&amp;peta</translation>
+        <translation>Mostrar car&amp;peta de configuración</translation>
     </message>
     <message>
         <source>Opens the folder in which your configurations and tables are kept</source>

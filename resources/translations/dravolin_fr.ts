@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Show configuration &amp;folder</source>
-        <translation>A&amp;fficher le dossier</translation>
+        <translation>A&amp;fficher le dossier de configuration</translation>
     </message>
     <message>
         <source>Opens the folder in which your configurations and tables are kept</source>

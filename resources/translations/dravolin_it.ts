@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Show configuration &amp;folder</source>
-        <translation>&amp;Mostra cartella</translation>
+        <translation>&amp;Mostra cartella di configurazione</translation>
     </message>
     <message>
         <source>Opens the folder in which your configurations and tables are kept</source>

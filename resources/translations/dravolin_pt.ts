@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Show configuration &amp;folder</source>
-        <translation>Mostrar &amp;pasta</translation>
+        <translation>Mostrar &amp;pasta de configuração</translation>
     </message>
     <message>
         <source>Opens the folder in which your configurations and tables are kept</source>

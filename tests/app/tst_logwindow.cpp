@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QTest>
+#include <QTextBlock>
 
 using namespace dravolin;
 using namespace dravolin::test;
@@ -29,6 +30,9 @@ private Q_SLOTS:
     void opensAtTheTopWithNothingSelected();
     void breaksLinesAtWords_data();
     void breaksLinesAtWords();
+    void showsAGiantLineInBlocks_data();
+    void showsAGiantLineInBlocks();
+    void copiesAGiantLineAsOne();
     void closesByKeys_data();
     void closesByKeys();
     void copiesEverything();
@@ -89,6 +93,52 @@ void TestLogWindow::breaksLinesAtWords()
     LogWindowController log;
     log.showWithText(text);
     QTEST(int(log.logTextView()->wordWrapMode()), "mode");
+}
+
+void TestLogWindow::showsAGiantLineInBlocks_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<int>>("lengths");
+    QTest::newRow("a long line") << QString(65536, u'x') << QList<int>{65536};
+    QTest::newRow("a giant line between others")
+        << QStringLiteral("one\n") + QString(150000, u'x') + QStringLiteral("\nthree")
+        << QList<int>{3, 65536, 65536, 18928, 5};
+    QTest::newRow("characters of two units stay whole")
+        << QStringLiteral("x") + QStringLiteral("\U0001F600").repeated(40000) << QList<int>{65535, 14466};
+}
+
+void TestLogWindow::showsAGiantLineInBlocks()
+{
+    QFETCH(QString, text);
+    LogWindowController log;
+    log.showWithText(text);
+    const auto blockLengths = [&] {
+        QList<int> found;
+        for (QTextBlock block = log.logTextView()->document()->begin(); block.isValid(); block = block.next())
+            found.append(block.length() - 1);
+        return found;
+    };
+    QFETCH(QList<int>, lengths);
+    QTRY_COMPARE(blockLengths(), lengths);
+}
+
+void TestLogWindow::copiesAGiantLineAsOne()
+{
+    const QString text = QStringLiteral("one\n") + QString(150000, u'x') + QStringLiteral("\nthree\n");
+    LogWindowController log;
+    log.showWithText(text);
+    QPlainTextEdit *const view = log.logTextView();
+    QTRY_COMPARE(view->document()->blockCount(), 6);
+    view->selectAll();
+    view->copy();
+    QCOMPARE(QGuiApplication::clipboard()->text(), text);
+
+    QTextCursor part = view->textCursor();
+    part.setPosition(2);
+    part.setPosition(4 + 65536 + 1 + 10, QTextCursor::KeepAnchor); // ten characters into the second block
+    view->setTextCursor(part);
+    view->copy();
+    QCOMPARE(QGuiApplication::clipboard()->text(), text.sliced(2, 2 + 65536 + 10));
 }
 
 void TestLogWindow::closesByKeys_data()

@@ -54,7 +54,6 @@ private Q_SLOTS:
     void theCaseIdIsMarkedWhenItIsToBlame_data();
     void theCaseIdIsMarkedWhenItIsToBlame();
     void theRootsFieldShowsAWholeRoot();
-    void theWindowFitsOnALowScreen();
     void theEndIsToldToAUserWhoLooksElsewhere();
     void theEndIsNotToldTwice();
     void anAlertSaysTheSummary();
@@ -229,21 +228,6 @@ void TestWindowStates::theRootsFieldShowsAWholeRoot()
     const QRect caret = field->inputMethodQuery(Qt::ImCursorRectangle).toRectF().toRect();
     const int rightEnd = caret.left() + metrics.horizontalAdvance(longest);
     QVERIFY2(rightEnd <= field->width(), qPrintable(QString::number(field->width() - rightEnd)));
-}
-
-void TestWindowStates::theWindowFitsOnALowScreen()
-{
-    constexpr int titleBar = 30;
-    QWidget &window = m_app->controller->window();
-    controls().progressBar->show();
-    QVERIFY2(window.layout()->totalMinimumSize().height() <= 540 - titleBar,
-             qPrintable(QString::number(window.layout()->totalMinimumSize().height())));
-    QWidget tall;
-    tall.resize(300, 2000);
-    centerOnScreen(tall);
-    const QRect available = tall.screen()->availableGeometry();
-    QCOMPARE(tall.height(), available.height() - titleBar);
-    QCOMPARE(tall.y(), available.top());
 }
 
 void TestWindowStates::theEndIsToldToAUserWhoLooksElsewhere()

@@ -12,6 +12,7 @@ class TestPropagationCommand : public QObject
 private Q_SLOTS:
     void findsTheValue_data();
     void findsTheValue();
+    void findsNoneInFewerThanThreePieces();
     void looksValuesUpAsTheyAre_data();
     void looksValuesUpAsTheyAre();
     void composesTheCommand_data();
@@ -48,6 +49,13 @@ void TestPropagationCommand::findsTheValue()
     const std::optional<QString> found = searchedValue(printed);
     QVERIFY(found);
     QCOMPARE(*found, value);
+}
+
+void TestPropagationCommand::findsNoneInFewerThanThreePieces()
+{
+    QVERIFY(!searchedValue(QString()));
+    QVERIFY(!searchedValue(QStringLiteral("[a]")));
+    QVERIFY(!searchedValue(QStringLiteral("(0010,0020) [a]\n")));
 }
 
 void TestPropagationCommand::looksValuesUpAsTheyAre_data()

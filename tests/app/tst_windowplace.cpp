@@ -1,0 +1,90 @@
+#include "app/TestApp.h"
+#include "support/TestEntry.h"
+#include "ui_MainWindow.h"
+
+#include <QScreen>
+#include <QTest>
+
+using namespace dravolin;
+using namespace dravolin::test;
+
+// The main window and the edges of its screen.
+class TestWindowPlace : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { useHome(m_home.path()); }
+    void init();
+    void cleanup() { m_app.reset(); }
+
+    void theWindowFitsOnALowScreen();
+    void theDropAreaEndsAboveTheScreensEdge();
+    void nothingIsPaintedBelowTheDropAreasEnd();
+
+private:
+    QTemporaryDir m_home;
+    std::unique_ptr<TestApp> m_app;
+    const Ui::MainWindow &controls() { return *m_app->controls; }
+};
+
+void TestWindowPlace::init()
+{
+    m_app = std::make_unique<TestApp>();
+    m_app->start();
+}
+
+void TestWindowPlace::theWindowFitsOnALowScreen()
+{
+    constexpr int titleBar = 30;
+    QWidget &window = m_app->controller->window();
+    controls().progressBar->show();
+    QVERIFY2(window.layout()->totalMinimumSize().height() <= 540 - titleBar,
+             qPrintable(QString::number(window.layout()->totalMinimumSize().height())));
+    QWidget tall;
+    tall.resize(300, 2000);
+    centerOnScreen(tall);
+    const QRect available = tall.screen()->availableGeometry();
+    QCOMPARE(tall.height(), available.height() - titleBar);
+    QCOMPARE(tall.y(), available.top());
+}
+
+void TestWindowPlace::theDropAreaEndsAboveTheScreensEdge()
+{
+    QWidget &window = m_app->controller->window();
+    const QVDragDropView &view = *controls().dragDropView;
+    const int screenBottom = window.screen()->availableGeometry().bottom();
+    const auto distance = [&] { return screenBottom - view.mapToGlobal(view.shownArea().bottomLeft()).y(); };
+    window.resize(window.width(), runningHeight);
+    window.move(50, 0);
+    QTRY_COMPARE(view.shownArea(), view.rect());
+    window.move(50, screenBottom + 51 - runningHeight);
+    QTRY_COMPARE(distance(), 12);
+    QCOMPARE(window.height(), runningHeight);
+    window.move(50, screenBottom - 50); // too much to be kept in sight
+    QTRY_COMPARE(view.shownArea().height(), view.minimumSizeHint().height());
+}
+
+void TestWindowPlace::nothingIsPaintedBelowTheDropAreasEnd()
+{
+    QWidget &window = m_app->controller->window();
+    QVDragDropView &view = *controls().dragDropView;
+    window.resize(window.width(), runningHeight);
+    window.move(50, window.screen()->availableGeometry().bottom() + 101 - runningHeight);
+    QTRY_VERIFY(!view.image().isNull());
+    for (const bool highlighted : {false, true}) {
+        view.setHighlighted(highlighted);
+        const QRect shown = view.shownArea();
+        QVERIFY(shown.height() < view.height());
+        const QImage picture = view.grab().toImage();
+        QImage plain = picture.copy(0, shown.height(), shown.width(), view.height() - shown.height());
+        const QImage below = plain;
+        plain.fill(below.pixelColor(0, 0));
+        QCOMPARE(below, plain);
+        QVERIFY(picture.copy(0, shown.height() - 8, shown.width(), 8) !=
+                plain.copy(0, 0, shown.width(), 8)); // the frame is there
+    }
+}
+
+DRAVOLIN_TEST(TestWindowPlace)
+#include "tst_windowplace.moc"
