@@ -1,12 +1,11 @@
 """What a row of the bench says, and how it is tried."""
-import pathlib
 import tempfile
 import traceback
 from dataclasses import dataclass
 from typing import Callable
 
 from outside import reader
-from outside.waiting import Failure, wait_until
+from outside.waiting import Failure
 from scene import Scene, Seen
 from study import losses
 
@@ -132,7 +131,3 @@ def run_again(fault, scene, seen):
         seen.following = f"{status}; not changed: {unchanged}"
         seen.wrong.append("the next run is not as ever: " + seen.following)
     close(scene, seen)
-
-
-def wait_for_end_of(process_id):
-    wait_until(lambda: not pathlib.Path(f"/proc/{process_id}").exists(), f"the end of {process_id}")
