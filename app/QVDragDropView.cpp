@@ -190,6 +190,8 @@ void QVDragDropView::paintFrame(QPainter &painter) const
     QPixmap frame;
     if (!QPixmapCache::find(key, &frame)) {
         frame = QPixmap(area.size() * devicePixelRatioF());
+        if (frame.isNull())
+            return; // no memory now; the next time there may be some
         frame.setDevicePixelRatio(devicePixelRatioF());
         frame.fill(Qt::transparent);
         QPainter framePainter(&frame);
