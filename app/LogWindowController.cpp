@@ -23,7 +23,7 @@ namespace {
 constexpr qint64 turn = 10;               // milliseconds for which the event loop is held up
 constexpr qsizetype sliceLength = 16384;  // so many characters cost far less than a turn
 constexpr qsizetype giantLine = 16384;    // characters
-constexpr qsizetype longestBlock = 65536; // characters
+constexpr qsizetype longestBlock = 40960; // characters
 
 bool hasGiantLine(QStringView text)
 {
