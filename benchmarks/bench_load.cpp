@@ -114,7 +114,7 @@ public:
         if (!writeText(tool, script) || !makeExecutable(tool))
             qFatal("the tool could not be made");
         const QByteArray what = QByteArray::number(megabytes) + " MB of errors in the log";
-        drop(app, what.constData(), {app.makeFolder(QStringLiteral("folder"), 1)}, 2000);
+        drop(app, what.constData(), {app.makeFolder(QStringLiteral("folder"), 1)}, 600);
     }
 
 private:
