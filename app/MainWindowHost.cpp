@@ -6,12 +6,12 @@
 #include "app/ResultTexts.h"
 #include "app/RootValidity.h"
 #include "app/RunDialogs.h"
+#include "app/WindowGrowth.h"
 #include "base/Texts.h"
 #include "config/DirectoryLocations.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
-#include <QPropertyAnimation>
 #include <QScopedValueRollback>
 #include <QThread>
 #include <QTimer>
@@ -140,7 +140,7 @@ void MainWindowHost::runBegins(const RunBeginning &beginning, std::function<void
     showBusy(true);
     for (const WindowStep &step : beginSteps(beginning)) {
         if (step.kind == WindowStep::Kind::Grow)
-            grow(start);
+            growWindow(m_parts.window, m_parts.delays.windowGrowth, start);
         else
             performNow(step);
     }
@@ -237,7 +237,8 @@ void MainWindowHost::perform(const WindowSteps &steps, const std::function<void(
     const auto isPause = [](const WindowStep &step) { return step.kind == Kind::Pause; };
     for (auto next = steps.begin(); next != steps.end();) {
         if (isPause(*next)) {
-            QThread::msleep(static_cast<unsigned long>(m_parts.delays.beforeSummary));
+            if (!m_parts.gate.onMainThread()) // a run that got no thread ends here, and the window goes on
+                QThread::msleep(static_cast<unsigned long>(m_parts.delays.beforeSummary));
             ++next;
             continue;
         }
@@ -285,21 +286,6 @@ QWidget *MainWindowHost::control(WindowStep::Kind kind) const
     case WindowStep::Kind::OnlyGenerateSOP: return c.onlyGenerateSOPCheckbox;
     default: Q_UNREACHABLE();
     }
-}
-
-void MainWindowHost::grow(std::function<void()> then)
-{
-    const QRect start = m_parts.window.geometry();
-    auto *growth = new QPropertyAnimation(&m_parts.window, "geometry", &m_parts.window);
-    growth->setDuration(m_parts.delays.windowGrowth);
-    growth->setEasingCurve(QEasingCurve::InQuad);
-    growth->setStartValue(start);
-    growth->setEndValue(QRect(start.x(), start.y(), start.width(), runningHeight));
-    QObject::connect(growth, &QPropertyAnimation::finished, &m_parts.window, [this, then = std::move(then)] {
-        if (m_parts.window.isVisible())
-            then();
-    });
-    growth->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 } // namespace dravolin

@@ -64,7 +64,6 @@ private:
     void perform(const WindowSteps &steps, const std::function<void()> &behindStatus);
     void performNow(const WindowStep &step);
     [[nodiscard]] QWidget *control(WindowStep::Kind kind) const;
-    void grow(std::function<void()> then);
     void giveFocusBack();
     void showBusy(bool busy);
     void clearResult();

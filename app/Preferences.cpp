@@ -48,6 +48,14 @@ QSettings settings()
     return QSettings(executableName(), executableName());
 }
 
+bool store(const QString &root)
+{
+    QSettings stored = settings();
+    stored.setValue(uidRootKey, root);
+    stored.sync();
+    return stored.status() != QSettings::AccessError; // what was there may have been damaged
+}
+
 } // namespace
 
 QString storedUidRoot()
@@ -57,13 +65,8 @@ QString storedUidRoot()
 
 void storeUidRoot(const QString &root)
 {
-    if (!areReadable() || areLocked()) {
+    if (!areReadable() || areLocked() || !store(root))
         logMessage(QStringLiteral("Could not store the UID root in file: %1").arg(programsFile()));
-        return;
-    }
-    QSettings stored = settings();
-    stored.setValue(uidRootKey, root);
-    stored.sync();
 }
 
 } // namespace dravolin

@@ -9,8 +9,8 @@ namespace dravolin {
 // be waited for without an end).
 [[nodiscard]] QString storedUidRoot();
 
-// Stores it. What was stored before stays, with a message in the system log, when the file is no file or when
-// another program holds its lock.
+// Stores it. What was stored before stays, with a message in the system log, when the file is no file, when
+// it cannot be written, or when another program holds its lock.
 void storeUidRoot(const QString &root);
 
 } // namespace dravolin

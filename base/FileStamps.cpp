@@ -31,8 +31,7 @@ std::optional<FileStamp> stampAt(int folder, const char *name)
     return FileStamp{.device = attributes.st_dev,
                      .number = attributes.st_ino,
                      .size = attributes.st_size,
-                     .written = nanoseconds(attributes.st_mtim),
-                     .changed = nanoseconds(attributes.st_ctim)};
+                     .written = nanoseconds(attributes.st_mtim)};
 }
 
 } // namespace
@@ -73,10 +72,11 @@ FolderStamps::Changes FolderStamps::changes() const
     Changes changes;
     const Folder opened = open(m_folder);
     for (const Entry &entry : m_entries) {
-        if (opened && stampAt(::dirfd(opened.get()), entry.name.constData()) == entry.stamp)
-            changes.unchanged.append(fromBytes(entry.name));
-        else
+        const auto now = opened ? stampAt(::dirfd(opened.get()), entry.name.constData()) : std::nullopt;
+        if (now && now != entry.stamp)
             ++changes.changed;
+        else
+            changes.unchanged.append(fromBytes(entry.name));
     }
     return changes;
 }

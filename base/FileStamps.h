@@ -11,14 +11,14 @@
 // be looked at is not there.
 namespace dravolin {
 
-// Differs when a file was written, replaced or renamed in between.
+// Differs when a file was written or replaced in between, and not when it was called something else for a
+// while: the tools do so, and give back the name of a file that they could not write.
 struct FileStamp
 {
     quint64 device = 0;
     quint64 number = 0; // of the file in its file system
     qint64 size = 0;    // bytes
     qint64 written = 0; // nanoseconds
-    qint64 changed = 0; // nanoseconds; no program can set it
 
     bool operator==(const FileStamp &) const = default;
 };
@@ -32,8 +32,8 @@ class FolderStamps
 public:
     struct Changes
     {
-        quint64 changed = 0;   // written anew, replaced, or gone
-        QStringList unchanged; // names
+        quint64 changed = 0;   // written anew or replaced by a file that can be looked at
+        QStringList unchanged; // names of all others, so that nobody takes what is lost for changed
     };
 
     // The files that "*" names to a shell. Hidden ones are left out.

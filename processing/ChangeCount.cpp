@@ -21,7 +21,8 @@ void countFolder(const RunContext &context, const QString &folder, const FolderS
 
 void countFile(const RunContext &context, const QString &path, const std::optional<FileStamp> &before)
 {
-    if (fileStamp(path) == before)
+    const std::optional<FileStamp> now = fileStamp(path);
+    if (!now || now == before)
         return;
     context.state.update([&path](RunState &state) {
         if (!state.unchangedFiles.remove(path))

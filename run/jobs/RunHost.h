@@ -105,7 +105,7 @@ public:
     // ready, never when the user has left before.
     virtual void runBegins(const RunBeginning &beginning, std::function<void()> start) = 0;
     virtual void progress(const Progress &progress) = 0;
-    // Not on the main thread: it may wait for a moment.
+    // It may wait for a moment, but not on the main thread.
     virtual void runEnds(const RunJudgement &judgement) = 0;
 
     // The look-up tables that can be selected from now on; none is selected.

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void aPipeInItsPlaceIsNotWaitedFor_data();
     void aPipeInItsPlaceIsNotWaitedFor();
     void aLockOfAnotherIsNotWaitedFor();
+    void whatCannotBeStoredIsLogged();
+    void damagedSettingsAreReplaced();
 
 private:
     [[nodiscard]] QString failure() const
@@ -86,6 +88,27 @@ void TestPreferences::aLockOfAnotherIsNotWaitedFor()
     lock.unlock();
     storeUidRoot(QStringLiteral("1.2.4"));
     QCOMPARE(storedUidRoot(), QStringLiteral("1.2.4"));
+}
+
+void TestPreferences::whatCannotBeStoredIsLogged()
+{
+    const QString folder = m_scratch.path(QStringLiteral("xdg_config_home/Dravolin"));
+    QVERIFY(QDir(folder).removeRecursively());
+    m_scratch.file(QStringLiteral("xdg_config_home/Dravolin"));
+    const LogCatcher log;
+    storeUidRoot(QStringLiteral("1.2.3"));
+    QCOMPARE(LogCatcher::messages(), QStringList(failure()));
+    QCOMPARE(entryKind(folder), EntryKind::File);
+}
+
+void TestPreferences::damagedSettingsAreReplaced()
+{
+    m_scratch.file(QStringLiteral("xdg_config_home/Dravolin/Dravolin.conf"), "[General\nuidRoot\xff");
+    const LogCatcher log;
+    QCOMPARE(storedUidRoot(), QString());
+    storeUidRoot(QStringLiteral("1.2.3"));
+    QCOMPARE(storedUidRoot(), QStringLiteral("1.2.3"));
+    QCOMPARE(LogCatcher::messages(), QStringList());
 }
 
 DRAVOLIN_TEST(TestPreferences)

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void anUntouchedFolderHasNoChanges();
     void tellsWhatBecameOfAFile_data();
     void tellsWhatBecameOfAFile();
+    void aFolderThatCannotBeLookedAtHasNoChanges();
     void leavesHiddenFilesAndFoldersOut();
     void namesWithoutAFileAreLeftOut();
     void newFilesAreNoChanges();
@@ -49,13 +50,17 @@ void TestFileStamps::anUntouchedFolderHasNoChanges()
 void TestFileStamps::tellsWhatBecameOfAFile_data()
 {
     QTest::addColumn<QString>("what");
-    for (const char *what : {"longer", "replaced", "gone", "a folder now"})
-        QTest::newRow(what) << QString::fromLatin1(what);
+    QTest::addColumn<bool>("changed");
+    for (const char *what : {"longer", "replaced"})
+        QTest::newRow(what) << QString::fromLatin1(what) << true;
+    for (const char *what : {"called something else for a while", "gone", "a folder now"})
+        QTest::newRow(what) << QString::fromLatin1(what) << false;
 }
 
 void TestFileStamps::tellsWhatBecameOfAFile()
 {
     QFETCH(QString, what);
+    QFETCH(bool, changed);
     const FolderStamps before(m_folder->path());
     const QString path = m_folder->path(QStringLiteral("a"));
     if (what == QStringLiteral("longer")) {
@@ -63,14 +68,31 @@ void TestFileStamps::tellsWhatBecameOfAFile()
     } else if (what == QStringLiteral("replaced")) { // by one of the same size
         m_folder->file(QStringLiteral("new"), "ONE");
         std::filesystem::rename(m_folder->path(QStringLiteral("new")).toStdString(), path.toStdString());
+    } else if (what == QStringLiteral("called something else for a while")) {
+        std::filesystem::rename(path.toStdString(), path.toStdString() + ".bak");
+        m_folder->file(QStringLiteral("a"), "half");
+        std::filesystem::rename(path.toStdString() + ".bak", path.toStdString());
     } else {
         removeFile(path);
         if (what != QStringLiteral("gone"))
             m_folder->folder(QStringLiteral("a"));
     }
+    FolderStamps::Changes changes = before.changes();
+    changes.unchanged.sort();
+    QCOMPARE(changes.changed, changed ? 1U : 0U);
+    QCOMPARE(changes.unchanged, (changed ? QStringList() : QStringList{QStringLiteral("a")}) +
+                                    QStringList{QStringLiteral("b\u00FC")});
+}
+
+void TestFileStamps::aFolderThatCannotBeLookedAtHasNoChanges()
+{
+    const FolderStamps before(m_folder->path());
+    const std::string path = m_folder->path().toStdString();
+    std::filesystem::rename(path, path + ".elsewhere");
     const FolderStamps::Changes changes = before.changes();
-    QCOMPARE(changes.changed, 1U);
-    QCOMPARE(changes.unchanged, QStringList{QStringLiteral("b\u00FC")});
+    std::filesystem::rename(path + ".elsewhere", path);
+    QCOMPARE(changes.changed, 0U);
+    QCOMPARE(changes.unchanged.size(), 2);
 }
 
 void TestFileStamps::leavesHiddenFilesAndFoldersOut()

@@ -1,8 +1,8 @@
 #include "support/TestEntry.h"
 
 #ifdef QT_WIDGETS_LIB
-#include <QApplication>
-using Application = QApplication;
+#include "app/Application.h"
+using dravolin::Application;
 #else
 #include <QCoreApplication>
 using Application = QCoreApplication;
