@@ -5,6 +5,7 @@
 # busy machine spoils the ratios.
 set -u
 cd "$(dirname "$0")/.."
+scripts/install-packages.sh build test desktop bench || exit 1
 cmake --preset bench >/dev/null && cmake --build --preset bench >/dev/null || exit 1
 bin=build/bench/bin
 memory=${TMPDIR:-/tmp}
@@ -27,7 +28,8 @@ run bench_log
 run bench_analysis
 run bench_growth
 scripts/growth.py "$bin/bench_growth" || result=1
-run bench_load ${1:-}
+run bench_load
+[ -z "${1:-}" ] || run bench_load large
 run bench_lut
 run bench_configuration
 run bench_run small tree medium large table

@@ -8,6 +8,7 @@
 #   screen   a screen without a monitor, and what drives a program on it
 #   desktop  the same, and other programs to work with there
 #   test     what the tests need beside these
+#   bench    what scripts/bench.sh needs beside what building and testing need
 #   fuzz     what scripts/fuzz.sh needs beside what building needs
 #   coverage what scripts/coverage.sh needs beside what building and testing need
 #   package  what makes and checks the Debian package
@@ -25,11 +26,12 @@ packages_of() {
         desktop) packages_of screen && echo pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
         test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy cppcheck \
             qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland python3-xlib strace ;;
+        bench) echo valgrind ;;
         fuzz) echo clang libclang-rt-dev python3 ;;
         coverage) echo gcovr ;;
         package) echo dpkg-dev file gzip lintian appstream desktop-file-utils python3 ;;
         bare) echo mmdebstrap ;;
-        *) echo "install-packages.sh: no group '$1' (build, run, screen, desktop, test, fuzz, coverage, package, bare)" >&2; exit 2 ;;
+        *) echo "install-packages.sh: no group '$1' (build, run, screen, desktop, test, bench, fuzz, coverage, package, bare)" >&2; exit 2 ;;
     esac
 }
 
