@@ -16,6 +16,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace dravolin {
 
 MainWindowHost::MainWindowHost(Parts parts) : m_parts(std::move(parts))
@@ -160,14 +162,19 @@ void MainWindowHost::giveFocusBack()
 
 void MainWindowHost::progress(const Progress &progress)
 {
-    perform(progressSteps(progress), [] {});
+    perform(progressSteps(progress));
 }
 
 void MainWindowHost::runEnds(const RunJudgement &judgement)
 {
     bool tablesExist = false;
     onMain([&] { tablesExist = m_tablesExist; });
-    perform(endSteps(judgement, tablesExist), [&] { showResult(judgement); });
+    const WindowSteps steps = endSteps(judgement, tablesExist);
+    const auto isStatus = [](const WindowStep &step) { return step.kind == WindowStep::Kind::Status; };
+    const auto behindStatus = std::find_if(steps.begin(), steps.end(), isStatus) - steps.begin() + 1;
+    perform(steps.first(behindStatus));
+    onMain([&] { showResult(judgement); });
+    perform(steps.sliced(behindStatus));
     onMain([&] {
         giveFocusBack();
         tellResult(judgement);
@@ -231,10 +238,9 @@ void MainWindowHost::tablesFound(const TitleToPath &tables)
     });
 }
 
-void MainWindowHost::perform(const WindowSteps &steps, const std::function<void()> &behindStatus)
+void MainWindowHost::perform(const WindowSteps &steps)
 {
-    using Kind = WindowStep::Kind;
-    const auto isPause = [](const WindowStep &step) { return step.kind == Kind::Pause; };
+    const auto isPause = [](const WindowStep &step) { return step.kind == WindowStep::Kind::Pause; };
     for (auto next = steps.begin(); next != steps.end();) {
         if (isPause(*next)) {
             if (!m_parts.gate.onMainThread()) // a run that got no thread ends here, and the window goes on
@@ -245,12 +251,8 @@ void MainWindowHost::perform(const WindowSteps &steps, const std::function<void(
         const auto pause = std::find_if(next, steps.end(), isPause);
         // one hand-over; when memory fails a step, another goes on with the step behind it
         onMain([&] {
-            while (next != pause) {
-                const WindowStep &step = *next++;
-                performNow(step);
-                if (step.kind == Kind::Status)
-                    behindStatus();
-            }
+            while (next != pause)
+                performNow(*next++);
         });
     }
 }

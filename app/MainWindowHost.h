@@ -61,7 +61,7 @@ private:
     void followChoices();
     void readChoices();
     void onMain(const std::function<void()> &work);
-    void perform(const WindowSteps &steps, const std::function<void()> &behindStatus);
+    void perform(const WindowSteps &steps);
     void performNow(const WindowStep &step);
     [[nodiscard]] QWidget *control(WindowStep::Kind kind) const;
     void giveFocusBack();

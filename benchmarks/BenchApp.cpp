@@ -213,4 +213,10 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
     return std::make_unique<QApplication>(argc, argv);
 }
 
+bool isWanted(const char *part)
+{
+    const QStringList arguments = QCoreApplication::arguments();
+    return arguments.size() == 1 || arguments.contains(QString::fromUtf8(part));
+}
+
 } // namespace dravolin::bench

@@ -76,4 +76,7 @@ private:
 // Sets HOME and the platform, then makes the application object.
 [[nodiscard]] std::unique_ptr<QApplication> makeApplication(int &argc, char **argv);
 
+// Whether that part of a benchmark was named on the command line, or none was.
+[[nodiscard]] bool isWanted(const char *part);
+
 } // namespace dravolin::bench

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 // Figures of a benchmark, one line each.
@@ -12,6 +13,14 @@ namespace dravolin::bench {
     std::sort(values.begin(), values.end());
     const size_t middle = values.size() / 2;
     return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+// Of the calling thread alone, so that a busy machine does not show.
+[[nodiscard]] inline double threadProcessorSeconds()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
 // Prints figures beside their limits and remembers whether one was above.

@@ -2,7 +2,6 @@
 #include "Figures.h"
 #include "run/OutputAnalysis.h"
 
-#include <ctime>
 #include <functional>
 
 namespace {
@@ -32,21 +31,13 @@ QString folderLine(int i)
     return QStringLiteral("E: unable to load file Series_%1: No such file or directory\n").arg(i % 1000);
 }
 
-// Of this thread's own processor time, so that a busy machine does not show.
-double now()
-{
-    timespec time = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
 double secondsFor(const RunReport &report)
 {
     std::vector<double> times;
     for (int round = 0; round < 9; ++round) {
-        const double start = now();
+        const double start = bench::threadProcessorSeconds();
         const RunJudgement judgement = judgeOutput(report);
-        times.push_back(now() - start);
+        times.push_back(bench::threadProcessorSeconds() - start);
         if (judgement.summary.isEmpty())
             std::abort();
     }

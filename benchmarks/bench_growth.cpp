@@ -14,7 +14,6 @@
 #include "run/OutputAnalysis.h"
 
 #include <cstdlib>
-#include <ctime>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -24,14 +23,6 @@ using namespace dravolin;
 namespace {
 
 constexpr int rounds = 5;
-
-// Processor time of this thread.
-double now()
-{
-    timespec time = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
 
 // Gives a work over `size` lines, whose making is not measured.
 using MakeWork = std::function<std::function<bool()>(int size)>;
@@ -137,10 +128,10 @@ void printTimes()
         std::vector<double> times;
         for (int round = 0; round < rounds; ++round) {
             const std::function<bool()> work = parser.make(parser.size * 10);
-            const double start = now();
+            const double start = bench::threadProcessorSeconds();
             if (!work())
                 std::abort();
-            times.push_back((now() - start) * 1000);
+            times.push_back((bench::threadProcessorSeconds() - start) * 1000);
         }
         const QByteArray what =
             QByteArray(parser.name) + ", " + QByteArray::number(parser.size * 10) + " lines";

@@ -126,10 +126,6 @@ private:
 int main(int argc, char *argv[])
 {
     const auto application = makeApplication(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    const auto isWanted = [&arguments](const char *what) {
-        return arguments.size() == 1 || arguments.contains(QString::fromUtf8(what));
-    };
     Figures figures;
     Load load(figures);
     if (isWanted("folder"))
@@ -148,7 +144,7 @@ int main(int argc, char *argv[])
     }
     if (isWanted("tree"))
         load.tree(10'000);
-    if (arguments.contains(QStringLiteral("large")))
+    if (QCoreApplication::arguments().contains(QStringLiteral("large")))
         load.tree(100'000);
     return figures.exitCode();
 }

@@ -88,10 +88,6 @@ void measureStub(Figures &figures, int folders, int rounds)
 int main(int argc, char *argv[])
 {
     const auto application = makeApplication(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    const auto isWanted = [&arguments](const char *what) {
-        return arguments.size() == 1 || arguments.contains(QString::fromUtf8(what));
-    };
     Figures figures;
     if (isWanted("folder"))
         measureFolder(figures, 15);
@@ -103,7 +99,7 @@ int main(int argc, char *argv[])
         measureStub(figures, 1000, 7);
         measureStub(figures, 10'000, 1);
     }
-    if (arguments.contains(QStringLiteral("large")))
+    if (QCoreApplication::arguments().contains(QStringLiteral("large")))
         measureStub(figures, 100'000, 1);
     return figures.exitCode();
 }
