@@ -17,12 +17,12 @@ void MainWindow::scrollWhereScreenIsSmall()
     if (m_scrolls || fits(size()) || fits(minimumSizeHint()))
         return;
     m_scrolls = true;
-    auto *const content = new QWidget;
-    content->setLayout(layout());
-    auto *const area = new QScrollArea;
+    auto *const area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
-    area->setWidget(content);
+    area->setWidget(new QWidget);
+    area->widget()->setLayout(layout()); // controls that never leave the window keep their order
     auto *const around = new QVBoxLayout(this);
     around->setContentsMargins({});
     around->addWidget(area);

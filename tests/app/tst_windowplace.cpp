@@ -1,9 +1,11 @@
+#include "app/MainWindow.h"
 #include "app/ScreenEdge.h"
 #include "app/TestApp.h"
 #include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTest>
@@ -101,6 +103,11 @@ void TestWindowPlace::whatTheScreenHasNoRoomForCanBeScrolled()
     auto *const last = new QLabel(QStringLiteral("Status"));
     layout->addWidget(first);
     layout->addWidget(last);
+    const QList<QLineEdit *> fields = {new QLineEdit, new QLineEdit, new QLineEdit};
+    for (QLineEdit *field : fields)
+        layout->addWidget(field);
+    QWidget::setTabOrder(fields.at(2), fields.at(0));
+    QWidget::setTabOrder(fields.at(0), fields.at(1));
     window.resize(300, 1200);
     window.scrollWhereScreenIsSmall();
     centerOnScreen(window);
@@ -117,6 +124,9 @@ void TestWindowPlace::whatTheScreenHasNoRoomForCanBeScrolled()
     QTRY_VERIFY(isInSight());
     QCOMPARE(window.height(), 1500);
     QCOMPARE(heightBelowScreen(*last), 0);
+    QCOMPARE(fields.at(2)->nextInFocusChain(), fields.at(0));
+    QCOMPARE(fields.at(0)->nextInFocusChain(), fields.at(1));
+    QCOMPARE(window.findChild<QScrollArea *>()->focusPolicy(), Qt::NoFocus);
 }
 
 void TestWindowPlace::whatFitsIsNotScrolled()
