@@ -36,7 +36,7 @@ QString wayThroughHandle(const QString &folder)
 // As QSettings knows it, which loses bytes that are not UTF-8.
 QString folderOfQt()
 {
-    const QString folder = settingsFolder();
+    QString folder = settingsFolder();
     if (systemPath(folder).isValidUtf8())
         return folder;
     static const QString way = wayThroughHandle(folder);
