@@ -62,8 +62,7 @@ QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &opti
         add(rule.key() + u'\t' + rule.value());
     for (const QString &line : options.rules->allTagsToAnonymize + options.identifiers + options.setValues)
         add(line);
-    for (const PlannedFile &file : planned.files)
-        add(file.path + QStringLiteral("\t%1\t%2").arg(file.size).arg(file.modified));
+    hash.addData(planned.listing);
     journal.forEachResult(planned.row.caseId, [&add](const FileRecord &record) {
         add(record.path + u'\t' + record.result + u'\t' + QString::fromLatin1(record.hashAfter));
     });
