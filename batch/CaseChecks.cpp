@@ -41,9 +41,9 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
     options.setValues = setValues(planned, batch);
-    journal.forEachResult(planned.row.caseId, [&options](const FileRecord &record) {
-        options.renamed.insert(record.path, record.result);
-    });
+    options.renamed = [&journal, caseId = planned.row.caseId](const check::RenamedVisit &visit) {
+        journal.forEachResult(caseId, [&](const FileRecord &record) { visit(record.path, record.result); });
+    };
     options.rules = planned.configuration;
     options.uids = batch.mapUids;
     options.workers = batch.workers;

@@ -5,7 +5,7 @@
 #include "base/Texts.h"
 #include "batch/CaseDirectory.h"
 #include "batch/CaseRules.h"
-#include "dicom/MediaDirectory.h"
+#include "batch/StaleResults.h"
 
 #include <QMutexLocker>
 
@@ -27,11 +27,9 @@ QString temporaryName(qsizetype number)
     return QStringLiteral(".dravolin-%1.part").arg(number);
 }
 
-void removeTemporaries(const QString &folder)
+bool isTemporaryName(const QString &name)
 {
-    for (const QString &name : listNames(folder))
-        if (name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part")))
-            removeFile(joinPath(folder, name));
+    return name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part"));
 }
 
 } // namespace
@@ -74,52 +72,18 @@ void CaseWork::beginCase(size_t index)
         fail(Texts::tr("the journal cannot be written"));
     if (!createFolder(planned.row.destination, &error))
         fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
-    removeTemporaries(planned.row.destination);
+    for (const QString &name : listNames(planned.row.destination))
+        if (isTemporaryName(name))
+            removeFile(joinPath(planned.row.destination, name));
     m_progress.allFiles += planned.files;
 }
 
-// What became of files that are no longer in the source, or that now have another name. Few files are, so
-// these may be kept.
 void CaseWork::removeStale(const PlannedCase &planned)
 {
-    KnownFiles known(m_journal, planned.row.caseId);
-    QSet<QString> results; // that may not be wanted any more
-    QStringList gone;
-    const auto passUpTo = [&](const QString &path) {
-        for (; known.current() && (path.isEmpty() || comesBefore(known.current()->path, path));
-             known.pass()) {
-            results.insert(known.current()->result);
-            gone.append(known.current()->path);
-        }
-    };
-    const auto forEachName = [&](const auto &visit) {
-        ResultNames names(m_key, planned.directory.has_value());
-        qint64 place = planned.firstFile;
-        for (qsizetype i = 0; i < planned.files; ++i) {
-            const PlannedFile file = m_files.read(&place);
-            if (file.problem.isEmpty())
-                visit(file, file.isDirectory ? QString::fromLatin1(mediaDirectoryName) : names.next(file));
-        }
-    };
-    if (!known.current())
-        return;
-    forEachName([&](const PlannedFile &file, const QString &result) {
-        passUpTo(file.path);
-        if (const FileRecord record = known.find(file.path); record.path == file.path) {
-            if (record.result != result)
-                results.insert(record.result);
-            known.pass();
-        }
-    });
-    passUpTo(QString());
-    if (!m_files.isGood())
-        return;
-    results.remove(QString());
-    if (!results.isEmpty())
-        forEachName([&](const PlannedFile &, const QString &result) { results.remove(result); });
-    for (const QString &result : std::as_const(results))
+    const StaleResults stale = staleResults(planned, m_files, m_key, m_journal);
+    for (const QString &result : stale.results)
         removeFile(joinPath(planned.row.destination, result));
-    for (const QString &path : std::as_const(gone))
+    for (const QString &path : stale.gone)
         if (!m_journal.remove(planned.row.caseId, path))
             fail(Texts::tr("the journal cannot be written"));
 }

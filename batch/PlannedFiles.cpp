@@ -38,7 +38,8 @@ PlannedFile PlannedFiles::read(qint64 *place)
 
 bool PlannedFiles::isGood()
 {
-    return m_file.isOpen() && m_file.flush() && m_stream.status() == QDataStream::Ok;
+    m_good = m_good && m_file.isOpen() && m_file.flush() && m_stream.status() == QDataStream::Ok;
+    return m_good;
 }
 
 } // namespace dravolin

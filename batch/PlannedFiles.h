@@ -1,7 +1,5 @@
 #pragma once
 
-#include "dicom/SourceFile.h"
-
 #include <QByteArray>
 #include <QDataStream>
 #include <QFile>
@@ -19,6 +17,8 @@ struct PlannedFile
     QByteArray series;
     bool isDirectory = false; // a DICOMDIR, whatever its name
     QString problem;          // why it will not be done
+
+    bool operator==(const PlannedFile &) const = default;
 };
 
 // The files of all cases of a run, case by case, each in the order of the bytes of their paths. They lie in a
@@ -42,6 +42,7 @@ private:
     QFile m_file;
     QDataStream m_stream;
     qint64 m_end = 0;
+    bool m_good = true;
 };
 
 } // namespace dravolin
