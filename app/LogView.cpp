@@ -1,6 +1,9 @@
 #include "app/LogView.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QMimeData>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -10,7 +13,8 @@ namespace dravolin {
 
 namespace {
 
-constexpr int goesOn = 1; // the state of a block whose line goes on in the next
+// The state of a block: how many lines it has, -1 where nobody has said.
+constexpr int goesOn = 0; // one, which goes on in the next block
 
 } // namespace
 
@@ -18,6 +22,45 @@ void goOnInNewBlock(QTextCursor &end)
 {
     end.block().setUserState(goesOn);
     end.insertBlock();
+}
+
+void insertAsOneBlock(QTextCursor &end, QString lines)
+{
+    const bool isWhole = lines.endsWith(u'\n');
+    QTextBlock block = end.block();
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")); // one line end in a document
+    block.setUserState(static_cast<int>(lines.count(u'\n')) + (isWhole ? 0 : 1));
+    lines.replace(u'\n', QChar(QChar::LineSeparator));
+    if (isWhole)
+        lines.back() = u'\n';
+    end.insertText(lines);
+}
+
+void countLines(QTextBlock first)
+{
+    for (QTextBlock block = first; block.isValid(); block = block.next())
+        if (block.userState() > 1 && block.layout()->lineCount() == 0)
+            block.setLineCount(block.userState());
+    auto *const layout = first.document()->documentLayout();
+    Q_EMIT layout->documentSizeChanged(layout->documentSize());
+}
+
+void LogView::resizeEvent(QResizeEvent *event)
+{
+    const int top = cursorForPosition(QPoint(0, fontMetrics().height() / 2)).position();
+    QPlainTextEdit::resizeEvent(event);
+    if (event->size().width() == event->oldSize().width())
+        return;
+    countLines(document()->begin());
+    scrollTo(top);
+}
+
+void LogView::scrollTo(int position)
+{
+    const QTextBlock block = document()->findBlock(position);
+    document()->documentLayout()->blockBoundingRect(block); // lays it out
+    const int line = block.layout()->lineForTextPosition(position - block.position()).lineNumber();
+    verticalScrollBar()->setValue(block.firstLineNumber() + line);
 }
 
 QMimeData *LogView::createMimeDataFromSelection() const
@@ -28,7 +71,8 @@ QMimeData *LogView::createMimeDataFromSelection() const
     for (QTextBlock block = document()->findBlock(start); block.isValid() && block.position() <= end;
          block = block.next()) {
         const int from = std::max(start - block.position(), 0);
-        text += QStringView(block.text()).mid(from, end - block.position() - from);
+        text +=
+            block.text().mid(from, end - block.position() - from).replace(QChar(QChar::LineSeparator), u'\n');
         if (block.userState() != goesOn && block.position() + block.length() <= end)
             text += u'\n';
     }

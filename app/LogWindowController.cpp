@@ -1,6 +1,7 @@
 #include "app/LogWindowController.h"
 
 #include "app/AlertSheetRunner.h"
+#include "app/LogSearch.h"
 #include "app/LogView.h"
 #include "base/Files.h"
 #include "base/Texts.h"
@@ -12,6 +13,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include <algorithm>
@@ -20,10 +22,20 @@ namespace dravolin {
 
 namespace {
 
-constexpr qint64 turn = 10;               // milliseconds for which the event loop is held up
+constexpr qint64 turn = 5;                // milliseconds for which the event loop is held up
 constexpr qsizetype sliceLength = 16384;  // so many characters cost far less than a turn
 constexpr qsizetype giantLine = 16384;    // characters
 constexpr qsizetype longestBlock = 40960; // characters
+
+// With so many characters each block counts, and none may take long to lay out.
+constexpr qsizetype longText = 1'000'000;
+constexpr qsizetype lengthOfLong = 4096;
+constexpr qsizetype longestOfLong = 16384;
+
+bool isLong(QStringView text)
+{
+    return text.size() > longText;
+}
 
 bool hasGiantLine(QStringView text)
 {
@@ -58,23 +70,22 @@ void LogWindowController::connectTools(const Ui::LogWindow &layout)
     QLineEdit *const field = layout.findField;
     QObject::connect(new QShortcut(QKeySequence::Find, window), &QShortcut::activated, field,
                      [field] { field->setFocus(); });
-    QObject::connect(field, &QLineEdit::returnPressed, window, [this, field, result = layout.findResult] {
-        result->setText(findNext(field->text()) ? QString() : Texts::tr("Not found"));
-    });
+    connectSearch(*field, *layout.findResult);
     QObject::connect(layout.copyButton, &QPushButton::clicked, window,
                      [this] { QGuiApplication::clipboard()->setText(m_text); });
     QObject::connect(layout.saveButton, &QPushButton::clicked, window, [this] { save(); });
 }
 
-bool LogWindowController::findNext(const QString &text)
+void LogWindowController::connectSearch(QLineEdit &field, QLabel &result)
 {
-    if (m_logTextView->find(text))
-        return true;
-    const QTextCursor first = m_logTextView->document()->find(text);
-    if (first.isNull())
-        return false;
-    m_logTextView->setTextCursor(first);
-    return true;
+    m_search = std::make_unique<LogSearch>(*m_logTextView, [this] { return m_shown == m_text.size(); });
+    QObject::connect(&field, &QLineEdit::textChanged, m_window.get(), [this] { m_search->stop(); });
+    QObject::connect(&field, &QLineEdit::returnPressed, m_window.get(), [this, &field, &result] {
+        result.clear();
+        m_search->start(field.text(), [&result](bool found) {
+            result.setText(found ? QString() : Texts::tr("Not found"));
+        });
+    });
 }
 
 void LogWindowController::save()
@@ -98,6 +109,7 @@ void LogWindowController::showWithText(const QString &text)
 {
     centerOnScreen(*m_window);
     m_window->show();
+    m_search->stop();
     m_logTextView->clear();
     // looking for words in a line without blanks takes the view more than ten times as long
     m_logTextView->setWordWrapMode(hasGiantLine(text) ? QTextOption::WrapAnywhere
@@ -121,13 +133,20 @@ void LogWindowController::appendForOneTurn()
     timer.start();
     QTextCursor end(m_logTextView->document());
     end.movePosition(QTextCursor::End);
+    const QTextBlock first = end.block();
+    end.beginEditBlock(); // the view looks at what is new once a turn
     while (m_shown < m_text.size() && timer.elapsed() < turn) {
         const QString slice = nextSlice();
-        end.insertText(slice);
+        if (isLong(m_text))
+            insertAsOneBlock(end, slice);
+        else
+            end.insertText(slice);
         m_shown += slice.size();
         if (m_shown < m_text.size() && !slice.endsWith(u'\n'))
             goOnInNewBlock(end);
     }
+    end.endEditBlock();
+    countLines(first);
     if (m_shown < m_text.size())
         m_nextTurn.start();
     else
@@ -137,17 +156,18 @@ void LogWindowController::appendForOneTurn()
 QString LogWindowController::nextSlice() const
 {
     const QStringView rest = QStringView(m_text).sliced(m_shown);
-    if (rest.size() <= sliceLength)
+    const qsizetype length = isLong(m_text) ? lengthOfLong : sliceLength;
+    const qsizetype longest = isLong(m_text) ? longestOfLong : longestBlock;
+    if (rest.size() <= length)
         return rest.toString();
-    qsizetype lineEnd = rest.lastIndexOf(u'\n', sliceLength - 1);
+    qsizetype lineEnd = rest.lastIndexOf(u'\n', length - 1);
     if (lineEnd < 0) // one long line: it costs more in pieces
-        lineEnd = rest.first(std::min(rest.size(), longestBlock)).indexOf(u'\n', sliceLength);
+        lineEnd = rest.first(std::min(rest.size(), longest)).indexOf(u'\n', length);
     if (lineEnd >= 0)
         return rest.first(lineEnd + 1).toString();
-    if (rest.size() <= longestBlock)
+    if (rest.size() <= longest)
         return rest.toString();
-    return rest.first(rest.at(longestBlock - 1).isHighSurrogate() ? longestBlock - 1 : longestBlock)
-        .toString();
+    return rest.first(rest.at(longest - 1).isHighSurrogate() ? longest - 1 : longest).toString();
 }
 
 void centerOnScreen(QWidget &window)

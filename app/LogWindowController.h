@@ -10,7 +10,12 @@ namespace Ui {
 class LogWindow;
 }
 
+class QLabel;
+class QLineEdit;
+
 namespace dravolin {
+
+class LogSearch;
 
 // The window that shows a run's error lines and notes. Main thread only; the window goes with its controller.
 class LogWindowController
@@ -35,9 +40,7 @@ public:
 
 private:
     void connectTools(const Ui::LogWindow &layout);
-    // The next place of `text` behind the caret, or the first when there is none; false when there is none at
-    // all.
-    bool findNext(const QString &text);
+    void connectSearch(QLineEdit &field, QLabel &result);
     void save();
     void appendForOneTurn();
     [[nodiscard]] QString nextSlice() const; // whole lines
@@ -47,6 +50,7 @@ private:
     QString m_text;
     qsizetype m_shown = 0; // how much of m_text is in the view
     QTimer m_nextTurn;
+    std::unique_ptr<LogSearch> m_search;
 };
 
 // Moves a window to the middle of its screen; one that does not fit is made smaller, its title bar in sight.

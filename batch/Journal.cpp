@@ -127,7 +127,7 @@ QList<FileRecord> Journal::files(const QString &caseId, const QString &behind, i
         prepared(database(),
                  QStringLiteral("SELECT path, size, modified, result, before, after, problem FROM files "
                                 "WHERE id = ? AND path > ? ORDER BY path LIMIT ?"),
-                 {caseId, toBytes(behind), most});
+                 {caseId, behind.isEmpty() ? QByteArray("") : toBytes(behind), most}); // none is NULL
     while (query.next())
         found.append({fromBytes(query.value(0).toByteArray()), query.value(1).toULongLong(),
                       query.value(2).toLongLong(), query.value(3).toString(),

@@ -4,6 +4,7 @@
 #include "base/NOXUtils.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "check/FileInHand.h"
 #include "check/FileTree.h"
 #include "check/Harvest.h"
 #include "check/InOrder.h"
@@ -171,7 +172,9 @@ private:
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
-                return harvester.harvest(loadFile(joinPath(m_trees.originals.root, files[index])));
+                const QString path = joinPath(m_trees.originals.root, files[index]);
+                const FileInHand inHand(path);
+                return harvester.harvest(loadFile(path));
             };
         };
         inOrder<HarvestedFile>(
@@ -195,8 +198,9 @@ private:
         };
         const auto makeWorker = [&] {
             return [&, searcher = makeSearcher()](qsizetype index) mutable {
-                return searcher.search(loadFile(joinPath(m_trees.results.root, files[index])),
-                                       toldName(index));
+                const QString path = joinPath(m_trees.results.root, files[index]);
+                const FileInHand inHand(path);
+                return searcher.search(loadFile(path), toldName(index));
             };
         };
         inOrder<SearchedFile>(

@@ -1,4 +1,5 @@
 #include "base/PathText.h"
+#include "check/FileInHand.h"
 #include "cli/Commands.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,7 @@ void keepLargeMemory()
 int main(int argc, char *argv[])
 {
     keepLargeMemory();
+    dravolin::check::tellCrashes();
     const QCoreApplication application(argc, argv);
     QStringList arguments; // as bytes: names that are no UTF-8 must arrive
     for (int i = 1; i < argc; ++i)
