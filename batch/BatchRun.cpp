@@ -171,6 +171,11 @@ Plan judgeBefore(const BatchOptions &options)
     QString problem;
     const QString path = joinPath(options.runFolder(), QStringLiteral("journal.sqlite"));
     const std::unique_ptr<Journal> journal = pathExists(path) ? Journal::open(path, &problem) : nullptr;
+    if (!problem.isEmpty()) {
+        Plan plan;
+        plan.problems.append({0, problem});
+        return plan;
+    }
     return judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
 }
 
