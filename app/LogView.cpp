@@ -36,7 +36,7 @@ void insertAsOneBlock(QTextCursor &end, QString lines)
     end.insertText(lines);
 }
 
-void countLines(QTextBlock first)
+void countLines(const QTextBlock &first)
 {
     for (QTextBlock block = first; block.isValid(); block = block.next())
         if (block.userState() > 1 && block.layout()->lineCount() == 0)

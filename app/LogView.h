@@ -33,6 +33,6 @@ void insertAsOneBlock(QTextCursor &end, QString lines);
 
 // Makes the scroll bar count the lines of `first` and all blocks behind it: a block that is not laid out yet
 // is one line to a view, and the scroll bar jumps when it becomes many. For after each change.
-void countLines(QTextBlock first);
+void countLines(const QTextBlock &first);
 
 } // namespace dravolin

@@ -1,6 +1,7 @@
 #include "config/AppPaths.h"
 
 #include "base/Files.h"
+#include "config/HomeBytes.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,20 +11,6 @@
 #include <system_error>
 
 namespace dravolin {
-
-namespace {
-
-// Qt replaces bytes of the home folder that are not UTF-8.
-QString withBytesOfHome(const QString &path)
-{
-    const QByteArray bytes = qgetenv("HOME");
-    const QString home = QDir::homePath();
-    if (bytes.isValidUtf8() || !path.startsWith(home))
-        return path;
-    return QDir::cleanPath(fromBytes(bytes)) + path.sliced(home.size());
-}
-
-} // namespace
 
 QString AppPaths::ownExecutable()
 {

@@ -4,6 +4,7 @@ import pathlib
 import subprocess
 
 from fault import Fault
+from outside import reader
 from outside.waiting import wait_until
 from tools import FLOODING, count_files
 
@@ -61,9 +62,25 @@ def forbid_processes(scene):
     number = scene.window.process.pid
     scene.help_with("strace", "-qq", "-f", "-o", "/dev/null", "-e", "trace=" + FORKS,
                     "-e", f"inject={FORKS}:error=EAGAIN", "-p", number)
-    wait_until(lambda: all("TracerPid:\t0\n" not in (task / "status").read_text(encoding="ascii")
-                           for task in pathlib.Path(f"/proc/{number}/task").iterdir()), "every thread watched")
+    wait_until(lambda: all_watched(number), "every thread watched")
     scene.let_tool_go()
+
+
+def forbid_pipes(scene):
+    """From now on the program's threads cannot make a pipe. Those that Qt makes are of another kind."""
+    number = scene.window.process.pid
+    scene.help_with("strace", "-qq", "-f", "-o", "/dev/null", "-e", "trace=pipe2", "-e", "inject=pipe2:error=EMFILE",
+                    "-p", number)
+    wait_until(lambda: all_watched(number), "every thread watched")
+
+
+def all_watched(number):
+    return all("TracerPid:\t0\n" not in (task / "status").read_text(encoding="ascii")
+               for task in pathlib.Path(f"/proc/{number}/task").iterdir())
+
+
+def answer_out_of_handles(scene):
+    reader.answer(scene.window, "Ran out of file handles!", "OK")
 
 
 def processes_back(scene):
@@ -79,6 +96,8 @@ ROWS = [
           usual=WITH_TABLE),
     Fault("12 file handles are left, and a table is used", ready=leave_handles(12), remove=handles_back,
           table=True, usual=WITH_TABLE),
+    Fault("no pipe can be made for a table's use, and \"Ran out of file handles!\" is answered with OK",
+          ready=forbid_pipes, during=answer_out_of_handles, ends="program", table=True, usual=WITH_TABLE),
     # what else finds no memory is not the same each time
     Fault("no memory is left for a thread", ready=leave_memory(7), remove=memory_back, quick=True, steady=False),
     Fault("no process can be started from the second folder on", pause_at_first_file, during=forbid_processes,
