@@ -18,13 +18,13 @@ using namespace dravolin;
 
 namespace {
 
-QAbstractButton *buttonNamed(const QMessageBox &box, const QString &caption)
+// An ampersand is shown and marks no key.
+QAbstractButton *buttonNamed(const QMessageBox &box, QString caption)
 {
-    for (QAbstractButton *button : box.buttons()) {
-        QString shown = button->text();
-        if (shown.replace(QStringLiteral("&&"), QStringLiteral("&")) == caption)
+    caption.replace(QStringLiteral("&"), QStringLiteral("&&"));
+    for (QAbstractButton *button : box.buttons())
+        if (button->text() == caption)
             return button;
-    }
     return nullptr;
 }
 

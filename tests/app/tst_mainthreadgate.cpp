@@ -24,6 +24,7 @@ private Q_SLOTS:
     void givesValues();
     void closedGateTurnsAway();
     void closingWakesWaiters();
+    void closingLeavesWorkThatHasBegunToItsEnd();
     void manyThreadsInterleave();
     void workWithoutMemoryIsLeft();
 
@@ -95,6 +96,24 @@ void TestMainThreadGate::closingWakesWaiters()
     QVERIFY(!result);
     QCoreApplication::processEvents();
     QVERIFY(!ran);
+}
+
+void TestMainThreadGate::closingLeavesWorkThatHasBegunToItsEnd()
+{
+    MainThreadGate gate;
+    QThread *waiting = nullptr;
+    bool wentOn = true;
+    std::atomic<bool> result = false;
+    const auto thread = started([&] {
+        result = gate.run([&] {
+            gate.close();
+            wentOn = waiting->wait(50); // the work is still at the thread's own variables
+        });
+    });
+    waiting = thread.get();
+    QTRY_VERIFY(thread->isFinished());
+    QVERIFY(!wentOn);
+    QVERIFY(result);
 }
 
 void TestMainThreadGate::workWithoutMemoryIsLeft()

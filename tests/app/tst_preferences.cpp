@@ -3,7 +3,9 @@
 #include "support/ScratchFolder.h"
 #include "support/TestEntry.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QLockFile>
 #include <QTest>
 
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void remembersTheRoot();
     void aPipeInItsPlaceIsNotWaitedFor_data();
     void aPipeInItsPlaceIsNotWaitedFor();
+    void aLockOfAnotherIsNotWaitedFor_data();
     void aLockOfAnotherIsNotWaitedFor();
     void whatCannotBeStoredIsLogged();
     void damagedSettingsAreReplaced();
@@ -76,11 +79,22 @@ void TestPreferences::aPipeInItsPlaceIsNotWaitedFor()
     QCOMPARE(entryKind(m_scratch.path(name)), EntryKind::Other);
 }
 
+void TestPreferences::aLockOfAnotherIsNotWaitedFor_data()
+{
+    QTest::addColumn<qint64>("age"); // seconds
+    QTest::newRow("new") << qint64(0);
+    QTest::newRow("as old as a window may be") << qint64(36000);
+}
+
 void TestPreferences::aLockOfAnotherIsNotWaitedFor()
 {
+    QFETCH(const qint64, age);
     storeUidRoot(QStringLiteral("1.2.3"));
     QLockFile lock(m_scratch.path(QStringLiteral("xdg_config_home/Dravolin/Dravolin.conf.lock")));
     QVERIFY(lock.lock());
+    QFile file(lock.fileName());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
     const LogCatcher log;
     storeUidRoot(QStringLiteral("1.2.4"));
     QCOMPARE(LogCatcher::messages(), QStringList(failure()));

@@ -57,6 +57,8 @@ void TestResultTexts::saysWhatWasDone_data()
     row("one file", over({1, 0, 0, 1}), "1 file changed, in 1 folder", Kind::Done);
     row("many", over({5, 2, 0, 3}), "5 files changed, 2 unchanged, in 3 folders", Kind::Done);
     row("all facts", over({2, 1, 4, 1}), "2 files changed, 1 unchanged, 4 left out, in 1 folder", Kind::Done);
+    row("one of each", over({1, 1, 1, 1}), "1 file changed, 1 unchanged, 1 left out, in 1 folder",
+        Kind::Done);
     row("nothing changed", over({0, 7, 0, 2}), "No file changed, 7 unchanged, in 2 folders", Kind::Attention);
     row("an empty folder", over({0, 0, 0, 1}), "No file found, in 1 folder", Kind::Attention);
     row("nothing at all", over({}), "No file found", Kind::Attention);

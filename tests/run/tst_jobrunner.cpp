@@ -42,7 +42,6 @@ private Q_SLOTS:
     void runsInItsFolder_data();
     void runsInItsFolder();
     void handsArgumentsOnByteForByte();
-    void standardInputIsTheNullDevice();
     void collectsMoreThanAPipeHolds();
     void collectsOnlyStandardOutput();
     void withoutAPipeOutputIsTheApplicationsOwn();
@@ -115,12 +114,6 @@ void TestJobRunner::handsArgumentsOnByteForByte()
     const JobResult result =
         run({QStringLiteral("/usr/bin/printf"), arguments, QStringLiteral("/"), QStringList(), true});
     QCOMPARE(result.output, QByteArray("a b||\"$x`\\|a\nb|\xFF|\xF0\x9F\x98\x80|"));
-}
-
-void TestJobRunner::standardInputIsTheNullDevice()
-{
-    QCOMPARE(run(shellJob(QStringLiteral("readlink /proc/self/fd/0; cat"))).output,
-             QByteArray("/dev/null\n"));
 }
 
 void TestJobRunner::collectsMoreThanAPipeHolds()

@@ -56,6 +56,7 @@ void TestScriptJobFailures::startsNothingWithoutAScript_data()
     QTest::newRow("a pipe has the script's name") << QStringLiteral("piped") << QString();
     QTest::newRow("the disk is full") << QStringLiteral("folder") << QStringLiteral("/dev/full");
     QTest::newRow("read-only file system") << QStringLiteral("folder") << QStringLiteral("/proc/new");
+    QTest::newRow("link to somebody's file") << QStringLiteral("folder") << QStringLiteral("../file");
     QTest::newRow("link to itself") << QStringLiteral("folder") << QStringLiteral(".noxTemp.sh");
     QTest::newRow("name too long") << QString(300, u'x') << QString();
 }
@@ -64,7 +65,7 @@ void TestScriptJobFailures::startsNothingWithoutAScript()
 {
     QFETCH(const QString, folder);
     QFETCH(const QString, linkedTo);
-    m_scratch->file(QStringLiteral("file"));
+    const QString file = m_scratch->file(QStringLiteral("file"), "kept");
     for (const char16_t *name : {u"folder", u"occupied", u"occupied/.noxTemp.sh", u"piped"})
         m_scratch->folder(QString::fromUtf16(name));
     m_scratch->pipe(QStringLiteral("piped/.noxTemp.sh"));
@@ -78,6 +79,7 @@ void TestScriptJobFailures::startsNothingWithoutAScript()
     QCOMPARE(result.output, QString());
     QVERIFY(m_jobs.jobs.isEmpty());
     QCOMPARE(log.messages(), QStringList());
+    QCOMPARE(readText(file), QStringLiteral("kept"));
 }
 
 // Another user's file may be writable, but only its owner can set its permissions.
