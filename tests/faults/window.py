@@ -16,6 +16,9 @@ WITHOUT_RIGHTS = ("setpriv", "--bounding-set=-all", "--inh-caps=-all")
 SWITCHES = ("Overwrite source files", "Construct look-up table", "Generate new instance UIDs",
             "Only generate new instance UIDs", "Configuration")
 NOISE = ("This plugin does not support",)
+# many lines, and other ones each time
+PAINTING = ("QPainter::", "QWidget::paintEngine", "qt.qpa.xcb: failed to mmap")
+NOT_PAINTED = "(Qt finds no memory to paint with)"
 
 
 class Window(Program):
@@ -94,7 +97,8 @@ class Window(Program):
     def messages(self):
         """The lines of the system log, each once."""
         lines = self.log_file.read_bytes().decode(errors="backslashreplace").splitlines()
-        return list(dict.fromkeys(line for line in lines if line.strip() and not line.startswith(NOISE)))
+        return list(dict.fromkeys(NOT_PAINTED if line.startswith(PAINTING) else line
+                                  for line in lines if line.strip() and not line.startswith(NOISE)))
 
 
 def controls_of(window):
