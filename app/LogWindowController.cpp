@@ -3,6 +3,7 @@
 #include "app/AlertSheetRunner.h"
 #include "app/LogSearch.h"
 #include "app/LogView.h"
+#include "app/ScreenEdge.h"
 #include "base/Files.h"
 #include "base/Texts.h"
 #include "ui_LogWindow.h"
@@ -174,11 +175,11 @@ QString LogWindowController::nextSlice() const
 
 void centerOnScreen(QWidget &window)
 {
-    constexpr int titleBar = 30; // about as high as window managers make it
     const QRect available = window.screen()->availableGeometry();
-    window.resize(window.size().boundedTo(available.size() - QSize(0, titleBar)));
+    const QSize room = roomOnScreen(window);
+    window.resize(window.size().boundedTo(room));
     const QPoint place = available.center() - window.rect().center();
-    const int lowest = available.bottom() - titleBar - window.height();
+    const int lowest = available.top() + room.height() - 1 - window.height();
     window.move(place.x(), std::max(available.top(), std::min(place.y(), lowest)));
 }
 

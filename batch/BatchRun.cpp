@@ -70,9 +70,10 @@ public:
         const std::optional<ProjectKey> key = plan.problems.isEmpty() ? openKey() : std::nullopt;
         if (!key)
             return m_outcome;
-        scanSources(plan, m_options.workers, m_events.stop);
+        PlannedFiles files(m_options.runFolder());
+        scanSources(plan, m_options.workers, &files, m_events.stop);
         if (!m_events.stop())
-            work(plan, *key);
+            work(plan, files, *key);
         m_outcome.interrupted = m_events.stop();
         return m_outcome;
     }
@@ -93,9 +94,9 @@ private:
         return problem.isEmpty() ? key : std::nullopt;
     }
 
-    void work(const Plan &plan, const ProjectKey &key)
+    void work(const Plan &plan, PlannedFiles &files, const ProjectKey &key)
     {
-        CaseWork work(plan, m_options, key, m_journal);
+        CaseWork work(plan, files, m_options, key, m_journal);
         const CaseChecks::Events events = {[this](const check::CheckProgress &now) { tellCheck(now); },
                                            m_events.stop};
         CaseChecks checks(plan, m_options, m_journal, events);
@@ -103,31 +104,29 @@ private:
         m_outcome.cases = work.counts();
         m_outcome.findings = checks.findings();
         m_outcome.failure = work.failure() + checks.failure();
-        m_outcome.nothingToDo = work.open() == 0 && !checks.hasChecked();
+        m_outcome.nothingToDo = !work.hasTreated() && !checks.hasChecked();
         if (m_events.stop() || !m_outcome.failure.isEmpty())
             return;
         if (!writeEvidence({plan, m_options, m_journal, fingerprint(key)}, m_outcome))
             m_outcome.failure = Texts::tr("the evidence in %1 cannot be written").arg(m_options.runFolder());
     }
 
-    // In rounds of whole cases, so that the check finds their files in the system's memory.
+    // In rounds, so that the check finds their files in the system's memory.
     void workAndCheck(CaseWork &work, CaseChecks &checks)
     {
         const auto isToEnd = [&] { return m_events.stop() || work.hasFailed(); };
-        for (qsizetype from = 0; !isToEnd();) {
-            const qsizetype end = work.roundEnd(from);
+        while (m_casesDone < work.progress().allCases && !isToEnd()) {
+            work.beginRound();
             workThrough(
-                end - from, m_options.workers, [&](qsizetype number) { work.treat(from + number); }, isToEnd,
+                work.filesOfRound(), m_options.workers, [&](qsizetype number) { work.treat(number); },
+                isToEnd,
                 [&] {
                     work.save();
                     tell(work.progress());
                 });
-            for (; m_casesDone < work.casesBefore(end) && !isToEnd(); ++m_casesDone)
+            for (; m_casesDone < work.casesEnded() && !isToEnd(); ++m_casesDone)
                 if (!work.finishCase(m_casesDone, m_events.stop) || !isChecked(checks))
                     return;
-            if (end == work.open())
-                return;
-            from = end;
         }
     }
 
@@ -172,6 +171,11 @@ Plan judgeBefore(const BatchOptions &options)
     QString problem;
     const QString path = joinPath(options.runFolder(), QStringLiteral("journal.sqlite"));
     const std::unique_ptr<Journal> journal = pathExists(path) ? Journal::open(path, &problem) : nullptr;
+    if (!problem.isEmpty()) {
+        Plan plan;
+        plan.problems.append({0, problem});
+        return plan;
+    }
     return judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
 }
 
@@ -181,7 +185,7 @@ Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
 {
     Plan plan = judgeBefore(options);
     if (plan.problems.isEmpty())
-        scanSources(plan, options.workers, stop);
+        scanSources(plan, options.workers, nullptr, stop);
     return plan;
 }
 

@@ -41,9 +41,9 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
     options.setValues = setValues(planned, batch);
-    journal.forEachResult(planned.row.caseId, [&options](const FileRecord &record) {
-        options.renamed.insert(record.path, record.result);
-    });
+    options.renamed = [&journal, caseId = planned.row.caseId](const check::RenamedVisit &visit) {
+        journal.forEachResult(caseId, [&](const FileRecord &record) { visit(record.path, record.result); });
+    };
     options.rules = planned.configuration;
     options.uids = batch.mapUids;
     options.workers = batch.workers;
@@ -62,8 +62,7 @@ QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &opti
         add(rule.key() + u'\t' + rule.value());
     for (const QString &line : options.rules->allTagsToAnonymize + options.identifiers + options.setValues)
         add(line);
-    for (const PlannedFile &file : planned.files)
-        add(file.path + QStringLiteral("\t%1\t%2").arg(file.size).arg(file.modified));
+    hash.addData(planned.listing);
     journal.forEachResult(planned.row.caseId, [&add](const FileRecord &record) {
         add(record.path + u'\t' + record.result + u'\t' + QString::fromLatin1(record.hashAfter));
     });

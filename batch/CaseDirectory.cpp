@@ -3,10 +3,10 @@
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "batch/KnownFiles.h"
 #include "dicom/MediaDirectory.h"
 #include "dicom/SourceFile.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -32,32 +32,25 @@ QByteArray safeHash(const QString &path, bool sync)
 
 } // namespace
 
-const PlannedFile *directoryOf(const PlannedCase &planned)
-{
-    const auto found = std::find_if(planned.files.begin(), planned.files.end(),
-                                    [](const PlannedFile &file) { return file.isDirectory; });
-    return found == planned.files.end() ? nullptr : &*found;
-}
-
 CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key, Journal &journal,
                               const std::function<bool()> &stop)
 {
-    const PlannedFile *source = directoryOf(planned);
+    const std::optional<PlannedFile> &source = planned.directory;
     if (!source || stop())
         return {};
     const QString &caseId = planned.row.caseId;
-    const QHash<QString, FileRecord> records = journal.files(caseId);
     QStringList results;
     Sha256 content;
-    for (const PlannedFile &file : planned.files) {
-        const FileRecord record = records.value(file.path);
-        if (file.isDirectory || record.result.isEmpty())
+    const QString name = QString::fromLatin1(mediaDirectoryName);
+    for (KnownFiles known(journal, caseId); known.current(); known.pass()) {
+        const FileRecord &record = *known.current();
+        if (record.result.isEmpty() || record.result == name)
             continue;
         results.append(record.result);
         content.add(toBytes(record.result) + ' ' + record.hashAfter + '\n');
     }
     const QByteArray digits = content.digits();
-    const QString target = joinPath(planned.row.destination, QString::fromLatin1(mediaDirectoryName));
+    const QString target = joinPath(planned.row.destination, name);
     const QString noteName = QStringLiteral("directory of ") + caseId;
     const QByteArray known = journal.value(noteName);
     if (known.startsWith(digits) && pathExists(target))
@@ -71,7 +64,7 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
     const FileRecord record = {source->path,
                                source->size,
                                source->modified,
-                               QString::fromLatin1(mediaDirectoryName),
+                               name,
                                safeHash(joinPath(planned.sourceFolder(), source->path), false),
                                safeHash(temporary, true),
                                {}};

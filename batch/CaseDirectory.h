@@ -9,9 +9,6 @@
 // The DICOMDIR of a case: a source's own names the patient, and files that no longer have these names.
 namespace dravolin {
 
-// The first DICOMDIR of the source; null when it has none.
-[[nodiscard]] const PlannedFile *directoryOf(const PlannedCase &planned);
-
 struct CaseDirectory
 {
     QString problem;       // why it could not be made; "" when it is there, or was not asked for

@@ -5,8 +5,7 @@
 #include "base/Texts.h"
 #include "batch/CaseDirectory.h"
 #include "batch/CaseRules.h"
-#include "batch/ResultNames.h"
-#include "dicom/MediaDirectory.h"
+#include "batch/StaleResults.h"
 
 #include <QMutexLocker>
 
@@ -28,17 +27,16 @@ QString temporaryName(qsizetype number)
     return QStringLiteral(".dravolin-%1.part").arg(number);
 }
 
-void removeTemporaries(const QString &folder)
+bool isTemporaryName(const QString &name)
 {
-    for (const QString &name : listNames(folder))
-        if (name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part")))
-            removeFile(joinPath(folder, name));
+    return name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part"));
 }
 
 } // namespace
 
-CaseWork::CaseWork(const Plan &plan, const BatchOptions &options, const ProjectKey &key, Journal &journal)
-    : m_plan(plan), m_options(options), m_key(key), m_journal(journal)
+CaseWork::CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &options, const ProjectKey &key,
+                   Journal &journal)
+    : m_plan(plan), m_files(files), m_options(options), m_key(key), m_journal(journal)
 {
     const auto count = static_cast<size_t>(plan.cases.size());
     m_treatments.reserve(count); // rules are pointed to
@@ -74,39 +72,20 @@ void CaseWork::beginCase(size_t index)
         fail(Texts::tr("the journal cannot be written"));
     if (!createFolder(planned.row.destination, &error))
         fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
-    removeTemporaries(planned.row.destination);
-    const QHash<QString, FileRecord> known = m_journal.files(planned.row.caseId);
-    ResultNames names(m_key, directoryOf(planned) != nullptr);
-    QSet<QString> results;
-    for (const PlannedFile &file : planned.files) {
-        ++m_progress.allFiles;
-        if (file.isDirectory || !file.problem.isEmpty()) {
-            countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
-            continue;
-        }
-        const QString result = names.next(file);
-        results.insert(result);
-        beginFile(index, file, result, known.value(file.path));
-    }
-    if (directoryOf(planned))
-        results.insert(QString::fromLatin1(mediaDirectoryName));
-    removeStale(planned, known, results);
+    for (const QString &name : listNames(planned.row.destination))
+        if (isTemporaryName(name))
+            removeFile(joinPath(planned.row.destination, name));
+    m_progress.allFiles += planned.files;
 }
 
-// What became of files that are no longer in the source, or that now have another name.
-void CaseWork::removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
-                           const QSet<QString> &results)
+void CaseWork::removeStale(const PlannedCase &planned)
 {
-    QSet<QString> paths;
-    for (const PlannedFile &file : planned.files)
-        if (file.problem.isEmpty())
-            paths.insert(file.path);
-    for (const FileRecord &record : known) {
-        if (!record.result.isEmpty() && !results.contains(record.result))
-            removeFile(joinPath(planned.row.destination, record.result));
-        if (!paths.contains(record.path) && !m_journal.remove(planned.row.caseId, record.path))
+    const StaleResults stale = staleResults(planned, m_files, m_key, m_journal);
+    for (const QString &result : stale.results)
+        removeFile(joinPath(planned.row.destination, result));
+    for (const QString &path : stale.gone)
+        if (!m_journal.remove(planned.row.caseId, path))
             fail(Texts::tr("the journal cannot be written"));
-    }
 }
 
 bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
@@ -118,37 +97,58 @@ bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
     return !m_failed;
 }
 
-void CaseWork::beginFile(size_t index, const PlannedFile &file, const QString &result,
-                         const FileRecord &known)
+void CaseWork::beginRound()
 {
-    const QString destination = m_plan.cases.at(static_cast<qsizetype>(index)).row.destination;
-    const bool unchanged = known.size == file.size && known.modified == file.modified;
-    if (unchanged && known.result == result && pathExists(joinPath(destination, result))) {
+    constexpr size_t enoughFiles = 2000;
+    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
+    m_tasks.clear();
+    m_bytes = 0;
+    while (m_ended < m_plan.cases.size() && m_tasks.size() < enoughFiles && m_bytes < enoughBytes) {
+        if (!m_open)
+            openCase();
+        else if (m_open->left > 0)
+            takeFile();
+        else {
+            m_open.reset();
+            ++m_ended;
+        }
+    }
+    if (!m_files.isGood())
+        fail(Texts::tr("the folder %1 cannot be written to").arg(m_options.runFolder()));
+}
+
+void CaseWork::openCase()
+{
+    const PlannedCase &planned = m_plan.cases.at(m_ended);
+    removeStale(planned);
+    m_open.emplace(OpenCase{planned.firstFile,
+                            planned.files,
+                            {m_key, planned.directory.has_value()},
+                            {m_journal, planned.row.caseId}});
+}
+
+void CaseWork::takeFile()
+{
+    const PlannedFile file = m_files.read(&m_open->place);
+    --m_open->left;
+    const auto index = static_cast<size_t>(m_ended);
+    if (file.isDirectory || !file.problem.isEmpty()) {
+        countKnown(index, {file.path, file.size, file.modified, {}, {}, {}, file.problem});
+        return;
+    }
+    const QString result = m_open->names.next(file);
+    if (const FileRecord known = m_open->known.find(file.path); isDone(known, file, result)) {
         countKnown(index, known);
         return;
     }
-    m_tasks.push_back({index, &file, result});
+    m_bytes += file.size;
+    m_tasks.push_back({index, file, result, m_taken++});
 }
 
-qsizetype CaseWork::roundEnd(qsizetype begin) const
+bool CaseWork::isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const
 {
-    constexpr qsizetype enoughFiles = 2000;
-    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
-    quint64 bytes = 0;
-    auto end = static_cast<size_t>(begin);
-    for (; end < m_tasks.size(); ++end) {
-        const bool isEnough = static_cast<qsizetype>(end) - begin >= enoughFiles || bytes >= enoughBytes;
-        if (isEnough && m_tasks[end].ofCase != m_tasks[end - 1].ofCase)
-            break;
-        bytes += m_tasks[end].file->size;
-    }
-    return static_cast<qsizetype>(end);
-}
-
-qsizetype CaseWork::casesBefore(qsizetype number) const
-{
-    return number < open() ? static_cast<qsizetype>(m_tasks[static_cast<size_t>(number)].ofCase)
-                           : m_plan.cases.size();
+    return known.size == file.size && known.modified == file.modified && known.result == result &&
+           pathExists(joinPath(m_plan.cases.at(m_ended).row.destination, result));
 }
 
 Treatment CaseWork::treatmentOf(const PlannedCase &planned)
@@ -159,7 +159,7 @@ Treatment CaseWork::treatmentOf(const PlannedCase &planned)
     // a DICOMDIR takes no object without one
     constexpr TagNumber patientName = 0x00100010;
     AttributeRule &nameRule = treatment.rules[patientName];
-    if (directoryOf(planned) && nameRule.kind == AttributeRule::Kind::Erase)
+    if (planned.directory && nameRule.kind == AttributeRule::Kind::Erase)
         nameRule = {AttributeRule::Kind::Set, {}, AttributeRule::Copies::Erase};
     treatment.table = planned.table;
     treatment.removePrivate = m_options.removePrivate;
@@ -194,8 +194,8 @@ void CaseWork::treat(qsizetype number)
     const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(task.ofCase));
     Treated treated;
     treated.task = &task;
-    treated.temporary = joinPath(planned.row.destination, temporaryName(number));
-    treated.file = treatFile(joinPath(m_sources[task.ofCase], task.file->path), treated.temporary,
+    treated.temporary = joinPath(planned.row.destination, temporaryName(task.number));
+    treated.file = treatFile(joinPath(m_sources[task.ofCase], task.file.path), treated.temporary,
                              m_treatments[task.ofCase]);
     const QMutexLocker locker(&m_mutex);
     m_treated.push_back(std::move(treated));
@@ -246,7 +246,7 @@ FileRecord CaseWork::nameResult(const Treated &treated)
 {
     const Task &task = *treated.task;
     FileRecord record = {
-        task.file->path,         treated.file.facts.size, treated.file.facts.modified, task.result,
+        task.file.path,          treated.file.facts.size, treated.file.facts.modified, task.result,
         treated.file.hashBefore, treated.file.hashAfter,  treated.file.facts.problem};
     const CaseRow &row = m_plan.cases.at(static_cast<qsizetype>(task.ofCase)).row;
     const QString target = joinPath(row.destination, task.result);
@@ -264,10 +264,13 @@ FileRecord CaseWork::nameResult(const Treated &treated)
 
 bool CaseWork::makeFolder(const QString &path)
 {
+    constexpr qsizetype mostFolders = 1000;
     if (m_folders.contains(path))
         return true;
     if (!createFolder(path))
         return false;
+    if (m_folders.size() == mostFolders)
+        m_folders.clear();
     m_folders.insert(path);
     return true;
 }

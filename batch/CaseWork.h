@@ -1,7 +1,9 @@
 #pragma once
 
 #include "batch/BatchRun.h"
+#include "batch/KnownFiles.h"
 #include "batch/ProjectKey.h"
+#include "batch/ResultNames.h"
 #include "dicom/ObjectFile.h"
 #include "dicom/SourceFile.h"
 
@@ -13,22 +15,24 @@
 
 namespace dravolin {
 
-// The files of a run that are still to be done, and what becomes of them.
+// The files of a run that are still to be done, and what becomes of them. They come in rounds: enough of them
+// for all workers, but no more than the system may still have in memory when the check reads them.
 class CaseWork
 {
 public:
-    // Takes out what the journal says was done, when neither source nor rules have changed. All arguments
-    // have to outlive it.
-    CaseWork(const Plan &plan, const BatchOptions &options, const ProjectKey &key, Journal &journal);
+    // Begins all cases, or goes on with them. All arguments have to outlive it.
+    CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &options, const ProjectKey &key,
+             Journal &journal);
 
-    // The number of files that are to be treated.
-    [[nodiscard]] qsizetype open() const { return static_cast<qsizetype>(m_tasks.size()); }
-    // Files are in the order of their cases. Where a round of whole cases ends that begins with this file:
-    // enough of them for all workers, but no more than the system may still have in memory at its end.
-    [[nodiscard]] qsizetype roundEnd(qsizetype begin) const;
-    // How many cases, from the first one on, have all their open files before this one.
-    [[nodiscard]] qsizetype casesBefore(qsizetype number) const;
-    // Treats one of them, from 0; any thread. The result has a temporary name afterwards.
+    // Takes the next files, in the order of their cases and paths, but those that the journal says were done,
+    // when neither source nor rules have changed. The last round is the one that ends all cases.
+    void beginRound();
+    [[nodiscard]] qsizetype filesOfRound() const { return static_cast<qsizetype>(m_tasks.size()); }
+    // How many cases, from the first one on, have no file behind this round.
+    [[nodiscard]] qsizetype casesEnded() const { return m_ended; }
+    // Whether any file had to be treated.
+    [[nodiscard]] bool hasTreated() const { return m_taken > 0; }
+    // Treats a file of the round, from 0; any thread. The result has a temporary name afterwards.
     void treat(qsizetype number);
     [[nodiscard]] bool hasFailed() const { return m_failed; }
 
@@ -45,8 +49,9 @@ private:
     struct Task
     {
         size_t ofCase = 0;
-        const PlannedFile *file = nullptr;
-        QString result; // in the destination
+        PlannedFile file;
+        QString result;       // in the destination
+        qsizetype number = 0; // of the run
     };
     struct Treated
     {
@@ -55,11 +60,21 @@ private:
         TreatedFile file;
     };
 
+    // A case up to the file that is taken next.
+    struct OpenCase
+    {
+        qint64 place; // in the PlannedFiles
+        qsizetype left;
+        ResultNames names;
+        KnownFiles known;
+    };
+
     void nameStudies();
     void beginCase(size_t index);
-    void beginFile(size_t index, const PlannedFile &file, const QString &result, const FileRecord &known);
-    void removeStale(const PlannedCase &planned, const QHash<QString, FileRecord> &known,
-                     const QSet<QString> &results);
+    void openCase();
+    void takeFile();
+    [[nodiscard]] bool isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const;
+    void removeStale(const PlannedCase &planned);
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
     [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
     void countKnown(size_t index, const FileRecord &record);
@@ -70,12 +85,17 @@ private:
     void fail(const QString &text);
 
     const Plan &m_plan;
+    PlannedFiles &m_files;
     const BatchOptions &m_options;
     const ProjectKey &m_key;
     Journal &m_journal;
     std::vector<Treatment> m_treatments; // of the cases
     std::vector<QString> m_sources;      // their folders
-    std::vector<Task> m_tasks;
+    std::vector<Task> m_tasks;           // of the round
+    quint64 m_bytes = 0;                 // of them
+    qsizetype m_taken = 0;               // into all rounds
+    qsizetype m_ended = 0;
+    std::optional<OpenCase> m_open;          // whose files are being taken
     QHash<QByteArray, QByteArray> m_studies; // new UIDs of the studies that cases hold alone
     QSet<QString> m_folders;                 // that were made for results
     QList<CaseCounts> m_counts;

@@ -12,6 +12,9 @@ namespace dravolin {
 
 namespace {
 
+// Journals without a number have the same tables.
+constexpr int ownVersion = 1;
+
 constexpr const char *schema[] = {
     "PRAGMA journal_mode=WAL",
     "PRAGMA synchronous=FULL",
@@ -34,6 +37,12 @@ QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const
     return query;
 }
 
+int versionOf(const QSqlDatabase &database)
+{
+    QSqlQuery query = prepared(database, QStringLiteral("PRAGMA user_version"), {});
+    return query.next() ? query.value(0).toInt() : 0;
+}
+
 // With other values, without preparing it once more.
 bool runAgain(QSqlQuery &query, const QVariantList &values)
 {
@@ -51,8 +60,15 @@ std::unique_ptr<Journal> Journal::open(const QString &path, QString *problem)
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
     database.setDatabaseName(path);
     bool done = database.open();
+    const int version = done ? versionOf(database) : 0;
+    if (version > ownVersion) {
+        *problem = Texts::tr("the journal %1 was written by a later version of this program").arg(path);
+        return nullptr;
+    }
     for (const char *statement : schema)
         done = done && journal->run(QString::fromLatin1(statement));
+    if (done && version < ownVersion)
+        done = journal->run(QStringLiteral("PRAGMA user_version=%1").arg(ownVersion));
     if (done)
         return journal;
     *problem = Texts::tr("the journal %1 cannot be used: %2").arg(path, database.lastError().text());
@@ -104,19 +120,19 @@ bool Journal::remove(const QString &caseId, const QString &path)
     return run(QStringLiteral("DELETE FROM files WHERE id = ? AND path = ?"), {caseId, toBytes(path)});
 }
 
-QHash<QString, FileRecord> Journal::files(const QString &caseId) const
+QList<FileRecord> Journal::files(const QString &caseId, const QString &behind, int most) const
 {
-    QHash<QString, FileRecord> found;
-    QSqlQuery query = prepared(
-        database(),
-        QStringLiteral("SELECT path, size, modified, result, before, after, problem FROM files WHERE id = ?"),
-        {caseId});
-    while (query.next()) {
-        const QString path = fromBytes(query.value(0).toByteArray());
-        found.insert(path, {path, query.value(1).toULongLong(), query.value(2).toLongLong(),
-                            query.value(3).toString(), query.value(4).toByteArray().toHex(),
-                            query.value(5).toByteArray().toHex(), query.value(6).toString()});
-    }
+    QList<FileRecord> found;
+    QSqlQuery query =
+        prepared(database(),
+                 QStringLiteral("SELECT path, size, modified, result, before, after, problem FROM files "
+                                "WHERE id = ? AND path > ? ORDER BY path LIMIT ?"),
+                 {caseId, behind.isEmpty() ? QByteArray("") : toBytes(behind), most}); // none is NULL
+    while (query.next())
+        found.append({fromBytes(query.value(0).toByteArray()), query.value(1).toULongLong(),
+                      query.value(2).toLongLong(), query.value(3).toString(),
+                      query.value(4).toByteArray().toHex(), query.value(5).toByteArray().toHex(),
+                      query.value(6).toString()});
     return found;
 }
 

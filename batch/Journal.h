@@ -46,8 +46,8 @@ public:
     bool begin(const CaseRow &row, const QByteArray &rules);
     // Takes a file out.
     bool remove(const QString &caseId, const QString &path);
-    // The files of a case, by path.
-    [[nodiscard]] QHash<QString, FileRecord> files(const QString &caseId) const;
+    // So many files of a case at most, the first ones behind a path in the order of the bytes of paths.
+    [[nodiscard]] QList<FileRecord> files(const QString &caseId, const QString &behind, int most) const;
 
     // Calls `visit` with the paths and hashes of every file of a case that has a result, by result.
     void forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/CaseList.h"
+#include "batch/PlannedFiles.h"
 #include "check/Patterns.h"
 #include "config/ConfigurationFile.h"
 #include "config/LutFile.h"
@@ -13,6 +14,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 // What a run over a list of cases would do.
 namespace dravolin {
@@ -48,24 +50,17 @@ struct BatchOptions
     [[nodiscard]] QString runFolder() const;
 };
 
-struct PlannedFile
-{
-    QString path; // relative to the source; the file's own name when the source is a file
-    quint64 size = 0;
-    qint64 modified = 0; // nanoseconds since 1970
-    QByteArray sopInstance;
-    QByteArray series;
-    bool isDirectory = false; // a DICOMDIR, whatever its name
-    QString problem;          // why it will not be done
-};
-
 struct PlannedCase
 {
     CaseRow row;
     TagRules configuration;
     LutTable table;
-    QStringList identifiers;  // searched for by the check, too
-    QList<PlannedFile> files; // in the order of their paths
+    QStringList identifiers; // searched for by the check, too
+    qint64 firstFile = 0;    // its place in the run's PlannedFiles
+    qsizetype files = 0;
+    QList<PlannedFile> troubled;          // those of them that will not be done
+    std::optional<PlannedFile> directory; // the first DICOMDIR
+    QByteArray listing;                   // a hash of the paths, sizes and times of all of them
     qsizetype folders = 0;
     quint64 bytes = 0;
     QSet<QByteArray> studies;
@@ -87,8 +82,9 @@ struct Plan
 // to be missing or empty. Writes nothing.
 [[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
 
-// Looks at every file of the sources, several at a time, and fills in what that tells. `stop` ends it early.
-void scanSources(Plan &plan, int workers, const std::function<bool()> &stop);
+// Looks at every file of the sources, several at a time, and fills in what that tells. The files themselves
+// go to `files`, which may be null. `stop` ends it early.
+void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::function<bool()> &stop);
 
 // What results say about how they were made.
 [[nodiscard]] QString deidentificationMethod(const BatchOptions &options);

@@ -7,7 +7,12 @@ namespace dravolin {
 QString ResultNames::next(const PlannedFile &file)
 {
     const QString first = stem(file, 1);
-    const int copy = ++m_copies[first];
+    const quint64 hash = qHash(first, 0);
+    int copy = 1;
+    if (m_given.contains(hash))
+        copy = 1 + ++m_copies[hash];
+    else
+        m_given.insert(hash);
     if (!m_forDirectory)
         return copy == 1 ? first + QStringLiteral(".dcm") : QStringLiteral("%1_%2.dcm").arg(first).arg(copy);
     return copy == 1 ? first : stem(file, copy);

@@ -4,6 +4,7 @@
 #include "batch/ProjectKey.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace dravolin {
 
@@ -22,7 +23,8 @@ private:
 
     const ProjectKey &m_key;
     bool m_forDirectory;
-    QHash<QString, int> m_copies; // by the name of the first
+    QSet<quint64> m_given;        // hashes of the names of first ones
+    QHash<quint64, int> m_copies; // of those that were given again, how often
 };
 
 } // namespace dravolin

@@ -7,8 +7,7 @@
 #include "dicom/ObjectFile.h"
 #include "identifiers/UidRoot.h"
 
-#include <QMutex>
-#include <QMutexLocker>
+#include <QCryptographicHash>
 
 #include <algorithm>
 #include <vector>
@@ -17,119 +16,171 @@ namespace dravolin {
 
 namespace {
 
-void addFile(PlannedCase &planned, const QString &path)
+// Goes through the files of a source in the order of the bytes of their paths. Of the names it keeps those of
+// the folders that it is in.
+class SourceWalk
 {
-    PlannedFile file;
-    file.path = path;
-    planned.files.append(file);
-}
-
-void listFiles(PlannedCase &planned, const QString &below)
-{
-    ++planned.folders;
-    const QString folder = joinPath(planned.row.source, below);
-    for (const QString &name : listNames(folder)) {
-        const QString path = below.isEmpty() ? name : joinPath(below, name);
-        if (isFolder(joinPath(folder, name)))
-            listFiles(planned, path);
+public:
+    explicit SourceWalk(const QString &source) : m_source(source)
+    {
+        if (isFolder(source))
+            enter(QByteArray());
         else
-            addFile(planned, path);
+            m_open.push_back({QByteArray(), {toBytes(lastPathComponent(source))}});
     }
-}
 
-void listSource(PlannedCase &planned)
-{
-    if (isFolder(planned.row.source))
-        listFiles(planned, QString());
-    else
-        addFile(planned, lastPathComponent(planned.row.source));
-    std::sort(planned.files.begin(), planned.files.end(),
-              [](const PlannedFile &one, const PlannedFile &other) { return one.path < other.path; });
-}
+    // The next path, relative to the source; "" behind the last one.
+    [[nodiscard]] QString next()
+    {
+        while (!m_open.empty()) {
+            Folder &folder = m_open.back();
+            if (folder.next == folder.names.size()) {
+                m_open.pop_back();
+                continue;
+            }
+            const QByteArray path = folder.path + folder.names[folder.next++];
+            if (!path.endsWith('/'))
+                return fromBytes(path);
+            enter(path);
+        }
+        return {};
+    }
 
-// Looks at files, whose names are many: nothing of them is kept twice.
+    [[nodiscard]] qsizetype folders() const { return m_folders; }
+
+private:
+    struct Folder
+    {
+        QByteArray path;               // ends with a slash; "" is the source
+        std::vector<QByteArray> names; // those of folders end with one: it has a place in the order, too
+        size_t next = 0;
+    };
+
+    void enter(const QByteArray &path)
+    {
+        ++m_folders;
+        const QString folder = joinPath(m_source, fromBytes(path));
+        Folder entered{path, {}};
+        for (const QString &name : listNames(folder))
+            entered.names.push_back(toBytes(name) + (isFolder(joinPath(folder, name)) ? "/" : ""));
+        std::sort(entered.names.begin(), entered.names.end());
+        m_open.push_back(std::move(entered));
+    }
+
+    QString m_source;
+    std::vector<Folder> m_open;
+    qsizetype m_folders = 0;
+};
+
+// Looks at files, so many at a time that all workers have something to do.
 class Scan
 {
 public:
-    explicit Scan(Plan &plan)
+    Scan(int workers, PlannedFiles *files, const std::function<bool()> &stop)
+        : m_workers(workers), m_files(files), m_stop(stop)
     {
-        for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
-            for (PlannedCase &planned : *some)
-                add(planned);
     }
-
-    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(m_places.size()); }
-
-    // Any thread; each number once.
-    void look(qsizetype number)
-    {
-        const Place &place = m_places[static_cast<size_t>(number)];
-        const QString folder = m_folders[place.ofCase];
-        const ObjectFacts facts = readFacts(joinPath(folder, place.file->path));
-        const QMutexLocker locker(&m_mutex);
-        take(*m_cases[place.ofCase], *place.file, facts);
-    }
-
-    void finish()
-    {
-        for (PlannedCase *planned : m_cases) {
-            planned->studies.remove(QByteArray());
-            planned->patients.remove(QByteArray());
-            const CaseRow &row = planned->row;
-            if (planned->studies.size() <= 1 && !row.uidRoot.isEmpty())
-                planned->studyUid =
-                    studyInstanceUid(checkRoot(row.uidRoot, row.caseId).trimmedRoot, row.caseId).toLatin1();
-        }
-    }
-
-private:
-    struct Place
-    {
-        size_t ofCase = 0;
-        PlannedFile *file = nullptr;
-    };
 
     void add(PlannedCase &planned)
     {
-        listSource(planned);
-        for (PlannedFile &file : planned.files)
-            m_places.push_back({m_cases.size(), &file});
-        m_folders.push_back(planned.sourceFolder());
-        m_cases.push_back(&planned);
+        SourceWalk walk(planned.row.source);
+        const QString folder = planned.sourceFolder();
+        for (QString path = walk.next(); !path.isEmpty() && !m_stop(); path = walk.next()) {
+            m_looks.push_back({&planned, joinPath(folder, path), path, {}});
+            if (m_looks.size() == atOnce)
+                look();
+        }
+        planned.folders = walk.folders();
     }
 
-    void take(PlannedCase &planned, PlannedFile &file, const ObjectFacts &facts)
+    // At what was added since the last time.
+    void look()
     {
-        file.size = facts.size;
-        file.modified = facts.modified;
-        file.problem = facts.problem;
-        file.isDirectory = facts.isDirectory;
-        planned.bytes += facts.size;
-        if (!facts.problem.isEmpty() || facts.isDirectory)
-            return;
-        file.sopInstance = facts.names.sopInstance;
-        file.series = *m_series.insert(facts.names.series);
+        workThrough(
+            static_cast<qsizetype>(m_looks.size()), m_workers,
+            [this](qsizetype number) {
+                Look &one = m_looks[static_cast<size_t>(number)];
+                one.facts = readFacts(one.file);
+            },
+            m_stop);
+        if (!m_stop())
+            for (const Look &one : m_looks)
+                take(one);
+        m_looks.clear();
+    }
+
+private:
+    static constexpr size_t atOnce = 1000;
+    struct Look
+    {
+        PlannedCase *planned;
+        QString file;
+        QString path; // in the source
+        ObjectFacts facts;
+    };
+
+    void take(const Look &look)
+    {
+        const ObjectFacts &facts = look.facts;
+        PlannedFile file = {look.path, facts.size, facts.modified, {}, {}, facts.isDirectory, facts.problem};
+        if (facts.problem.isEmpty() && !facts.isDirectory)
+            takeNames(*look.planned, file, facts.names);
+        PlannedCase &planned = *look.planned;
+        if (!file.problem.isEmpty())
+            planned.troubled.append(file);
+        if (file.isDirectory && !planned.directory)
+            planned.directory = file;
+        if (planned.files++ == 0 && m_files)
+            planned.firstFile = m_files->end();
+        planned.bytes += file.size;
+        planned.listing = QCryptographicHash::hash(
+            planned.listing + toBytes(file.path) +
+                QStringLiteral("\t%1\t%2").arg(file.size).arg(file.modified).toLatin1(),
+            QCryptographicHash::Sha256);
+        if (m_files)
+            m_files->add(file);
+    }
+
+    static void takeNames(PlannedCase &planned, PlannedFile &file, const ObjectNames &names)
+    {
+        file.sopInstance = names.sopInstance;
+        file.series = names.series;
         if (file.sopInstance.isEmpty())
             file.problem = Texts::tr("has no SOP Instance UID");
-        planned.studies.insert(facts.names.study);
-        planned.patients.insert(facts.names.patientId);
+        if (!names.study.isEmpty())
+            planned.studies.insert(names.study);
+        if (!names.patientId.isEmpty())
+            planned.patients.insert(names.patientId);
     }
 
-    std::vector<PlannedCase *> m_cases;
-    std::vector<QString> m_folders; // of the cases
-    std::vector<Place> m_places;
-    QMutex m_mutex;            // guards what the files say
-    QSet<QByteArray> m_series; // each once, however many files name it
+    int m_workers;
+    PlannedFiles *m_files;
+    const std::function<bool()> &m_stop;
+    std::vector<Look> m_looks;
 };
+
+void nameStudy(PlannedCase &planned)
+{
+    const CaseRow &row = planned.row;
+    if (planned.studies.size() <= 1 && !row.uidRoot.isEmpty())
+        planned.studyUid =
+            studyInstanceUid(checkRoot(row.uidRoot, row.caseId).trimmedRoot, row.caseId).toLatin1();
+}
 
 } // namespace
 
-void scanSources(Plan &plan, int workers, const std::function<bool()> &stop)
+void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::function<bool()> &stop)
 {
-    Scan scan(plan);
-    workThrough(
-        scan.size(), workers, [&scan](qsizetype number) { scan.look(number); }, stop);
-    scan.finish();
+    Scan own(workers, files, stop);
+    for (PlannedCase &planned : plan.cases)
+        own.add(planned);
+    own.look();
+    Scan others(workers, nullptr, stop);
+    for (PlannedCase &planned : plan.others)
+        others.add(planned);
+    others.look();
+    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
+        std::for_each(some->begin(), some->end(), nameStudy);
 }
 
 } // namespace dravolin

@@ -9,8 +9,6 @@
 #include "check/Harvest.h"
 #include "check/InOrder.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <set>
 
@@ -25,34 +23,55 @@ struct Trees
 {
     FileTree originals;
     FileTree results;
-    QStringList originalNames; // what an original is called in the result, in the order of its files
+    std::vector<qsizetype> named; // the result that has an original's name, for each original
+    std::vector<bool> isMade;     // whether a result's name was made for it
 };
 
 void moveBackups(Trees &trees)
 {
+    PathList results;
     trees.originals = {.root = trees.results.root, .files = {}, .links = {}, .others = {}, .unlisted = {}};
-    for (const QString &file : std::as_const(trees.results.files)) {
-        if (file.endsWith(backupSuffix))
-            trees.originals.files.append(file);
+    for (qsizetype i = 0; i < trees.results.files.size(); ++i) {
+        const QString file = trees.results.files[i];
+        (file.endsWith(backupSuffix) ? trees.originals.files : results).append(file);
     }
-    trees.results.files.removeIf([](const QString &file) { return file.endsWith(backupSuffix); });
+    trees.results.files = std::move(results);
 }
 
-// What the result of an original is called.
-QString resultName(const CheckOptions &options, const QString &file)
+void noteRenamed(Trees &trees, const CheckOptions &options)
 {
-    return options.backups ? file.chopped(backupSuffix.size()) : options.renamed.value(file, file);
+    std::vector<bool> isRenamed(trees.named.size());
+    const RenamedVisit note = [&](const QString &original, const QString &result) {
+        const qsizetype from = trees.originals.files.indexOf(original);
+        const qsizetype to = trees.results.files.indexOf(result);
+        if (to != nobody)
+            trees.isMade[static_cast<size_t>(to)] = true;
+        if (from == nobody)
+            return;
+        trees.named[static_cast<size_t>(from)] = to;
+        isRenamed[static_cast<size_t>(from)] = true;
+    };
+    if (options.renamed)
+        options.renamed(note);
+    for (size_t i = 0; i < isRenamed.size(); ++i) {
+        if (isRenamed[i])
+            continue;
+        const QString file = trees.originals.files[static_cast<qsizetype>(i)];
+        trees.named[i] =
+            trees.results.files.indexOf(options.backups ? file.chopped(backupSuffix.size()) : file);
+    }
 }
 
 Trees listBoth(const CheckOptions &options)
 {
-    Trees trees{.originals = {}, .results = listTree(options.result), .originalNames = {}};
+    Trees trees{.originals = {}, .results = listTree(options.result), .named = {}, .isMade = {}};
     if (options.backups)
         moveBackups(trees);
     else
         trees.originals = listTree(options.originals);
-    for (const QString &file : std::as_const(trees.originals.files))
-        trees.originalNames.append(resultName(options, file));
+    trees.named.resize(static_cast<size_t>(trees.originals.files.size()), nobody);
+    trees.isMade.resize(static_cast<size_t>(trees.results.files.size()));
+    noteRenamed(trees, options);
     return trees;
 }
 
@@ -61,7 +80,7 @@ class Checking
 public:
     Checking(const CheckOptions &options, const CheckEvents &events)
         : m_options(options), m_events(events), m_trees(listBoth(options)),
-          m_values(std::make_shared<Values>()), m_madeNames(options.renamed.begin(), options.renamed.end())
+          m_values(std::make_shared<Values>())
     {
         if (options.rules)
             m_rules.emplace(*options.rules);
@@ -113,15 +132,14 @@ private:
     }
 
     // What both sides keep of a file.
-    void keep(const FileRecord &record, const QString &path, UncheckedFile::Side side,
-              std::vector<FileRecord> &records)
+    void keep(const FileRecord &record, const QString &path, UncheckedFile::Side side, KeptRecords &records)
     {
         if (record.state == FileRecord::State::Damaged || record.state == FileRecord::State::Unreadable)
             m_report.unchecked.append({side, path, record.reason});
         if (record.state == FileRecord::State::Object)
             ++(side == UncheckedFile::Side::Original ? m_report.originalObjects : m_report.resultObjects);
         m_report.bytes += record.bytes;
-        records.push_back(record);
+        records.emplace_back(record);
     }
 
     [[nodiscard]] bool isToEnd() const { return m_events.stop && m_events.stop(); }
@@ -129,13 +147,14 @@ private:
     // The name that an original had before it was a backup.
     [[nodiscard]] QString ownName(qsizetype index) const
     {
-        return m_options.backups ? m_trees.originalNames[index] : m_trees.originals.files[index];
+        const QString file = m_trees.originals.files[index];
+        return m_options.backups ? file.chopped(backupSuffix.size()) : file;
     }
 
     // What of a result's name may tell something.
-    [[nodiscard]] QString toldName(const QString &result) const
+    [[nodiscard]] QString toldName(qsizetype result) const
     {
-        return m_madeNames.contains(result) ? QString() : result;
+        return m_trees.isMade[static_cast<size_t>(result)] ? QString() : m_trees.results.files[result];
     }
 
     void takeValues(qsizetype index, const HarvestedFile &file)
@@ -148,7 +167,8 @@ private:
 
     void harvest()
     {
-        const QStringList &files = m_trees.originals.files;
+        const PathList &files = m_trees.originals.files;
+        m_originals.reserve(static_cast<size_t>(files.size()));
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
@@ -169,7 +189,8 @@ private:
 
     void search()
     {
-        const QStringList &files = m_trees.results.files;
+        const PathList &files = m_trees.results.files;
+        m_results.reserve(static_cast<size_t>(files.size()));
         const Patterns &patterns = m_values->patterns();
         m_groups.emplace(patterns);
         const auto makeSearcher = [&] {
@@ -179,7 +200,7 @@ private:
             return [&, searcher = makeSearcher()](qsizetype index) mutable {
                 const QString path = joinPath(m_trees.results.root, files[index]);
                 const FileInHand inHand(path);
-                return searcher.search(loadFile(path), toldName(files[index]));
+                return searcher.search(loadFile(path), toldName(index));
             };
         };
         inOrder<SearchedFile>(
@@ -217,7 +238,7 @@ private:
     void finish()
     {
         m_report.values = m_values;
-        m_report.pairing = pairUp({m_originals, m_trees.originalNames}, {m_results, m_trees.results.files});
+        m_report.pairing = pairUp(m_originals, m_results, m_trees.named);
         for (const qsizetype index : m_report.pairing.noObjects)
             m_report.unchecked.append({UncheckedFile::Side::Result, m_trees.results.files[index],
                                        Texts::tr("its original is a DICOM object, and it is none")});
@@ -225,19 +246,18 @@ private:
             m_report.deviations.append({tagText(tag.first), attributeName(tag.first), tag.second, files});
         m_report.groups = m_groups->groups();
         m_report.files = m_groups->files();
-        m_report.originalFiles = m_trees.originals.files;
-        m_report.resultFiles = m_trees.results.files;
+        m_report.originalFiles = std::move(m_trees.originals.files);
+        m_report.resultFiles = std::move(m_trees.results.files);
     }
 
     const CheckOptions &m_options;
     const CheckEvents &m_events;
     Trees m_trees;
     std::shared_ptr<Values> m_values;
-    QSet<QString> m_madeNames; // of results
     std::optional<Rules> m_rules;
     std::optional<FindingGroups> m_groups;
-    std::vector<FileRecord> m_originals;
-    std::vector<FileRecord> m_results;
+    KeptRecords m_originals;
+    KeptRecords m_results;
     std::map<std::pair<Tag, bool>, quint64> m_deviations; // files
     CheckProgress m_progress;
     CheckReport m_report;

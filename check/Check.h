@@ -2,11 +2,11 @@
 
 #include "check/Findings.h"
 #include "check/Pairing.h"
+#include "check/PathList.h"
 #include "check/Rules.h"
 #include "check/Search.h"
 #include "check/Values.h"
 
-#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +18,8 @@
 // result.
 namespace dravolin::check {
 
+using RenamedVisit = std::function<void(const QString &original, const QString &result)>;
+
 struct CheckOptions
 {
     QString originals;       // a folder, or one file
@@ -25,9 +27,9 @@ struct CheckOptions
     bool backups = false;    // the originals are the NAME.bak beside the results NAME
     QStringList identifiers; // values to be searched for besides
     QStringList setValues;   // written by whoever made the result: they tell nothing
-    // What the results of renamed originals are called, by the originals' paths; both relative. These names
-    // were made for the result and tell nothing.
-    QHash<QString, QString> renamed;
+    // Calls its argument with each original that was renamed, once, and what its result is called; both
+    // relative. These names were made for the result and tell nothing. May be null.
+    std::function<void(const RenamedVisit &)> renamed;
     std::optional<TagRules> rules;
     bool uids = true; // are searched for
     bool pixels = false;
@@ -74,8 +76,8 @@ struct TagCount
 struct CheckReport
 {
     std::shared_ptr<const Values> values;
-    QStringList originalFiles;
-    QStringList resultFiles;
+    PathList originalFiles;
+    PathList resultFiles;
     quint64 originalObjects = 0;
     quint64 resultObjects = 0;
     quint64 bytes = 0;

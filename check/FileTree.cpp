@@ -22,28 +22,40 @@ QString textOf(const fs::path &path)
     return fromBytes(QByteArray::fromStdString(path.string()));
 }
 
-void sortIn(FileTree &tree, QStringList &folders, const fs::directory_entry &entry, const QString &path)
+// Adds what is neither a file nor a folder; gives the names of those, with a slash behind folders, so that
+// their order is that of all paths below them.
+QStringList sortedNames(FileTree &tree, const QString &folder)
 {
-    std::error_code error; // mostly the entry knows without a call
-    if (entry.is_symlink(error))
-        tree.links.append({path, textOf(fs::read_symlink(entry.path(), error))});
-    else if (entry.is_directory(error))
-        folders.append(path);
-    else if (entry.is_regular_file(error))
-        tree.files.append(path);
-    else
-        tree.others.append(path);
-}
-
-void list(FileTree &tree, const QString &folder, QStringList &folders)
-{
+    QStringList names;
     std::error_code error;
     const QString path = folder.isEmpty() ? tree.root : joinPath(tree.root, folder);
     fs::directory_iterator entry(toBytes(path).toStdString(), error);
-    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
-        sortIn(tree, folders, *entry, below(folder, textOf(entry->path().filename())));
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code none; // mostly the entry knows without a call
+        const QString name = textOf(entry->path().filename());
+        if (entry->is_symlink(none))
+            tree.links.append({below(folder, name), textOf(fs::read_symlink(entry->path(), none))});
+        else if (entry->is_directory(none))
+            names.append(name + u'/');
+        else if (entry->is_regular_file(none))
+            names.append(name);
+        else
+            tree.others.append(below(folder, name));
+    }
     if (error)
         tree.unlisted.append(folder);
+    names.sort();
+    return names;
+}
+
+void list(FileTree &tree, const QString &folder)
+{
+    for (const QString &name : sortedNames(tree, folder)) {
+        if (name.endsWith(u'/'))
+            list(tree, below(folder, name.chopped(1)));
+        else
+            tree.files.append(below(folder, name));
+    }
 }
 
 } // namespace
@@ -56,10 +68,7 @@ FileTree listTree(const QString &root)
         tree.files.append(lastPathComponent(root));
         return tree;
     }
-    QStringList folders = {QString()};
-    while (!folders.isEmpty())
-        list(tree, folders.takeLast(), folders);
-    std::sort(tree.files.begin(), tree.files.end());
+    list(tree, QString());
     std::sort(tree.others.begin(), tree.others.end());
     std::sort(tree.unlisted.begin(), tree.unlisted.end());
     std::sort(tree.links.begin(), tree.links.end(),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "check/PathList.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -15,7 +17,7 @@ struct FileTree
     };
 
     QString root;
-    QStringList files;    // regular files, relative to the root, sorted
+    PathList files;       // regular files, relative to the root, sorted
     QList<Link> links;    // never followed
     QStringList others;   // pipes, devices, sockets: never opened
     QStringList unlisted; // folders that could not be listed; "" is the root itself

@@ -43,7 +43,12 @@ void Harvester::take(const Element &element, QList<HarvestedValue> &values)
     if (!valueClass)
         return;
     const quint64 hash = qHashBits(element.bytes.data(), static_cast<size_t>(element.bytes.size()), 1);
-    if (!m_given.insert(mixed(hash, static_cast<quint64>(*valueClass))).second)
+    constexpr qsizetype mostGiven = 10000;
+    const qsizetype given = m_given.size() < mostGiven ? m_given.size() : 0;
+    if (given == 0)
+        m_given.clear();
+    m_given.insert(mixed(hash, static_cast<quint64>(*valueClass)));
+    if (m_given.size() == given)
         return;
     QString text = element.sets.decode(element.bytes);
     while (text.endsWith(QChar::Null))

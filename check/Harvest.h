@@ -3,8 +3,7 @@
 #include "check/FileRecord.h"
 
 #include <QList>
-
-#include <unordered_set>
+#include <QSet>
 
 namespace dravolin::check {
 
@@ -21,8 +20,8 @@ struct HarvestedFile
     QList<HarvestedValue> values;
 };
 
-// Takes the identifying values out of originals. One for each thread; a value that this one has given before
-// is not given again.
+// Takes the identifying values out of originals. One for each thread; a value that this one has given not
+// long before is not given again.
 class Harvester
 {
 public:
@@ -31,7 +30,7 @@ public:
 private:
     void take(const Element &element, QList<HarvestedValue> &values);
 
-    std::unordered_set<quint64> m_given;
+    QSet<quint64> m_given;
 };
 
 } // namespace dravolin::check

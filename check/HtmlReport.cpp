@@ -119,7 +119,7 @@ void addFindings(HtmlPage &page, const std::array<QList<ToldFinding>, 3> &findin
                rows);
 }
 
-void addFiles(HtmlPage &page, const QString &title, const QList<qsizetype> &indices, const QStringList &files,
+void addFiles(HtmlPage &page, const QString &title, const QList<qsizetype> &indices, const PathList &files,
               const CheckReport &report)
 {
     page.paragraph(title.arg(indices.size()));

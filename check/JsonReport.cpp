@@ -15,7 +15,7 @@ QJsonObject byGrade(const std::array<quint64, 3> &counts)
 }
 
 // The paths of files by their index, masked.
-QJsonArray paths(const QList<qsizetype> &indices, const QStringList &files, const Patterns &patterns)
+QJsonArray paths(const QList<qsizetype> &indices, const PathList &files, const Patterns &patterns)
 {
     QJsonArray array;
     for (const qsizetype index : indices)
@@ -119,7 +119,7 @@ QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call)
     QJsonArray groups;
     for (const FindingGroup &group : report.groups)
         groups.append(jsonOf(group));
-    const auto side = [](const QStringList &files, quint64 objects) {
+    const auto side = [](const PathList &files, quint64 objects) {
         return QJsonObject{{QStringLiteral("files"), files.size()},
                            {QStringLiteral("objects"), static_cast<qint64>(objects)}};
     };

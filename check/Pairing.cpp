@@ -1,40 +1,43 @@
 #include "check/Pairing.h"
 
-#include <QHash>
+#include "check/Folding.h"
 
-#include <functional>
+#include <QHash>
 
 namespace dravolin::check {
 
 namespace {
 
-constexpr qsizetype nobody = -1;
-
 class Pairs
 {
 public:
-    Pairs(const Side &originals, const Side &results)
-        : m_originals(originals), m_results(results), m_originalOf(results.names.size(), nobody),
-          m_isTaken(static_cast<size_t>(originals.names.size()), false)
+    Pairs(const KeptRecords &originals, const KeptRecords &results)
+        : m_originals(originals), m_results(results), m_originalOf(results.size(), nobody),
+          m_isTaken(originals.size(), false)
     {
     }
 
-    // Pairs what has the same key on both sides; keys that are not true are none.
-    template <typename Key>
-    void pairBy(const std::function<Key(const Side &, qsizetype)> &keyOf)
+    // A result that several originals name belongs to the first one.
+    void pairByName(const std::vector<qsizetype> &named)
     {
-        QMultiHash<Key, qsizetype> free;
-        for (qsizetype i = m_originals.names.size() - 1; i >= 0; --i) {
-            if (const Key key = keyOf(m_originals, i); !m_isTaken[static_cast<size_t>(i)] && key != Key())
-                free.insert(key, i);
-        }
-        for (qsizetype i = 0; i < m_results.names.size(); ++i) {
+        for (size_t i = 0; i < named.size(); ++i)
+            if (named[i] != nobody && m_originalOf[static_cast<size_t>(named[i])] == nobody)
+                join(i, static_cast<size_t>(named[i]));
+    }
+
+    // Pairs what has the same key on both sides; 0 is none.
+    void pairBy(quint64 KeptRecord::*key)
+    {
+        QMultiHash<quint64, size_t> free;
+        for (size_t i = m_originals.size(); i-- > 0;)
+            if (!m_isTaken[i] && m_originals[i].*key != 0)
+                free.insert(m_originals[i].*key, i);
+        for (size_t i = 0; i < m_results.size(); ++i) {
             const auto found =
-                m_originalOf[i] == nobody ? free.constFind(keyOf(m_results, i)) : free.constEnd();
+                m_originalOf[i] == nobody ? free.constFind(m_results[i].*key) : free.constEnd();
             if (found == free.constEnd())
                 continue;
-            m_originalOf[i] = *found;
-            m_isTaken[static_cast<size_t>(*found)] = true;
+            join(*found, i);
             free.erase(found);
         }
     }
@@ -42,53 +45,60 @@ public:
     [[nodiscard]] Pairing pairing() const
     {
         Pairing result;
-        for (qsizetype i = 0; i < m_originals.names.size(); ++i) {
-            if (!m_isTaken[static_cast<size_t>(i)])
-                result.missing.append(i);
+        for (size_t i = 0; i < m_originals.size(); ++i) {
+            if (!m_isTaken[i])
+                result.missing.append(static_cast<qsizetype>(i));
         }
-        for (qsizetype i = 0; i < m_results.names.size(); ++i) {
+        for (size_t i = 0; i < m_results.size(); ++i) {
             if (m_originalOf[i] == nobody)
-                result.added.append(i);
+                result.added.append(static_cast<qsizetype>(i));
             else
-                compare(m_originals.records[static_cast<size_t>(m_originalOf[i])], i, result);
+                compare(m_originals[static_cast<size_t>(m_originalOf[i])], i, result);
         }
         return result;
     }
 
 private:
-    void compare(const FileRecord &original, qsizetype index, Pairing &pairing) const
+    void join(size_t original, size_t result)
     {
-        const FileRecord &result = m_results.records[static_cast<size_t>(index)];
+        m_originalOf[result] = static_cast<qsizetype>(original);
+        m_isTaken[original] = true;
+    }
+
+    void compare(const KeptRecord &original, size_t at, Pairing &pairing) const
+    {
+        const KeptRecord &result = m_results[at];
+        const auto index = static_cast<qsizetype>(at);
         ++pairing.pairs;
         if (original.state == FileRecord::State::Object && result.state == FileRecord::State::NoObject)
             pairing.noObjects.append(index);
-        if (result.state != FileRecord::State::Unreadable && original.content == result.content &&
-            original.bytes == result.bytes)
+        if (result.state != FileRecord::State::Unreadable && original.content == result.content)
             pairing.unchanged.append(index);
         else if (original.state == FileRecord::State::Object && result.state == FileRecord::State::Object &&
                  original.pixels != result.pixels)
             pairing.pixelsChanged.append(index);
     }
 
-    const Side &m_originals;
-    const Side &m_results;
-    QList<qsizetype> m_originalOf; // of each result
-    std::vector<bool> m_isTaken;   // of each original
+    const KeptRecords &m_originals;
+    const KeptRecords &m_results;
+    std::vector<qsizetype> m_originalOf; // of each result
+    std::vector<bool> m_isTaken;         // of each original
 };
-
-const FileRecord &recordOf(const Side &side, qsizetype index)
-{
-    return side.records[static_cast<size_t>(index)];
-}
 
 } // namespace
 
-Pairing pairUp(const Side &originals, const Side &results)
+KeptRecord::KeptRecord(const FileRecord &record)
+    : content(mixed(record.content, record.bytes)), pixels(record.pixels), instance(record.instance),
+      state(record.state)
+{
+}
+
+Pairing pairUp(const KeptRecords &originals, const KeptRecords &results, const std::vector<qsizetype> &named)
 {
     Pairs pairs(originals, results);
-    pairs.pairBy<QString>([](const Side &side, qsizetype i) { return side.names[i]; });
-    pairs.pairBy<quint64>([](const Side &side, qsizetype i) { return recordOf(side, i).instance; });
-    pairs.pairBy<quint64>([](const Side &side, qsizetype i) { return recordOf(side, i).pixels; });
+    pairs.pairByName(named);
+    pairs.pairBy(&KeptRecord::instance);
+    pairs.pairBy(&KeptRecord::pixels);
     return pairs.pairing();
 }
 

@@ -3,7 +3,8 @@
 #include "check/FileRecord.h"
 
 #include <QList>
-#include <QStringList>
+
+#include <vector>
 
 namespace dravolin::check {
 
@@ -18,15 +19,23 @@ struct Pairing
     qsizetype pairs = 0;
 };
 
-// One side: records and names in the same order. A name is what an original and its result have in common
-// when nothing was renamed.
-struct Side
+// What is kept of each of many files.
+struct KeptRecord
 {
-    const std::vector<FileRecord> &records;
-    const QStringList &names;
-};
+    explicit KeptRecord(const FileRecord &record);
 
-// Pairs by name, then by SOP Instance UID, then by pixel data; each file once.
-[[nodiscard]] Pairing pairUp(const Side &originals, const Side &results);
+    quint64 content; // as in FileRecord, its length among it
+    quint64 pixels;
+    quint64 instance;
+    FileRecord::State state;
+};
+using KeptRecords = std::vector<KeptRecord>;
+
+constexpr qsizetype nobody = -1;
+
+// Pairs by name, then by SOP Instance UID, then by pixel data; each file once. `named` has the index of the
+// result that has an original's name, or nobody, for each original.
+[[nodiscard]] Pairing pairUp(const KeptRecords &originals, const KeptRecords &results,
+                             const std::vector<qsizetype> &named);
 
 } // namespace dravolin::check

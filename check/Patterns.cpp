@@ -29,14 +29,14 @@ quint64 pairKey(quint32 first, quint32 second)
     return (quint64{std::min(first, second)} << 32) | std::max(first, second);
 }
 
-Grade gradeIn(const Pattern &pattern, TextKind kind)
+Grade gradeIn(const PatternTraits &pattern, TextKind kind)
 {
     if (kind == TextKind::Numbers && pattern.digits && pattern.letters < surelyNoNumber)
         return Grade::Possible;
     return pattern.grade;
 }
 
-bool isTooShortFor(const Pattern &pattern, TextKind kind)
+bool isTooShortFor(const PatternTraits &pattern, TextKind kind)
 {
     return kind == TextKind::Bytes &&
            pattern.letters < (pattern.ideographs ? shortestIdeographs : shortestInBytes);
@@ -60,6 +60,19 @@ std::optional<Grade> gradeNamed(const QString &name)
         if (nameOf(grade) == name)
             return grade;
     return std::nullopt;
+}
+
+Pattern Patterns::at(quint32 index) const
+{
+    const KeptPattern &pattern = m_patterns[index];
+    return {pattern, m_values.sliced(pattern.start, pattern.length)};
+}
+
+Patterns::KeptPattern Patterns::kept(const Pattern &pattern)
+{
+    const qsizetype start = m_values.size();
+    m_values += pattern.value;
+    return {pattern, static_cast<quint32>(pattern.value.size()), start};
 }
 
 const Patterns::Slot *Patterns::slot(quint64 state) const
@@ -116,9 +129,9 @@ quint32 Patterns::add(const Pattern &pattern, std::span<const Word> words)
     quint32 &index = patternOf(words);
     if (index == none) {
         index = addNamed(pattern);
-    } else if (Pattern &known = m_patterns[index]; pattern.valueClass < known.valueClass) {
+    } else if (KeptPattern &known = m_patterns[index]; pattern.valueClass < known.valueClass) {
         const Grade grade = std::min(known.grade, pattern.grade);
-        known = pattern;
+        known = kept(pattern);
         known.grade = grade;
     } else {
         known.grade = std::min(known.grade, pattern.grade);
@@ -135,7 +148,7 @@ void Patterns::addSpelling(quint32 pattern, std::span<const Word> words)
 
 quint32 Patterns::addNamed(const Pattern &pattern)
 {
-    m_patterns.push_back(pattern);
+    m_patterns.push_back(kept(pattern));
     m_ideographs = m_ideographs || pattern.ideographs;
     return static_cast<quint32>(m_patterns.size() - 1);
 }
@@ -145,7 +158,8 @@ void Patterns::addPair(quint32 first, quint32 second, quint32 whole)
     m_pairs.try_emplace(pairKey(first, second), whole);
 }
 
-bool Patterns::fits(const Pattern &pattern, std::span<const Word> words, size_t first, size_t last) const
+bool Patterns::fits(const PatternTraits &pattern, std::span<const Word> words, size_t first,
+                    size_t last) const
 {
     return !isWholeWord(pattern.valueClass) || (startsApart(words, first) && startsApart(words, last + 1));
 }
@@ -210,7 +224,7 @@ std::vector<Match> Patterns::find(std::span<const Word> words, TextKind kind) co
     std::sort(found.begin(), found.end(), [](const Hit &a, const Hit &b) { return a.pattern < b.pattern; });
     std::vector<Match> matches;
     for (const Hit &hit : found) {
-        const Pattern &pattern = m_patterns[hit.pattern];
+        const PatternTraits &pattern = m_patterns[hit.pattern];
         if (isTooShortFor(pattern, kind)) // only now: it may have been a part of a whole name
             continue;
         if (matches.empty() || matches.back().pattern != hit.pattern)

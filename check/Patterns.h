@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <deque>
 #include <optional>
 #include <span>
 #include <unordered_map>
@@ -21,17 +22,22 @@ enum class Grade : quint8 { Certain, Likely, Possible };
 // The grade of that name; nothing for any other text.
 [[nodiscard]] std::optional<Grade> gradeNamed(const QString &name);
 
-// A value that is searched for, or a part of it.
-struct Pattern
+// What decides about finding a value.
+struct PatternTraits
 {
     ValueClass valueClass = ValueClass::FreeText;
     Grade grade = Grade::Possible;
-    Tag source = 0;      // the attribute that the value came from; 0 for none
-    quint32 letters = 0; // folded letters and digits
     bool digits = false; // nothing else
     bool ideographs = false;
     bool component = false; // a part of a person's name
-    QByteArray value;       // as it was written, UTF-8
+    Tag source = 0;         // the attribute that the value came from; 0 for none
+    quint32 letters = 0;    // folded letters and digits
+};
+
+// A value that is searched for, or a part of it.
+struct Pattern : PatternTraits
+{
+    QByteArray value; // as it was written, UTF-8
 };
 
 // One spelling of a value, found in a text.
@@ -65,7 +71,7 @@ public:
     // that was found.
     [[nodiscard]] std::vector<Match> find(std::span<const Word> words, TextKind kind) const;
 
-    [[nodiscard]] const Pattern &at(quint32 index) const { return m_patterns[index]; }
+    [[nodiscard]] Pattern at(quint32 index) const;
     [[nodiscard]] size_t size() const { return m_patterns.size(); }
     [[nodiscard]] bool hasIdeographs() const { return m_ideographs; }
 
@@ -78,23 +84,30 @@ private:
         quint32 pattern = none;
         bool longer = false; // some pattern goes on behind these words
     };
+    struct KeptPattern : PatternTraits
+    {
+        quint32 length = 0; // of the value
+        qsizetype start = 0;
+    };
     struct Hit
     {
         quint32 pattern = none;
         size_t word = 0; // the last one
     };
 
+    [[nodiscard]] KeptPattern kept(const Pattern &pattern);
     [[nodiscard]] const Slot *slot(quint64 state) const;
     Slot &makeSlot(quint64 state);
     void grow();
     quint32 &patternOf(std::span<const Word> words);
     [[nodiscard]] std::vector<Hit> hits(std::span<const Word> words) const;
-    [[nodiscard]] bool fits(const Pattern &pattern, std::span<const Word> words, size_t first,
+    [[nodiscard]] bool fits(const PatternTraits &pattern, std::span<const Word> words, size_t first,
                             size_t last) const;
     void findPairs(std::vector<Hit> &hits) const;
     void findDatePrefix(const Word &word, size_t at, std::vector<Hit> &hits) const;
 
-    std::vector<Pattern> m_patterns;
+    std::deque<KeptPattern> m_patterns;
+    QByteArray m_values; // of all of them, one behind the other
     std::vector<Slot> m_slots;
     size_t m_used = 0;
     std::unordered_map<quint64, quint32> m_pairs; // two components, the lower index first

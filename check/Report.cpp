@@ -31,7 +31,7 @@ bool liesIn(const QString &path, const QString &folder)
 
 ToldFinding told(const QString &file, const Finding &finding, const Patterns &patterns)
 {
-    const Pattern &pattern = patterns.at(finding.match.pattern);
+    const Pattern pattern = patterns.at(finding.match.pattern);
     return {file,
             textOf(finding.place),
             sourceText(pattern),

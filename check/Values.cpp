@@ -55,7 +55,7 @@ Grade gradeOf(const Pattern &pattern, const std::vector<Word> &words)
 
 Pattern patternOf(ValueClass valueClass, Tag source, const QString &value, const std::vector<Word> &words)
 {
-    Pattern pattern{.valueClass = valueClass, .source = source, .digits = true, .value = toBytes(value)};
+    Pattern pattern{{.valueClass = valueClass, .digits = true, .source = source}, toBytes(value)};
     for (const Word &word : words) {
         pattern.letters += word.letters;
         pattern.digits = pattern.digits && word.digits;
@@ -84,6 +84,13 @@ bool isCounter(const Word &word, quint32 lettersBefore, QStringView text)
 
 } // namespace
 
+bool Values::isNew(quint64 key)
+{
+    const qsizetype known = m_seen.size();
+    m_seen.insert(key);
+    return m_seen.size() > known;
+}
+
 bool Values::isLeftOut(const std::vector<Word> &words) const
 {
     return isDummy(words) || m_leftOut.contains(combined(words));
@@ -108,7 +115,7 @@ void Values::addOne(ValueClass valueClass, Tag source, const QString &value)
 {
     std::vector<Word> words = wordsOf(value);
     const quint64 key = mixed(combined(words), static_cast<quint64>(valueClass));
-    if (words.empty() || isLeftOut(words) || !m_seen.insert(key).second)
+    if (words.empty() || isLeftOut(words) || !isNew(key))
         return;
     if (valueClass == ValueClass::Date && !isExactTime(value))
         return addDate(source, value);

@@ -2,6 +2,7 @@
 
 #include "check/Patterns.h"
 
+#include <QSet>
 #include <QString>
 
 #include <unordered_set>
@@ -32,6 +33,7 @@ public:
     }
 
 private:
+    [[nodiscard]] bool isNew(quint64 key);
     void addOne(ValueClass valueClass, Tag source, const QString &value);
     void addPerson(Tag source, const QString &name);
     quint32 addNamePart(Tag source, const QString &part);
@@ -42,7 +44,7 @@ private:
 
     Patterns m_patterns;
     std::unordered_set<quint64> m_leftOut;
-    std::unordered_set<quint64> m_seen; // values and their classes
+    QSet<quint64> m_seen; // values and their classes
     std::array<quint64, 11> m_byClass = {};
     quint64 m_searched = 0;
     quint64 m_tooShort = 0;

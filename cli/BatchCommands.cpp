@@ -92,10 +92,8 @@ int runPlan(const QStringList &arguments)
         return wrongCall;
     if (!call->quiet)
         print(planText(plan));
-    const bool complete = std::all_of(plan.cases.begin(), plan.cases.end(), [](const PlannedCase &planned) {
-        return std::all_of(planned.files.begin(), planned.files.end(),
-                           [](const PlannedFile &file) { return file.problem.isEmpty(); });
-    });
+    const bool complete = std::all_of(plan.cases.begin(), plan.cases.end(),
+                                      [](const PlannedCase &planned) { return planned.troubled.isEmpty(); });
     return complete ? nothingFound : somethingFound;
 }
 

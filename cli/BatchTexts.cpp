@@ -17,12 +17,6 @@ QString numbers(qsizetype files, qsizetype folders, quint64 bytes)
         .arg(QString::number(files), QString::number(folders), bytesText(bytes));
 }
 
-qsizetype troubled(const PlannedCase &planned)
-{
-    return std::count_if(planned.files.begin(), planned.files.end(),
-                         [](const PlannedFile &file) { return !file.problem.isEmpty(); });
-}
-
 QString caseText(const CaseCounts &counts)
 {
     QString text =
@@ -103,14 +97,13 @@ QString planText(const Plan &plan)
     quint64 bytes = 0;
     for (const PlannedCase &planned : plan.cases) {
         text += Texts::tr("case %1: %2")
-                    .arg(planned.row.caseId, numbers(planned.files.size(), planned.folders, planned.bytes));
-        if (const qsizetype count = troubled(planned); count > 0)
+                    .arg(planned.row.caseId, numbers(planned.files, planned.folders, planned.bytes));
+        if (const qsizetype count = planned.troubled.size(); count > 0)
             text += Texts::tr(", %1 of them cannot be done").arg(count);
         text += u'\n';
-        for (const PlannedFile &file : planned.files)
-            if (!file.problem.isEmpty())
-                text += QStringLiteral("  %1: %2\n").arg(file.path, file.problem);
-        files += planned.files.size();
+        for (const PlannedFile &file : planned.troubled)
+            text += QStringLiteral("  %1: %2\n").arg(file.path, file.problem);
+        files += planned.files;
         folders += planned.folders;
         bytes += planned.bytes;
     }

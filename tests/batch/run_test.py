@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
 """Whole runs of dravolin-cli over generated objects: run_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
 
+import contextlib
 import fcntl
 import os
 import pathlib
 import random
 import shutil
 import signal
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -188,6 +190,37 @@ class Run(unittest.TestCase):
         with open(self.folder / "list.run/lock", "rb") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
             self.assertIn("another call is at work", self.call("run", "list.csv", status=2))
+
+    def set_journal_version(self, version):
+        with contextlib.closing(sqlite3.connect(self.folder / "list.run/journal.sqlite")) as journal:
+            journal.execute(f"PRAGMA user_version={version}")
+
+    def test_goes_on_with_a_journal_without_a_version_and_refuses_a_later_one(self):
+        make("mixed", self.folder / "in", "--count", "3", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        self.set_journal_version(0)
+        self.assertIn("Nothing is left to be done.", self.call("run", "list.csv"))
+        self.set_journal_version(2)
+        self.assertIn("was written by a later version", self.call("run", "list.csv", status=2))
+
+    def test_takes_stale_results_away_when_names_change(self):
+        make("mixed", self.folder / "in", "--count", "6", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        files = [path for path in sorted((self.folder / "in").rglob("*")) if path.is_file()]
+        shutil.copy(files[0], self.folder / "in/0 first")  # two with one UID: the second gets a number
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        numbered = [path for path in self.results("out") if path.stem.endswith("_2")]
+        self.assertEqual((len(self.results("out")), len(numbered)), (7, 1))
+        (self.folder / "in/0 first").unlink()
+        files[1].unlink()
+        self.call("run", "list.csv")
+        shutil.copytree(self.folder / "out", self.folder / "changed")
+        self.write_list(("in", "whole", "17", "rules.txt", "Case", ""), name="whole.csv")
+        self.call("run", "whole.csv", "--key", "list.run/secret/project.key")
+        self.assertEqual(tree(self.folder / "changed"), tree(self.folder / "whole"))
 
 
 if __name__ == "__main__":

@@ -123,7 +123,7 @@ void TestPlan::writesNothing()
     (void)planOf("in,out,1,,,\n");
     const QStringList before = listNames(m_scratch->path());
     Plan plan = planOf("in,out,1,,,\n");
-    scanSources(plan, 2, [] { return false; });
+    scanSources(plan, 2, nullptr, [] { return false; });
     QCOMPARE(plan.cases.value(0).folders, 2);
     QCOMPARE(listNames(m_scratch->path()), before);
 }

@@ -207,7 +207,7 @@ void TestChecking::pairsFiles()
     scratch.link(QStringLiteral("after/link"), scratch.path(QStringLiteral("before/lost")));
     scratch.pipe(QStringLiteral("after/pipe"));
     const CheckReport report = checkWith(options);
-    const auto names = [](const QList<qsizetype> &indices, const QStringList &files) {
+    const auto names = [](const QList<qsizetype> &indices, const PathList &files) {
         QStringList some;
         for (const qsizetype index : indices)
             some.append(files[index]);
@@ -285,8 +285,8 @@ void TestChecking::takesBackupsAsOriginals()
     options.originals = options.result = scratch.path();
     options.backups = true;
     const CheckReport report = checkWith(options);
-    QCOMPARE(report.originalFiles, QStringList{QStringLiteral("a.dcm.bak")});
-    QCOMPARE(report.resultFiles, QStringList{QStringLiteral("a.dcm")});
+    QCOMPARE(report.originalFiles.toList(), QStringList{QStringLiteral("a.dcm.bak")});
+    QCOMPARE(report.resultFiles.toList(), QStringList{QStringLiteral("a.dcm")});
     QCOMPARE(report.pairing.pairs, 1);
     QCOMPARE(report.values->searched(), quint64{3});
 }

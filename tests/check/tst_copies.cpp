@@ -85,7 +85,9 @@ void TestCopies::knowsWhatWasSet()
     m_options.setValues = setValues;
     m_options.uids = uids;
     if (renamed)
-        m_options.renamed = {{QStringLiteral("Meierhof/1"), QStringLiteral("Meierhof.dcm")}};
+        m_options.renamed = [](const RenamedVisit &visit) {
+            visit(QStringLiteral("Meierhof/1"), QStringLiteral("Meierhof.dcm"));
+        };
     (void)checkNow();
     m_found.removeAll(QStringLiteral("(0002,0003) 1.2.3.999.1")); // of every test object
     QTEST(m_found, "found");
@@ -99,8 +101,10 @@ void TestCopies::pairsRenamedFiles()
     m_scratch->file(QStringLiteral("before/2"), object(text + pixels));
     m_scratch->file(QStringLiteral("after/x"), object(text + element(0x7FE00010, "OW", "others")));
     m_scratch->file(QStringLiteral("after/y"), object(text + pixels));
-    m_options.renamed = {{QStringLiteral("1"), QStringLiteral("y")},
-                         {QStringLiteral("2"), QStringLiteral("x")}};
+    m_options.renamed = [](const RenamedVisit &visit) {
+        visit(QStringLiteral("1"), QStringLiteral("y"));
+        visit(QStringLiteral("2"), QStringLiteral("x"));
+    };
     const Pairing pairing = checkNow().pairing;
     QCOMPARE(pairing.pairs, 2);
     QCOMPARE(pairing.pixelsChanged, QList<qsizetype>{0});
@@ -114,7 +118,7 @@ void TestCopies::takesOneFileForOriginals()
     m_scratch->file(QStringLiteral("before/2"), object(element(0x00100020, "LO", "B-12345")));
     m_scratch->file(QStringLiteral("after/x"), object(element(0x00104000, "LT", "A-12345 B-12345")));
     m_options.uids = false;
-    QCOMPARE(checkNow().originalFiles, QStringList{QStringLiteral("1")});
+    QCOMPARE(checkNow().originalFiles.toList(), QStringList{QStringLiteral("1")});
     QCOMPARE(m_found, QStringList{QStringLiteral("(0010,4000) A-12345")});
 }
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "batch/Journal.h"
+#include "batch/Plan.h"
+#include "batch/ProjectKey.h"
+
+#include <QSet>
+#include <QStringList>
+
+namespace dravolin {
+
+// What earlier calls made of a case and nobody wants any more.
+struct StaleResults
+{
+    QSet<QString> results; // paths in the destination
+    QStringList gone;      // files that the journal knows and the source has no more
+};
+
+// Goes through a case's files, and through what the journal knows of it: results that had another name, and
+// those of files that are gone, unless another file's result has that name now. Few are, as a rule: these
+// alone are kept. Nothing when `files` cannot be read.
+[[nodiscard]] StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files,
+                                        const ProjectKey &key, const Journal &journal);
+
+} // namespace dravolin

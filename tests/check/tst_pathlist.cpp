@@ -1,0 +1,61 @@
+#include "base/PathText.h"
+#include "check/FileTree.h"
+#include "support/ScratchFolder.h"
+#include "support/TestEntry.h"
+
+using namespace dravolin;
+using check::PathList;
+
+// Paths of many files.
+class TestPathList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void givesPathsBackAsTheyWere();
+    void findsPathsInOrder();
+    void listsATreeInTheOrderOfWholePaths();
+};
+
+void TestPathList::givesPathsBackAsTheyWere()
+{
+    const QStringList paths = {QStringLiteral("a"), QString(), QStringLiteral("b/\u00e4\U0001F600"),
+                               fromBytes("\xff\x80/x")};
+    PathList list;
+    QVERIFY(list.isEmpty());
+    for (const QString &path : paths)
+        list.append(path);
+    QCOMPARE(list.size(), 4);
+    QCOMPARE(list[3], paths[3]);
+    QCOMPARE(list.toList(), paths);
+}
+
+void TestPathList::findsPathsInOrder()
+{
+    PathList list;
+    QCOMPARE(list.indexOf(QStringLiteral("a")), -1);
+    const QStringList paths = {QStringLiteral("a"), QStringLiteral("a-"), QStringLiteral("a/b"),
+                               QStringLiteral("b"), fromBytes("\xff")};
+    for (const QString &path : paths)
+        list.append(path);
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        QCOMPARE(list.indexOf(paths[i]), i);
+    for (const QString &path : {QString(), QStringLiteral("a/"), QStringLiteral("c"), fromBytes("\xff\xff")})
+        QCOMPARE(list.indexOf(path), -1);
+}
+
+void TestPathList::listsATreeInTheOrderOfWholePaths()
+{
+    const test::ScratchFolder scratch;
+    QStringList paths = {QStringLiteral("a/x"), QStringLiteral("a/b/x"), QStringLiteral("a-x"),
+                         QStringLiteral("a.x"), QStringLiteral("ab"),    QStringLiteral("a/b.x")};
+    scratch.folder(QStringLiteral("a"));
+    scratch.folder(QStringLiteral("a/b"));
+    for (const QString &path : paths)
+        scratch.file(path);
+    paths.sort();
+    QCOMPARE(check::listTree(scratch.path()).files.toList(), paths);
+}
+
+DRAVOLIN_TEST(TestPathList)
+#include "tst_pathlist.moc"
