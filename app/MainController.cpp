@@ -145,6 +145,7 @@ void MainController::showLogAgain()
 
 void MainController::initAndShow()
 {
+    m_window->scrollWhereScreenIsSmall();
     centerOnScreen(*m_window);
     m_window->show();
     m_controls->dragDropView->setDelegate(this);

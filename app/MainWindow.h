@@ -12,6 +12,11 @@ class MainWindow : public QWidget
 public:
     using QWidget::QWidget;
 
+    // Puts what the window shows into an area that can be scrolled, if the screen has no room for the least
+    // that it needs. The area ends above the screen's lower edge, however high the window grows. Before it is
+    // shown.
+    void scrollWhereScreenIsSmall();
+
 Q_SIGNALS:
     // The window is about to go, whoever closed it.
     void willClose();
@@ -21,9 +26,13 @@ Q_SIGNALS:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void followScreenEdge();
+
+    bool m_scrolls = false;
     bool m_painted = false;
     int m_belowScreen = 0; // pixels of its height
 };

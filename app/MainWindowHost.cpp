@@ -6,6 +6,7 @@
 #include "app/ResultTexts.h"
 #include "app/RootValidity.h"
 #include "app/RunDialogs.h"
+#include "app/ScreenEdge.h"
 #include "app/WindowGrowth.h"
 #include "base/Texts.h"
 #include "config/DirectoryLocations.h"
@@ -188,6 +189,7 @@ void MainWindowHost::showBusy(bool busy)
     m_parts.controls.outputTextField->setTextInteractionFlags(
         busy ? Qt::NoTextInteraction : Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     setBusy(m_parts.window, busy);
+    bringIntoSight(*m_parts.controls.outputTextField);
 }
 
 void MainWindowHost::clearResult()

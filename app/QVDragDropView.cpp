@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QUrl>
 
 #include <algorithm>
@@ -176,32 +175,25 @@ QRectF QVDragDropView::paintHint(QPainter &painter) const
 
 void QVDragDropView::paintFrame(QPainter &painter) const
 {
+    constexpr int line = 2;
+    constexpr int corner = 10;
     const QRect area = shownArea();
-    const QPen pen =
-        hasFocus() ? QPen(focusColour(palette()), 2) : QPen(borderColour(palette()), 2, Qt::DashLine);
-    // kept as a picture: the dashes take longer than all else in the window, and each run's begin waits for
-    // them
-    const QString key =
-        QStringLiteral("drop area %1x%2 %3 %4 %5")
-            .arg(area.width())
-            .arg(area.height())
-            .arg(devicePixelRatioF())
-            .arg(pen.color().name() + (pen.isSolid() ? u'-' : u' '), palette().base().color().name());
-    QPixmap frame;
-    if (!QPixmapCache::find(key, &frame)) {
-        frame = QPixmap(area.size() * devicePixelRatioF());
-        if (frame.isNull())
-            return; // no memory now; the next time there may be some
-        frame.setDevicePixelRatio(devicePixelRatioF());
-        frame.fill(Qt::transparent);
-        QPainter framePainter(&frame);
-        framePainter.setRenderHint(QPainter::Antialiasing);
-        framePainter.setPen(pen);
-        framePainter.setBrush(palette().base());
-        framePainter.drawRoundedRect(QRectF(area).adjusted(1, 1, -1, -1), 10, 10);
-        QPixmapCache::insert(key, frame);
+    painter.setPen(QPen(hasFocus() ? focusColour(palette()) : borderColour(palette()), line));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(QRectF(area).adjusted(1, 1, -1, -1), corner, corner);
+    if (hasFocus())
+        return;
+    // a pen with dashes takes longer than all else in the window, and each run's begin waits for it
+    constexpr int gap = 4;
+    constexpr int step = 12;
+    for (int x = corner; x < area.width() - corner; x += step) {
+        painter.fillRect(x, area.top(), gap, line, palette().base());
+        painter.fillRect(x, area.bottom() + 1 - line, gap, line, palette().base());
     }
-    painter.drawPixmap(0, 0, frame);
+    for (int y = corner; y < area.height() - corner; y += step) {
+        painter.fillRect(area.left(), y, line, gap, palette().base());
+        painter.fillRect(area.right() + 1 - line, y, line, gap, palette().base());
+    }
 }
 
 void QVDragDropView::keyPressEvent(QKeyEvent *event)

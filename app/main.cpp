@@ -1,11 +1,13 @@
 #include "app/QVAppDelegate.h"
 #include "app/Application.h"
+#include "app/FontsAhead.h"
 #include "config/AppPaths.h"
 #include "run/StartUp.h"
 
 int main(int, char *argv[])
 {
     dravolin::prepareProcess();
+    dravolin::readFontsAhead();
     int ownName = 1; // the program reads no options, the toolkit's own included
     dravolin::Application application(ownName, argv);
     QApplication::setApplicationName(dravolin::executableName());

@@ -20,6 +20,14 @@ int openHandle()
 
 } // namespace
 
+void FileHandleReserve::makeRoom()
+{
+    constexpr int lastPlace = 255; // a window has about 20 others
+    const int handle = openHandle();
+    ::close(::fcntl(handle, F_DUPFD_CLOEXEC, lastPlace)); // a process that may not have so many does without
+    ::close(handle);
+}
+
 void FileHandleReserve::fill()
 {
     if (!m_handles.empty())

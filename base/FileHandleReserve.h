@@ -18,6 +18,10 @@ public:
     void fill();
     // Gives all of them to others when no other is to be had. Costs two system calls.
     void releaseWhenScarce();
+    // Lets the process's table of handles have places for all of them. To be called before there is a second
+    // thread: from then on the table grows only when the kernel has waited for all processors, several
+    // milliseconds long.
+    static void makeRoom();
 
 private:
     void release();

@@ -1,5 +1,6 @@
 #include "run/StartUp.h"
 
+#include "base/FileHandleReserve.h"
 #include "base/SystemLog.h"
 #include "run/jobs/JobRunner.h"
 
@@ -40,6 +41,7 @@ void prepareProcess()
             qputenv("HOME", user->pw_dir);
     }
     std::signal(SIGPIPE, SIG_IGN);
+    FileHandleReserve::makeRoom();
     usualHandler = qInstallMessageHandler(writeUnlessStuck);
 }
 

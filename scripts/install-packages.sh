@@ -18,7 +18,7 @@ set -eu
 packages_of() {
     case "$1" in
         build) echo build-essential cmake ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools dcmtk libdcmtk-dev libgdcm-dev \
-            libssl-dev zlib1g-dev libqt6sql6-sqlite ;;
+            libfontconfig-dev libssl-dev zlib1g-dev libqt6sql6-sqlite ;;
         run) echo dcmtk libdcmtk17 libgdcm3.0 libssl3 libqt6sql6-sqlite libqt6widgets6 libqt6gui6 \
             libqt6dbus6 qt6-translations-l10n xdg-utils fonts-dejavu-core ;;
         screen) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \

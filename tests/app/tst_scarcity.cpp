@@ -71,6 +71,7 @@ void TestScarcity::aRunWithoutAThreadEndsAtOnce()
     TestApp app;
     app.delays.beforeSummary = 3'600'000; // the window's own thread does not wait for it
     app.start();
+    QTRY_VERIFY(!app.controls->dragDropView->image().isNull()); // the toolkit decodes it on threads
     app.controls->uidRootTextField->setText(test::validRoot);
     const QStringList folder = {app.run.makeFolder(QStringLiteral("data/study"))};
     const LogCatcher log;

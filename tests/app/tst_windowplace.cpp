@@ -1,9 +1,15 @@
+#include "app/MainWindow.h"
+#include "app/ScreenEdge.h"
 #include "app/TestApp.h"
 #include "support/TestEntry.h"
 #include "ui_MainWindow.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTest>
+#include <QVBoxLayout>
 
 using namespace dravolin;
 using namespace dravolin::test;
@@ -21,6 +27,8 @@ private Q_SLOTS:
     void theWindowFitsOnALowScreen();
     void theDropAreaEndsAboveTheScreensEdge();
     void nothingIsPaintedBelowTheDropAreasEnd();
+    void whatTheScreenHasNoRoomForCanBeScrolled();
+    void whatFitsIsNotScrolled();
 
 private:
     QTemporaryDir m_home;
@@ -84,6 +92,51 @@ void TestWindowPlace::nothingIsPaintedBelowTheDropAreasEnd()
         QVERIFY(picture.copy(0, shown.height() - 8, shown.width(), 8) !=
                 plain.copy(0, 0, shown.width(), 8)); // the frame is there
     }
+}
+
+void TestWindowPlace::whatTheScreenHasNoRoomForCanBeScrolled()
+{
+    MainWindow window;
+    auto *const layout = new QVBoxLayout(&window);
+    auto *const first = new QWidget;
+    first->setFixedHeight(1000);
+    auto *const last = new QLabel(QStringLiteral("Status"));
+    layout->addWidget(first);
+    layout->addWidget(last);
+    const QList<QLineEdit *> fields = {new QLineEdit, new QLineEdit, new QLineEdit};
+    for (QLineEdit *field : fields)
+        layout->addWidget(field);
+    QWidget::setTabOrder(fields.at(0), fields.at(2));
+    window.resize(300, 1200);
+    window.scrollWhereScreenIsSmall();
+    centerOnScreen(window);
+    QCOMPARE(window.height(), roomOnScreen(window).height());
+    window.show();
+    const int screenBottom = window.screen()->availableGeometry().bottom();
+    const auto isInSight = [&] {
+        return last->visibleRegion() == QRegion(last->rect()) &&
+               last->mapToGlobal(last->rect().bottomLeft()).y() <= screenBottom;
+    };
+    QVERIFY(!isInSight());
+    window.resize(300, 1500); // as a run lets it grow
+    bringIntoSight(*last);
+    QTRY_VERIFY(isInSight());
+    QCOMPARE(window.height(), 1500);
+    QCOMPARE(heightBelowScreen(*last), 0);
+    QCOMPARE(fields.at(0)->nextInFocusChain(), fields.at(2));
+    QCOMPARE(fields.at(2)->nextInFocusChain(), fields.at(1));
+    QCOMPARE(window.findChild<QScrollArea *>()->focusPolicy(), Qt::NoFocus);
+}
+
+void TestWindowPlace::whatFitsIsNotScrolled()
+{
+    QVERIFY(!m_app->controller->window().findChild<QScrollArea *>());
+    MainWindow window; // it can be made lower
+    (new QVBoxLayout(&window))->addWidget(new QLabel(QStringLiteral("Status")));
+    window.resize(300, 1200);
+    window.scrollWhereScreenIsSmall();
+    QVERIFY(!window.findChild<QScrollArea *>());
+    bringIntoSight(window);
 }
 
 DRAVOLIN_TEST(TestWindowPlace)

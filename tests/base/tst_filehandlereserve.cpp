@@ -2,12 +2,14 @@
 #include "base/Files.h"
 #include "support/TestEntry.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <vector>
 
 using namespace dravolin;
@@ -69,6 +71,7 @@ private Q_SLOTS:
     void keepsThemWhileThereAreOthers();
     void givesThemWhenThereAreNoOthers();
     void takesNoneWhenThatWouldLeaveFew();
+    void makesRoomForThemAndKeepsNone();
 };
 
 void TestFileHandleReserve::keepsHandlesAndGivesThemBack()
@@ -120,6 +123,20 @@ void TestFileHandleReserve::takesNoneWhenThatWouldLeaveFew()
     }
     QCOMPARE(::setrlimit(RLIMIT_NOFILE, &limit), 0);
     QCOMPARE(with, before);
+}
+
+void TestFileHandleReserve::makesRoomForThemAndKeepsNone()
+{
+    const qsizetype before = openHandles();
+    FileHandleReserve::makeRoom();
+    QCOMPARE(openHandles(), before);
+    QFile status(QStringLiteral("/proc/self/status"));
+    QVERIFY(status.open(QIODevice::ReadOnly));
+    const QByteArrayList lines = status.readAll().split('\n');
+    const auto places = std::find_if(lines.cbegin(), lines.cend(),
+                                     [](const QByteArray &line) { return line.startsWith("FDSize:"); });
+    QVERIFY(places != lines.cend());
+    QVERIFY2(places->simplified().split(' ').last().toInt() >= 256, places->constData());
 }
 
 DRAVOLIN_TEST(TestFileHandleReserve)
