@@ -116,7 +116,7 @@ private:
         m_looks.clear();
     }
 
-    static constexpr size_t atOnce = 1000;
+    static constexpr size_t atOnce = 2000;
     struct Look
     {
         PlannedCase *planned;
