@@ -28,14 +28,15 @@ constexpr qsizetype sliceLength = 16384;  // so many characters cost far less th
 constexpr qsizetype giantLine = 16384;    // characters
 constexpr qsizetype longestBlock = 40960; // characters
 
-// With so many characters each block counts, and none may take long to lay out.
+// With so many characters or lines each block counts, and none may take long to lay out.
 constexpr qsizetype longText = 1'000'000;
+constexpr qsizetype manyLines = 30'000;
 constexpr qsizetype lengthOfLong = 4096;
 constexpr qsizetype longestOfLong = 16384;
 
 bool isLong(QStringView text)
 {
-    return text.size() > longText;
+    return text.size() > longText || text.count(u'\n') > manyLines;
 }
 
 bool hasGiantLine(QStringView text)
@@ -116,6 +117,7 @@ void LogWindowController::showWithText(const QString &text)
     m_logTextView->setWordWrapMode(hasGiantLine(text) ? QTextOption::WrapAnywhere
                                                       : QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_text = text;
+    m_isLong = isLong(text);
     m_shown = 0;
     appendForOneTurn();
     m_logTextView->moveCursor(QTextCursor::Start); // the first insertion has taken the caret along
@@ -138,7 +140,7 @@ void LogWindowController::appendForOneTurn()
     end.beginEditBlock(); // the view looks at what is new once a turn
     while (m_shown < m_text.size() && timer.elapsed() < turn) {
         const QString slice = nextSlice();
-        if (isLong(m_text))
+        if (m_isLong)
             insertAsOneBlock(end, slice);
         else
             end.insertText(slice);
@@ -157,8 +159,8 @@ void LogWindowController::appendForOneTurn()
 QString LogWindowController::nextSlice() const
 {
     const QStringView rest = QStringView(m_text).sliced(m_shown);
-    const qsizetype length = isLong(m_text) ? lengthOfLong : sliceLength;
-    const qsizetype longest = isLong(m_text) ? longestOfLong : longestBlock;
+    const qsizetype length = m_isLong ? lengthOfLong : sliceLength;
+    const qsizetype longest = m_isLong ? longestOfLong : longestBlock;
     if (rest.size() <= length)
         return rest.toString();
     qsizetype lineEnd = rest.lastIndexOf(u'\n', length - 1);

@@ -48,6 +48,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     QPlainTextEdit *m_logTextView = nullptr;
     QString m_text;
+    bool m_isLong = false;
     qsizetype m_shown = 0; // how much of m_text is in the view
     QTimer m_nextTurn;
     std::unique_ptr<LogSearch> m_search;

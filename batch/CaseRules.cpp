@@ -6,6 +6,22 @@
 
 namespace dravolin {
 
+Treatment treatmentByRules(const PlannedCase &planned, const BatchOptions &options)
+{
+    QStringList problems; // the list was judged: there are none
+    Treatment treatment;
+    treatment.rules = rulesOf(planned, options, &problems);
+    // a DICOMDIR takes no object without one
+    constexpr TagNumber patientName = 0x00100010;
+    AttributeRule &nameRule = treatment.rules[patientName];
+    if (planned.directory && nameRule.kind == AttributeRule::Kind::Erase)
+        nameRule = {AttributeRule::Kind::Set, {}, AttributeRule::Copies::Erase};
+    treatment.table = planned.table;
+    treatment.removePrivate = options.removePrivate;
+    treatment.keptPrivate = options.keptPrivate;
+    return treatment;
+}
+
 QByteArray rulesHash(const AttributeRules &rules, const LutTable &table, const BatchOptions &options,
                      const QByteArray &studyUid)
 {

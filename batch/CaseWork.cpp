@@ -6,6 +6,7 @@
 #include "batch/CaseDirectory.h"
 #include "batch/CaseRules.h"
 #include "batch/StaleResults.h"
+#include "check/FileInHand.h"
 
 #include <QMutexLocker>
 
@@ -153,17 +154,7 @@ bool CaseWork::isDone(const FileRecord &known, const PlannedFile &file, const QS
 
 Treatment CaseWork::treatmentOf(const PlannedCase &planned)
 {
-    QStringList problems; // the list was judged: there are none
-    Treatment treatment;
-    treatment.rules = rulesOf(planned, m_options, &problems);
-    // a DICOMDIR takes no object without one
-    constexpr TagNumber patientName = 0x00100010;
-    AttributeRule &nameRule = treatment.rules[patientName];
-    if (planned.directory && nameRule.kind == AttributeRule::Kind::Erase)
-        nameRule = {AttributeRule::Kind::Set, {}, AttributeRule::Copies::Erase};
-    treatment.table = planned.table;
-    treatment.removePrivate = m_options.removePrivate;
-    treatment.keptPrivate = m_options.keptPrivate;
+    Treatment treatment = treatmentByRules(planned, m_options);
     if (m_options.mapUids)
         treatment.newUid = [this, &planned](const QByteArray &old) { return newUid(planned, old); };
     if (m_options.moveDates)

@@ -93,6 +93,13 @@ public:
         planned.folders = walk.folders();
     }
 
+    void finish()
+    {
+        look();
+        endListing();
+    }
+
+private:
     // At what was added since the last time.
     void look()
     {
@@ -109,8 +116,7 @@ public:
         m_looks.clear();
     }
 
-private:
-    static constexpr size_t atOnce = 1000;
+    static constexpr size_t atOnce = 2000;
     struct Look
     {
         PlannedCase *planned;
@@ -133,12 +139,25 @@ private:
         if (planned.files++ == 0 && m_files)
             planned.firstFile = m_files->end();
         planned.bytes += file.size;
-        planned.listing = QCryptographicHash::hash(
-            planned.listing + toBytes(file.path) +
-                QStringLiteral("\t%1\t%2").arg(file.size).arg(file.modified).toLatin1(),
-            QCryptographicHash::Sha256);
         if (m_files)
-            m_files->add(file);
+            keep(planned, file);
+    }
+
+    void keep(PlannedCase &planned, const PlannedFile &file)
+    {
+        if (m_listed != &planned)
+            endListing();
+        m_listed = &planned;
+        m_listing.addData(toBytes(file.path) + '\t' + QByteArray::number(file.size) + '\t' +
+                          QByteArray::number(file.modified) + '\n');
+        m_files->add(file);
+    }
+
+    void endListing()
+    {
+        if (m_listed)
+            m_listed->listing = m_listing.result();
+        m_listing.reset();
     }
 
     static void takeNames(PlannedCase &planned, PlannedFile &file, const ObjectNames &names)
@@ -157,6 +176,8 @@ private:
     PlannedFiles *m_files;
     const std::function<bool()> &m_stop;
     std::vector<Look> m_looks;
+    PlannedCase *m_listed = nullptr; // whose files came last
+    QCryptographicHash m_listing{QCryptographicHash::Sha256};
 };
 
 void nameStudy(PlannedCase &planned)
@@ -174,11 +195,11 @@ void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::functi
     Scan own(workers, files, stop);
     for (PlannedCase &planned : plan.cases)
         own.add(planned);
-    own.look();
+    own.finish();
     Scan others(workers, nullptr, stop);
     for (PlannedCase &planned : plan.others)
         others.add(planned);
-    others.look();
+    others.finish();
     for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
         std::for_each(some->begin(), some->end(), nameStudy);
 }

@@ -1,5 +1,6 @@
 #include "cli/BatchTexts.h"
 
+#include "base/NOXUtils.h"
 #include "base/Texts.h"
 #include "cli/Progress.h"
 
@@ -11,10 +12,16 @@ namespace dravolin::cli {
 
 namespace {
 
+QString counted(const QString &text, qsizetype count)
+{
+    return text.arg(QString::number(count), NOXUtils::pluralSuffix(static_cast<quint64>(count)));
+}
+
 QString numbers(qsizetype files, qsizetype folders, quint64 bytes)
 {
-    return Texts::tr("%1 files in %2 folders, %3")
-        .arg(QString::number(files), QString::number(folders), bytesText(bytes));
+    return Texts::tr("%1 in %2, %3")
+        .arg(check::filesText(static_cast<quint64>(files)), counted(Texts::tr("%1 folder%2"), folders),
+             bytesText(bytes));
 }
 
 QString caseText(const CaseCounts &counts)
@@ -107,8 +114,8 @@ QString planText(const Plan &plan)
         folders += planned.folders;
         bytes += planned.bytes;
     }
-    return text + Texts::tr("%1 cases: %2\n")
-                      .arg(QString::number(plan.cases.size()), numbers(files, folders, bytes));
+    return text + counted(Texts::tr("%1 case%2"), plan.cases.size()) +
+           QStringLiteral(": %1\n").arg(numbers(files, folders, bytes));
 }
 
 QString outcomeText(const BatchOutcome &outcome)
@@ -137,8 +144,8 @@ QString mergeText(const QJsonObject &report)
         findings.append(findingsFrom(value[QLatin1String("check")].toObject()));
     }
     const CaseFindings found = together(findings);
-    return Texts::tr("%1 cases: %2 done, %3 not done;")
-               .arg(QString::number(cases.size()), QString::number(done), QString::number(notDone)) +
+    return counted(Texts::tr("%1 case%2"), cases.size()) +
+           Texts::tr(": %1 done, %2 not done;").arg(QString::number(done), QString::number(notDone)) +
            foundText(found) + u'\n' + groupsText(found.groups);
 }
 

@@ -52,6 +52,10 @@ void TestLongLog::showsVeryManyLinesInFewBlocks_data()
     QTest::addColumn<QString>("shown");
     QTest::newRow("lines") << text << text;
     QTest::newRow("no end of the last line") << text.chopped(1) << text.chopped(1);
+    const QString longer = (QString(99, u'x') + u'\n').repeated(12000);
+    QTest::newRow("longer lines") << longer << longer;
+    const QString empty = QString(30001, u'\n');
+    QTest::newRow("empty lines") << empty << empty;
     const QString odd = QString(1000000, u'\n') + QString(16000, u'x') + QStringLiteral("\n\nlast");
     QTest::newRow("empty lines and a long one") << odd << odd;
     QTest::newRow("line ends of two characters")
