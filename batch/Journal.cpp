@@ -6,7 +6,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QUuid>
-#include <QVariant>
 
 namespace dravolin {
 

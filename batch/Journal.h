@@ -8,6 +8,7 @@
 #include <QPair>
 #include <QSqlDatabase>
 #include <QString>
+#include <QVariant>
 
 #include <functional>
 #include <memory>
