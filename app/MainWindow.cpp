@@ -4,7 +4,6 @@
 
 #include <QCloseEvent>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -14,18 +13,14 @@ void MainWindow::scrollWhereScreenIsSmall()
 {
     const QSize room = roomOnScreen(*this);
     const auto fits = [&room](QSize size) { return size.boundedTo(room) == size; };
-    if (m_scrolls || fits(size()) || fits(minimumSizeHint()))
+    if (m_area || fits(size()) || fits(minimumSizeHint()))
         return;
-    m_scrolls = true;
-    auto *const area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidgetResizable(true);
-    area->setWidget(new QWidget);
-    area->widget()->setLayout(layout()); // controls that never leave the window keep their order
-    auto *const around = new QVBoxLayout(this);
-    around->setContentsMargins({});
-    around->addWidget(area);
+    m_area = new QScrollArea(this);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setWidgetResizable(true);
+    m_area->setWidget(new QWidget);
+    m_area->widget()->setLayout(layout()); // controls that never leave the window keep their order
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -49,11 +44,10 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 void MainWindow::followScreenEdge()
 {
     const int below = heightBelowScreen(*this);
-    if (std::exchange(m_belowScreen, below) == below)
-        return;
-    if (m_scrolls)
-        layout()->setContentsMargins(0, 0, 0, below); // all that is scrolled is then above the edge
-    update();                                         // what is painted depends on it
+    if (m_area) // no layout: it would let the area grow below the edge for a moment, and what is in it jump
+        m_area->setGeometry(0, 0, width(), height() - below);
+    if (std::exchange(m_belowScreen, below) != below)
+        update(); // what is painted depends on it
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -2,6 +2,10 @@
 
 #include <QWidget>
 
+QT_BEGIN_NAMESPACE
+class QScrollArea;
+QT_END_NAMESPACE
+
 namespace dravolin {
 
 // The main window's frame; its layout is resources/MainWindow.ui. Main thread only.
@@ -32,7 +36,7 @@ protected:
 private:
     void followScreenEdge();
 
-    bool m_scrolls = false;
+    QScrollArea *m_area = nullptr; // if there is something to scroll
     bool m_painted = false;
     int m_belowScreen = 0; // pixels of its height
 };

@@ -118,9 +118,11 @@ void TestWindowPlace::whatTheScreenHasNoRoomForCanBeScrolled()
                last->mapToGlobal(last->rect().bottomLeft()).y() <= screenBottom;
     };
     QVERIFY(!isInSight());
-    window.resize(300, 1500); // as a run lets it grow
     bringIntoSight(*last);
     QTRY_VERIFY(isInSight());
+    window.resize(300, 1500); // as a run lets it grow
+    QCoreApplication::processEvents();
+    QVERIFY(isInSight());
     QCOMPARE(window.height(), 1500);
     QCOMPARE(heightBelowScreen(*last), 0);
     QCOMPARE(fields.at(0)->nextInFocusChain(), fields.at(2));
