@@ -104,14 +104,16 @@ void CaseWork::beginRound()
     constexpr quint64 enoughBytes = 256 * 1024 * 1024;
     m_tasks.clear();
     m_bytes = 0;
-    while (m_ended < m_plan.cases.size() && m_tasks.size() < enoughFiles && m_bytes < enoughBytes) {
-        if (!m_open)
-            openCase();
-        else if (m_open->left > 0)
-            takeFile();
-        else {
+    while (m_ended < m_plan.cases.size()) {
+        if (m_open && m_open->left == 0) {
             m_open.reset();
             ++m_ended;
+        } else if (m_tasks.size() >= enoughFiles || m_bytes >= enoughBytes) {
+            break;
+        } else if (m_open) {
+            takeFile();
+        } else {
+            openCase();
         }
     }
     if (!m_files.isGood())

@@ -18,10 +18,14 @@ QString ResultNames::next(const PlannedFile &file)
     return copy == 1 ? first : stem(file, copy);
 }
 
-QString ResultNames::stem(const PlannedFile &file, int copy) const
+QString ResultNames::stem(const PlannedFile &file, int copy)
 {
+    if (m_folder.isEmpty() || file.series != m_series) {
+        m_series = file.series;
+        m_folder = m_key.shortName(file.series);
+    }
     const QByteArray number = copy == 1 ? QByteArray() : ' ' + QByteArray::number(copy);
-    return joinPath(m_key.shortName(file.series), m_key.shortName(file.sopInstance + number));
+    return joinPath(m_folder, m_key.shortName(file.sopInstance + number));
 }
 
 } // namespace dravolin

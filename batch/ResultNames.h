@@ -19,10 +19,12 @@ public:
     [[nodiscard]] QString next(const PlannedFile &file);
 
 private:
-    [[nodiscard]] QString stem(const PlannedFile &file, int copy) const;
+    [[nodiscard]] QString stem(const PlannedFile &file, int copy);
 
     const ProjectKey &m_key;
     bool m_forDirectory;
+    QByteArray m_series; // of the file before, and the folder of its result
+    QString m_folder;
     QSet<quint64> m_given;        // hashes of the names of first ones
     QHash<quint64, int> m_copies; // of those that were given again, how often
 };
