@@ -2,7 +2,7 @@
 """check-tidy.py: runs clang-tidy with the checks of .clang-tidy over the program's sources; ends with 1 when it finds
 something.
 
-Ten sources are read as one, because reading Qt's headers is nearly all of the work. Where that cannot be compiled (two
+Twenty sources are read as one, because reading Qt's headers is nearly all of the work. Where that cannot be compiled (two
 of them use a name for themselves) each half of them is.
 """
 
@@ -17,7 +17,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build" / "tidy"
-AT_ONCE = 10
+AT_ONCE = 20
 PROCESSES = 2
 
 
