@@ -70,7 +70,8 @@ private:
     };
 
     void nameStudies();
-    void beginCase(size_t index);
+    [[nodiscard]] bool beginCase(size_t index);
+    void makeDestinations();
     void openCase();
     void takeFile();
     [[nodiscard]] bool isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const;
@@ -81,7 +82,6 @@ private:
     void countTreated(const Treated &treated, const FileRecord &record);
     [[nodiscard]] FileRecord nameResult(const Treated &treated);
     [[nodiscard]] bool makeFolder(const QString &path);
-    void syncDestinations(const std::vector<Treated> &treated);
     void fail(const QString &text);
 
     const Plan &m_plan;
