@@ -100,8 +100,8 @@ void CaseWork::beginRound()
         if (m_open && m_open->left == 0) {
             m_open.reset();
             ++m_ended;
-        } else if (m_tasks.size() >= enoughFiles || m_bytes >= enoughBytes) {
-            break;
+        } else if (m_tasks.size() >= enoughFiles || (m_bytes >= enoughBytes && !m_open)) {
+            break; // within a case a round would only make workers wait for each other
         } else if (m_open) {
             takeFile();
         } else {

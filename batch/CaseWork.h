@@ -16,7 +16,7 @@
 namespace dravolin {
 
 // The files of a run that are still to be done, and what becomes of them. They come in rounds: enough of them
-// for all workers, but no more than the system may still have in memory when the check reads them.
+// for all workers, but no more cases than the system may still have in memory when the check reads them.
 class CaseWork
 {
 public:
