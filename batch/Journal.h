@@ -53,6 +53,10 @@ public:
     // Calls `visit` with the paths and hashes of every file of a case that has a result, by result.
     void forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const;
 
+    // Calls `visit` with the path of every such file and that of its result, in another order.
+    void forEachName(const QString &caseId,
+                     const std::function<void(const QString &path, const QString &result)> &visit) const;
+
     // All of it or nothing is written; on return it is safe.
     bool add(const QList<QPair<QString, FileRecord>> &filesOfCases,
              const QHash<QByteArray, QByteArray> &uids);
