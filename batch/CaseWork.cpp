@@ -5,8 +5,8 @@
 #include "base/Texts.h"
 #include "batch/CaseDirectory.h"
 #include "batch/CaseRules.h"
+#include "batch/Destination.h"
 #include "batch/StaleResults.h"
-#include "check/FileInHand.h"
 
 #include <QMutexLocker>
 
@@ -14,26 +14,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace dravolin {
-
-namespace {
-
-QString temporaryName(qsizetype number)
-{
-    return QStringLiteral(".dravolin-%1.part").arg(number);
-}
-
-bool isTemporaryName(const QString &name)
-{
-    return name.startsWith(QStringLiteral(".dravolin-")) && name.endsWith(QStringLiteral(".part"));
-}
-
-} // namespace
 
 CaseWork::CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &options, const ProjectKey &key,
                    Journal &journal)
@@ -44,8 +27,16 @@ CaseWork::CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &op
     m_counts.resize(plan.cases.size());
     m_progress.allCases = plan.cases.size();
     nameStudies();
-    for (size_t i = 0; i < count; ++i)
-        beginCase(i);
+    const bool isBegun = m_journal.together([this, count] {
+        bool done = true;
+        for (size_t i = 0; i < count; ++i)
+            done = beginCase(i) && done;
+        return done;
+    });
+    if (!isBegun)
+        fail(Texts::tr("the journal cannot be written"));
+    else
+        makeDestinations();
 }
 
 // Of two cases with one study the first in the list names it, whichever shard does them.
@@ -61,22 +52,23 @@ void CaseWork::nameStudies()
             m_studies.insert(*planned->studies.begin(), planned->studyUid);
 }
 
-void CaseWork::beginCase(size_t index)
+bool CaseWork::beginCase(size_t index)
 {
     const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(index));
     m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
     m_treatments.push_back(treatmentOf(planned));
     m_sources.push_back(planned.sourceFolder());
     const QByteArray rules = rulesHash(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
-    SystemError error;
-    if (!m_journal.begin(planned.row, rules))
-        fail(Texts::tr("the journal cannot be written"));
-    if (!createFolder(planned.row.destination, &error))
-        fail(Texts::tr("the destination %1 cannot be made: %2").arg(planned.row.destination, error.text));
-    for (const QString &name : listNames(planned.row.destination))
-        if (isTemporaryName(name))
-            removeFile(joinPath(planned.row.destination, name));
     m_progress.allFiles += planned.files;
+    return m_journal.begin(planned.row, rules);
+}
+
+// The journal knows them by now: a later call takes them for its own.
+void CaseWork::makeDestinations()
+{
+    for (const PlannedCase &planned : m_plan.cases)
+        if (const QString problem = makeDestination(planned.row.destination); !problem.isEmpty())
+            fail(problem);
 }
 
 void CaseWork::removeStale(const PlannedCase &planned)
@@ -108,8 +100,8 @@ void CaseWork::beginRound()
         if (m_open && m_open->left == 0) {
             m_open.reset();
             ++m_ended;
-        } else if (m_tasks.size() >= enoughFiles || m_bytes >= enoughBytes) {
-            break;
+        } else if (m_tasks.size() >= enoughFiles || (m_bytes >= enoughBytes && !m_open)) {
+            break; // within a case a round would only make workers wait for each other
         } else if (m_open) {
             takeFile();
         } else {
@@ -205,7 +197,11 @@ void CaseWork::save()
     }
     if (treated.empty() && uids.isEmpty())
         return;
-    syncDestinations(treated);
+    QSet<QString> folders;
+    for (const Treated &one : treated)
+        folders.insert(parentPath(one.temporary));
+    if (const QString problem = syncFolders(folders); !problem.isEmpty())
+        fail(problem);
     QList<QPair<QString, FileRecord>> records;
     for (const Treated &one : treated) {
         const FileRecord record = nameResult(one);
@@ -214,25 +210,6 @@ void CaseWork::save()
     }
     if (!m_journal.add(records, uids))
         fail(Texts::tr("the journal cannot be written"));
-}
-
-// A result's bytes have to be on the disk before its name is.
-void CaseWork::syncDestinations(const std::vector<Treated> &treated)
-{
-    QSet<QString> folders;
-    for (const Treated &one : treated)
-        folders.insert(parentPath(one.temporary));
-    QSet<quint64> synced; // file systems
-    for (const QString &folder : folders) {
-        const Descriptor opened(::open(systemPath(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-        struct stat attributes = {};
-        if (!opened.isOpen() || ::fstat(opened.get(), &attributes) != 0 || synced.contains(attributes.st_dev))
-            continue;
-        if (::syncfs(opened.get()) != 0)
-            fail(Texts::tr("results in %1 cannot be made safe: %2")
-                     .arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
-        synced.insert(attributes.st_dev);
-    }
 }
 
 FileRecord CaseWork::nameResult(const Treated &treated)

@@ -16,7 +16,7 @@
 namespace dravolin {
 
 // The files of a run that are still to be done, and what becomes of them. They come in rounds: enough of them
-// for all workers, but no more than the system may still have in memory when the check reads them.
+// for all workers, but no more cases than the system may still have in memory when the check reads them.
 class CaseWork
 {
 public:
@@ -70,7 +70,8 @@ private:
     };
 
     void nameStudies();
-    void beginCase(size_t index);
+    [[nodiscard]] bool beginCase(size_t index);
+    void makeDestinations();
     void openCase();
     void takeFile();
     [[nodiscard]] bool isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const;
@@ -81,7 +82,6 @@ private:
     void countTreated(const Treated &treated, const FileRecord &record);
     [[nodiscard]] FileRecord nameResult(const Treated &treated);
     [[nodiscard]] bool makeFolder(const QString &path);
-    void syncDestinations(const std::vector<Treated> &treated);
     void fail(const QString &text);
 
     const Plan &m_plan;

@@ -7,6 +7,8 @@
 #include <QSqlQuery>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace dravolin {
 
 namespace {
@@ -14,9 +16,9 @@ namespace {
 // Journals without a number have the same tables.
 constexpr int ownVersion = 1;
 
-constexpr const char *schema[] = {
-    "PRAGMA journal_mode=WAL",
-    "PRAGMA synchronous=FULL",
+constexpr const char *settings[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"};
+
+constexpr const char *tables[] = {
     "CREATE TABLE IF NOT EXISTS kept (name TEXT PRIMARY KEY, value BLOB) WITHOUT ROWID",
     "CREATE TABLE IF NOT EXISTS cases (id TEXT PRIMARY KEY, destination BLOB, rules BLOB) WITHOUT ROWID",
     ("CREATE TABLE IF NOT EXISTS files (id TEXT, path BLOB, size INTEGER, modified INTEGER, result TEXT, "
@@ -64,14 +66,19 @@ std::unique_ptr<Journal> Journal::open(const QString &path, QString *problem)
         *problem = Texts::tr("the journal %1 was written by a later version of this program").arg(path);
         return nullptr;
     }
-    for (const char *statement : schema)
-        done = done && journal->run(QString::fromLatin1(statement));
-    if (done && version < ownVersion)
-        done = journal->run(QStringLiteral("PRAGMA user_version=%1").arg(ownVersion));
-    if (done)
+    for (const char *setting : settings)
+        done = done && journal->run(QString::fromLatin1(setting));
+    if (done && (version == ownVersion || journal->together([&] { return journal->makeTables(); })))
         return journal;
     *problem = Texts::tr("the journal %1 cannot be used: %2").arg(path, database.lastError().text());
     return nullptr;
+}
+
+bool Journal::makeTables()
+{
+    return std::ranges::all_of(tables,
+                               [this](const char *table) { return run(QString::fromLatin1(table)); }) &&
+           run(QStringLiteral("PRAGMA user_version=%1").arg(ownVersion));
 }
 
 Journal::~Journal()
@@ -147,17 +154,24 @@ QList<FileRecord> Journal::files(const QString &caseId, const QString &behind, i
 bool Journal::add(const QList<QPair<QString, FileRecord>> &filesOfCases,
                   const QHash<QByteArray, QByteArray> &uids)
 {
-    bool done = run(QStringLiteral("BEGIN IMMEDIATE"));
-    QSqlQuery query(database());
-    query.prepare(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
-    for (const auto &[id, file] : filesOfCases)
-        done = done && runAgain(query, {id, toBytes(file.path), file.size, file.modified, file.result,
-                                        QByteArray::fromHex(file.hashBefore),
-                                        QByteArray::fromHex(file.hashAfter), file.problem});
-    query.prepare(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"));
-    for (auto uid = uids.begin(); uid != uids.end(); ++uid)
-        done = done && runAgain(query, {uid.key(), uid.value()});
-    query.finish();
+    return together([&] {
+        bool done = true;
+        QSqlQuery query(database());
+        query.prepare(QStringLiteral("INSERT OR REPLACE INTO files VALUES (?, ?, ?, ?, ?, ?, ?, ?)"));
+        for (const auto &[id, file] : filesOfCases)
+            done = done && runAgain(query, {id, toBytes(file.path), file.size, file.modified, file.result,
+                                            QByteArray::fromHex(file.hashBefore),
+                                            QByteArray::fromHex(file.hashAfter), file.problem});
+        query.prepare(QStringLiteral("INSERT OR REPLACE INTO uids VALUES (?, ?)"));
+        for (auto uid = uids.begin(); uid != uids.end(); ++uid)
+            done = done && runAgain(query, {uid.key(), uid.value()});
+        return done;
+    });
+}
+
+bool Journal::together(const std::function<bool()> &changes)
+{
+    const bool done = run(QStringLiteral("BEGIN IMMEDIATE")) && changes();
     return run(done ? QStringLiteral("COMMIT") : QStringLiteral("ROLLBACK")) && done;
 }
 

@@ -57,6 +57,10 @@ public:
     void forEachName(const QString &caseId,
                      const std::function<void(const QString &path, const QString &result)> &visit) const;
 
+    // Makes the changes to the journal that `changes` makes, all of them or, when it gives false, none; gives
+    // whether they are safe. One by one, each would wait for the disk. Not in another call of its own.
+    bool together(const std::function<bool()> &changes);
+
     // All of it or nothing is written; on return it is safe.
     bool add(const QList<QPair<QString, FileRecord>> &filesOfCases,
              const QHash<QByteArray, QByteArray> &uids);
@@ -77,6 +81,7 @@ private:
     explicit Journal(const QString &connection) : m_connection(connection) {}
     [[nodiscard]] QSqlDatabase database() const { return QSqlDatabase::database(m_connection); }
     bool run(const QString &statement, const QVariantList &values = {}) const;
+    bool makeTables();
 
     QString m_connection;
 };

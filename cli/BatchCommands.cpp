@@ -22,9 +22,7 @@ QString prefixed(const QString &command, const QString &text)
 // The call in the arguments; nothing when help or an error was printed and `status` is the exit status.
 std::optional<BatchCall> readCall(const QString &command, const QStringList &arguments, int *status)
 {
-    BatchCall call = parseBatchCall(command, arguments);
-    if (call.error.isEmpty() && !dictionaryIsLoaded())
-        call.error = Texts::tr("DCMTK's dictionary of attributes is missing");
+    const BatchCall call = parseBatchCall(command, arguments);
     *status = call.error.isEmpty() ? nothingFound : wrongCall;
     if (!call.error.isEmpty())
         printError(prefixed(command, call.error));

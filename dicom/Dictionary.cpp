@@ -1,12 +1,58 @@
 #include "dicom/Dictionary.h"
 
-#include <dcmtk/config/osconfig.h>
-#include <dcmtk/dcmdata/dcdict.h>
-#include <dcmtk/dcmdata/dctag.h>
-
 #include <algorithm>
 
 namespace dravolin {
+
+namespace {
+
+struct Attribute
+{
+    TagNumber tag;
+    Vr representation;
+};
+
+// Groups and elements from those of one tag to those of another.
+struct Range
+{
+    enum Parity { Any, Even, Odd };
+
+    [[nodiscard]] bool holds(TagNumber tag) const
+    {
+        return isIn(groupOf(tag), groupOf(first), groupOf(last), groups) &&
+               isIn(elementOf(tag), elementOf(first), elementOf(last), elements);
+    }
+    static bool isIn(quint16 number, quint16 from, quint16 to, Parity parity)
+    {
+        return number >= from && number <= to && (parity == Any || (number % 2 == 1) == (parity == Odd));
+    }
+
+    TagNumber first;
+    TagNumber last;
+    Parity groups;
+    Parity elements;
+    Vr representation;
+};
+
+// in ascending order
+constexpr Attribute attributes[] = {
+#define ATTRIBUTE(tag, first, second) {tag, vr(first, second)},
+#define RANGE(first, last, groups, elements, one, two)
+#include "DictionaryTable.inc"
+#undef ATTRIBUTE
+#undef RANGE
+};
+
+constexpr Range ranges[] = {
+#define ATTRIBUTE(tag, first, second)
+#define RANGE(first, last, groups, elements, one, two)                                                       \
+    {first, last, Range::groups, Range::elements, vr(one, two)},
+#include "DictionaryTable.inc"
+#undef ATTRIBUTE
+#undef RANGE
+};
+
+} // namespace
 
 QByteArray letters(Vr representation)
 {
@@ -14,29 +60,15 @@ QByteArray letters(Vr representation)
     return bytes.append(static_cast<char>(representation & 0xff));
 }
 
-bool dictionaryIsLoaded()
-{
-    return dcmDataDict.isDictionaryLoaded();
-}
-
 Vr dictionaryVr(TagNumber tag)
 {
     if (isPrivate(tag))
         return elementOf(tag) >= 0x10 && elementOf(tag) <= 0xff ? vr('L', 'O') : Vr(0);
-    const DcmTag known(groupOf(tag), elementOf(tag));
-    switch (known.getEVR()) {
-    case EVR_UNKNOWN:
-    case EVR_UNKNOWN2B:
-    case EVR_UN: return 0;
-    case EVR_ox:
-    case EVR_px:
-    case EVR_lt: return vr('O', 'W');
-    case EVR_xs: return vr('U', 'S');
-    case EVR_up: return vr('U', 'L');
-    default: break;
-    }
-    const char *name = known.getVRName();
-    return vr(name[0], name[1]);
+    const auto *known = std::ranges::lower_bound(attributes, tag, {}, &Attribute::tag);
+    if (known != std::end(attributes) && known->tag == tag)
+        return known->representation;
+    const auto *range = std::ranges::find_if(ranges, [tag](const Range &one) { return one.holds(tag); });
+    return range == std::end(ranges) ? Vr(0) : range->representation;
 }
 
 std::optional<TagNumber> tagFromText(const QString &text)

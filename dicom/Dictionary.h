@@ -6,7 +6,7 @@
 
 #include <optional>
 
-// What DCMTK's data dictionary knows. Any thread.
+// What DCMTK's data dictionary knew when the program was built. Any thread.
 namespace dravolin {
 
 // Two letters such as PN, as a number that can be compared; 0 for none.
@@ -17,9 +17,6 @@ using Vr = quint16;
 }
 
 [[nodiscard]] QByteArray letters(Vr representation);
-
-// False when DCMTK found no dictionary: nothing about implicit VR is known then.
-[[nodiscard]] bool dictionaryIsLoaded();
 
 // The value representation of an attribute: LO for a private creator, UL for a group's length, OW for what
 // may be bytes or words, US for what may have a sign; 0 for an attribute that is not known.

@@ -7,6 +7,7 @@
 #include <dcmtk/config/osconfig.h>
 #include <dcmtk/dcmdata/dcddirif.h>
 #include <dcmtk/dcmdata/dcdeftag.h>
+#include <dcmtk/dcmdata/dcdict.h>
 #include <dcmtk/dcmdata/dcmetinf.h>
 #include <dcmtk/oflog/oflog.h>
 
@@ -48,6 +49,10 @@ MediaDirectory makeMediaDirectory(const QString &target, const QString &folder, 
                                   const QByteArray &uid, const std::function<bool()> &stop)
 {
     MediaDirectory made;
+    if (!dcmDataDict.isDictionaryLoaded()) {
+        made.problem = Texts::tr("a DICOMDIR cannot be made: DCMTK's dictionary of attributes is missing");
+        return made;
+    }
     const OFFilename place(systemPath(folder).constData());
     DicomDirInterface directory;
     takeEverything(directory);

@@ -96,6 +96,13 @@ class Objects(unittest.TestCase):
         self.assertFalse((self.folder / "out/DICOMDIR").exists())
         self.assertEqual({path.suffix for path in self.results()}, {".dcm"})
 
+    def test_says_when_the_directory_cannot_be_made_without_a_dictionary(self):
+        self.make("mixed", "--count", "4")
+        said = self.run_list(status=(1,), env={**os.environ, "DCMDICTPATH": str(self.folder / "none")})
+        self.assertIn("a DICOMDIR cannot be made: DCMTK's dictionary of attributes is missing", said)
+        self.assertFalse((self.folder / "out/DICOMDIR").exists())
+        self.assertIn("4 done, 0 not done, DICOMDIR made anew;", self.run_list())
+
     def test_moves_the_dates_of_a_patient_together(self):
         self.make("mixed", "--count", "5", "--no-directory")
         shutil.copytree(self.source, self.source / "again")
