@@ -107,6 +107,8 @@ std::optional<QByteArray> readWhole(const QString &path)
         if (got == 0)
             break;
         used += got;
+        if (used == attributes.st_size && static_cast<size_t>(got) < wanted) // it had no more to give
+            break;
     }
     bytes.truncate(used);
     return bytes;

@@ -43,7 +43,7 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.identifiers = planned.identifiers;
     options.setValues = setValues(planned, batch);
     options.renamed = [&journal, caseId = planned.row.caseId](const check::RenamedVisit &visit) {
-        journal.forEachResult(caseId, [&](const FileRecord &record) { visit(record.path, record.result); });
+        journal.forEachName(caseId, visit);
     };
     options.rules = planned.configuration;
     options.uids = batch.mapUids;

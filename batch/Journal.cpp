@@ -121,6 +121,15 @@ void Journal::forEachResult(const QString &caseId, const std::function<void(cons
     }
 }
 
+void Journal::forEachName(const QString &caseId,
+                          const std::function<void(const QString &path, const QString &result)> &visit) const
+{
+    QSqlQuery query = prepared(
+        database(), QStringLiteral("SELECT path, result FROM files WHERE id = ? AND result <> ''"), {caseId});
+    while (query.next())
+        visit(fromBytes(query.value(0).toByteArray()), query.value(1).toString());
+}
+
 bool Journal::remove(const QString &caseId, const QString &path)
 {
     return run(QStringLiteral("DELETE FROM files WHERE id = ? AND path = ?"), {caseId, toBytes(path)});

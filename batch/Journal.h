@@ -53,6 +53,10 @@ public:
     // Calls `visit` with the paths and hashes of every file of a case that has a result, by result.
     void forEachResult(const QString &caseId, const std::function<void(const FileRecord &)> &visit) const;
 
+    // Calls `visit` with the path of every such file and that of its result, in another order.
+    void forEachName(const QString &caseId,
+                     const std::function<void(const QString &path, const QString &result)> &visit) const;
+
     // Makes the changes to the journal that `changes` makes, all of them or, when it gives false, none; gives
     // whether they are safe. One by one, each would wait for the disk. Not in another call of its own.
     bool together(const std::function<bool()> &changes);

@@ -71,8 +71,8 @@ constexpr TextClass textClasses[] = {
 const char *reasonOf(const QString &sopClass)
 {
     for (const TextClass &known : textClasses) {
-        const QString uid = QString::fromLatin1(known.uid);
-        if (sopClass == uid || sopClass.startsWith(uid + u'.'))
+        const QLatin1String uid(known.uid);
+        if (sopClass.startsWith(uid) && (sopClass.size() == uid.size() || sopClass[uid.size()] == u'.'))
             return known.reason;
     }
     return nullptr;

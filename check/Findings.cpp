@@ -74,7 +74,7 @@ QString maskedPath(const QString &path, const Patterns &patterns)
     return names.join(u'/');
 }
 
-QString sourceText(const Pattern &pattern)
+QString sourceText(const PatternTraits &pattern)
 {
     const QString name = pattern.source == 0 ? nameOf(pattern.valueClass) : attributeName(pattern.source);
     return name.isEmpty() ? tagText(pattern.source) : name;
@@ -86,43 +86,50 @@ FindingGroups::Key FindingGroups::keyOf(const Place &place)
     return {place.kind, place.tag, decides ? place.outermost : 0};
 }
 
-void FindingGroups::count(FindingGroup &group, const QList<const Finding *> &findings)
+void FindingGroups::count(Collected &collected, const Match &match) const
 {
-    Grade worst = Grade::Possible;
-    for (const Finding *finding : findings) {
-        worst = std::min(worst, finding->match.grade);
-        addSource(group.sources, sourceText(m_patterns.at(finding->match.pattern)));
+    FindingGroup &group = collected.group;
+    if (collected.file != m_file) {
+        ++group.files;
+        ++at(group.filesOf, match.grade);
+        collected.file = m_file;
+        collected.worst = match.grade;
+    } else if (match.grade < collected.worst) {
+        --at(group.filesOf, collected.worst);
+        ++at(group.filesOf, match.grade);
+        collected.worst = match.grade;
     }
-    group.worst = std::min(group.worst, worst);
-    ++group.files;
-    ++at(group.filesOf, worst);
+    group.worst = std::min(group.worst, match.grade);
+    const PatternTraits &pattern = m_patterns.traits(match.pattern);
+    const Tag source = pattern.source == 0 ? static_cast<Tag>(pattern.valueClass) : pattern.source;
+    if (collected.known.contains(source))
+        return;
+    collected.known.insert(source);
+    addSource(group.sources, sourceText(pattern));
 }
 
 void FindingGroups::add(const QList<Finding> &findings)
 {
     if (findings.isEmpty())
         return;
-    std::map<Key, QList<const Finding *>> byKey;
+    ++m_file;
     Grade worst = Grade::Possible;
     for (const Finding &finding : findings) {
-        byKey[keyOf(finding.place)].append(&finding);
+        const auto [found, isNew] = m_groups.try_emplace(keyOf(finding.place));
+        if (isNew)
+            found->second.group = {.place = finding.place, .name = groupName(finding.place)};
+        count(found->second, finding.match);
         worst = std::min(worst, finding.match.grade);
     }
     ++at(m_files, worst);
-    for (const auto &[key, some] : byKey) {
-        const auto [found, isNew] = m_groups.try_emplace(key);
-        if (isNew)
-            found->second = {.place = some.first()->place, .name = groupName(some.first()->place)};
-        count(found->second, some);
-    }
 }
 
 QList<FindingGroup> FindingGroups::groups() const
 {
     QList<FindingGroup> groups;
-    for (const auto &[key, group] : m_groups) {
-        groups.append(group);
-        const Remedy remedy = remedyFor(group.place);
+    for (const auto &[key, collected] : m_groups) {
+        groups.append(collected.group);
+        const Remedy remedy = remedyFor(collected.group.place);
         groups.last().line = remedy.line;
         groups.last().advice = remedy.advice;
     }

@@ -4,6 +4,7 @@
 #include "check/Patterns.h"
 
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <array>
@@ -82,15 +83,23 @@ private:
         Tag outermost; // only where it decides about the advice
         auto operator<=>(const Key &) const = default;
     };
+    struct Collected
+    {
+        FindingGroup group;
+        QSet<Tag> known = {};          // what its sources have been told of
+        quint64 file = 0;              // the last one that has findings, counted from 1
+        Grade worst = Grade::Possible; // in it
+    };
     [[nodiscard]] static Key keyOf(const Place &place);
-    void count(FindingGroup &group, const QList<const Finding *> &findings);
+    void count(Collected &collected, const Match &match) const;
 
     const Patterns &m_patterns;
-    std::map<Key, FindingGroup> m_groups;
+    std::map<Key, Collected> m_groups;
+    quint64 m_file = 0; // those with findings so far
     std::array<quint64, 3> m_files = {};
 };
 
 // "Patient's Name", or the class of a value that no attribute gave.
-[[nodiscard]] QString sourceText(const Pattern &pattern);
+[[nodiscard]] QString sourceText(const PatternTraits &pattern);
 
 } // namespace dravolin::check

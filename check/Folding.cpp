@@ -3,6 +3,8 @@
 #include <QString>
 
 #include <array>
+#include <atomic>
+#include <mutex>
 
 namespace dravolin::check {
 
@@ -20,7 +22,7 @@ struct Folded
 constexpr quint64 hashStart = 0xCBF29CE484222325U;
 constexpr quint64 hashPrime = 0x100000001B3U;
 constexpr quint32 digitsOfDate = 8;
-constexpr size_t units = 0x10000;
+constexpr size_t pageSize = 0x100; // units
 
 // Scripts that are written without spaces, or whose particles are joined to a name.
 bool isUnspaced(char16_t unit)
@@ -73,21 +75,37 @@ Folded foldedUnit(char16_t unit)
     return folded;
 }
 
-const std::vector<Folded> &table()
+// The units of one row, which are folded when the first of them comes: texts need few of all rows.
+class Page
 {
-    static const std::vector<Folded> folded = [] {
-        std::vector<Folded> all(units);
-        for (size_t unit = 0; unit < units; ++unit)
-            all[unit] = foldedUnit(static_cast<char16_t>(unit));
-        return all;
-    }();
-    return folded;
-}
+public:
+    const Folded &at(QChar c)
+    {
+        if (!m_isMade.load(std::memory_order_acquire))
+            make(c.row());
+        return m_folded[c.cell()];
+    }
+
+private:
+    void make(uchar row)
+    {
+        static std::mutex mutex;
+        const std::scoped_lock lock(mutex);
+        if (m_isMade.load(std::memory_order_relaxed))
+            return;
+        for (size_t cell = 0; cell < pageSize; ++cell)
+            m_folded[cell] = foldedUnit(static_cast<char16_t>(row * pageSize + cell));
+        m_isMade.store(true, std::memory_order_release);
+    }
+
+    std::array<Folded, pageSize> m_folded;
+    std::atomic<bool> m_isMade = false;
+};
 
 const Folded &fold(QChar c)
 {
-    static const std::vector<Folded> &all = table();
-    return all[c.unicode()];
+    static std::array<Page, 0x10000 / pageSize> pages;
+    return pages[c.row()].at(c);
 }
 
 // The hash of a word that grows letter by letter.

@@ -3,6 +3,8 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace dravolin::check {
 
 namespace {
@@ -66,22 +68,6 @@ QJsonObject searchedValues(const Values &values)
     return object;
 }
 
-// As RFC 8259, 7, has it; a byte of a name that is no UTF-8, half of a surrogate pair here, stays one.
-QByteArray jsonString(const QString &text)
-{
-    QString string(1, u'"');
-    for (const QChar c : text) {
-        if (c < u' ' || c.isSurrogate()) {
-            string += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QChar(u'0'));
-            continue;
-        }
-        if (c == u'"' || c == u'\\')
-            string += u'\\';
-        string += c;
-    }
-    return (string + u'"').toUtf8();
-}
-
 QString verdictName(Verdict verdict)
 {
     switch (verdict) {
@@ -105,12 +91,22 @@ QJsonObject jsonOf(const FindingGroup &group)
             {QStringLiteral("advice"), group.advice}};
 }
 
-// Written straight, since there may be dozens for every file, and objects take ten times as long.
-QByteArray jsonOf(const ToldFinding &finding)
+QByteArray jsonString(const QString &text)
 {
-    return "{\"class\":" + jsonString(nameOf(finding.valueClass)) + ",\"file\":" + jsonString(finding.file) +
-           ",\"grade\":" + jsonString(nameOf(finding.grade)) + ",\"masked\":" + jsonString(finding.mask) +
-           ",\"place\":" + jsonString(finding.place) + ",\"source\":" + jsonString(finding.source) + '}';
+    const auto isPlain = [](QChar c) { return c >= u' ' && c != u'"' && c != u'\\' && !c.isSurrogate(); };
+    if (std::all_of(text.cbegin(), text.cend(), isPlain))
+        return '"' + text.toUtf8() + '"';
+    QString string(1, u'"');
+    for (const QChar c : text) {
+        if (c < u' ' || c.isSurrogate()) {
+            string += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QChar(u'0'));
+            continue;
+        }
+        if (c == u'"' || c == u'\\')
+            string += u'\\';
+        string += c;
+    }
+    return (string + u'"').toUtf8();
 }
 
 QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call)

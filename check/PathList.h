@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +22,8 @@ public:
     [[nodiscard]] QStringList toList() const;
 
 private:
+    [[nodiscard]] QByteArrayView bytesAt(qsizetype index) const;
+
     QByteArray m_bytes;            // of all, one behind the other
     std::vector<qsizetype> m_ends; // in them
 };

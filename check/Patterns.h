@@ -72,6 +72,7 @@ public:
     [[nodiscard]] std::vector<Match> find(std::span<const Word> words, TextKind kind) const;
 
     [[nodiscard]] Pattern at(quint32 index) const;
+    [[nodiscard]] const PatternTraits &traits(quint32 index) const { return m_patterns[index]; }
     [[nodiscard]] size_t size() const { return m_patterns.size(); }
     [[nodiscard]] bool hasIdeographs() const { return m_ideographs; }
 

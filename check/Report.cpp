@@ -32,11 +32,7 @@ bool liesIn(const QString &path, const QString &folder)
 ToldFinding told(const QString &file, const Finding &finding, const Patterns &patterns)
 {
     const Pattern pattern = patterns.at(finding.match.pattern);
-    return {file,
-            textOf(finding.place),
-            sourceText(pattern),
-            masked(fromBytes(pattern.value)),
-            pattern.valueClass,
+    return {file, textOf(finding.place), sourceText(pattern), masked(fromBytes(pattern.value)),
             finding.match.grade};
 }
 
@@ -79,13 +75,41 @@ void ReportWriter::add(const QString &file, const QList<Finding> &findings, cons
     if (m_folder.isEmpty())
         return;
     const QString path = maskedPath(file, patterns);
+    const QByteArray fileText = jsonString(path);
+    QByteArray text;
     for (const Finding &finding : findings) {
-        const ToldFinding shown = told(path, finding, patterns);
-        m_json << (m_isFirst ? "\n" : ",\n") << jsonOf(shown).constData();
-        m_isFirst = false;
-        if (QList<ToldFinding> &some = m_shown[static_cast<size_t>(shown.grade)]; some.size() < mostShown)
-            some.append(shown);
+        const Line &line = lineOf(finding.match, patterns);
+        text.append(std::exchange(m_isFirst, false) ? "\n" : ",\n");
+        text.append(line.beforeFile).append(fileText).append(line.beforePlace);
+        text.append(jsonString(textOf(finding.place))).append(line.end);
+        show(path, finding, patterns);
     }
+    m_json.write(text.constData(), text.size());
+}
+
+// Written straight, since there may be dozens for every file, and objects take ten times as long.
+const ReportWriter::Line &ReportWriter::lineOf(const Match &match, const Patterns &patterns)
+{
+    constexpr size_t mostKept = 1000;
+    const std::pair key(match.pattern, match.grade);
+    if (const auto known = m_lines.find(key); known != m_lines.end())
+        return known->second;
+    if (m_lines.size() >= mostKept)
+        m_lines.clear();
+    const Pattern pattern = patterns.at(match.pattern);
+    Line &line = m_lines[key];
+    line.beforeFile = "{\"class\":" + jsonString(nameOf(pattern.valueClass)) + ",\"file\":";
+    line.beforePlace = ",\"grade\":" + jsonString(nameOf(match.grade)) +
+                       ",\"masked\":" + jsonString(masked(fromBytes(pattern.value))) + ",\"place\":";
+    line.end = ",\"source\":" + jsonString(sourceText(pattern)) + '}';
+    return line;
+}
+
+void ReportWriter::show(const QString &file, const Finding &finding, const Patterns &patterns)
+{
+    QList<ToldFinding> &some = m_shown[static_cast<size_t>(finding.match.grade)];
+    if (some.size() < mostShown)
+        some.append(told(file, finding, patterns));
 }
 
 bool ReportWriter::end(const CheckReport &report)

@@ -7,6 +7,8 @@
 #include <QString>
 
 #include <fstream>
+#include <map>
+#include <utility>
 
 namespace dravolin::check {
 
@@ -25,7 +27,6 @@ struct ToldFinding
     QString place;
     QString source; // where the value came from
     QString mask;
-    ValueClass valueClass = ValueClass::FreeText;
     Grade grade = Grade::Possible;
 };
 
@@ -46,21 +47,33 @@ public:
     [[nodiscard]] QString error() const { return m_error; }
 
 private:
+    // The line of a finding in report.json without its file and its place: alike for a value in many files.
+    struct Line
+    {
+        QByteArray beforeFile;
+        QByteArray beforePlace;
+        QByteArray end;
+    };
+
     bool fail(const QString &error);
+    const Line &lineOf(const Match &match, const Patterns &patterns);
+    void show(const QString &file, const Finding &finding, const Patterns &patterns);
 
     QString m_folder;
     ReportedCall m_call;
     QString m_error;
     std::ofstream m_json;
     bool m_isFirst = true;
-    std::array<QList<ToldFinding>, 3> m_shown; // by grade
+    std::map<std::pair<quint32, Grade>, Line> m_lines; // of patterns that were found not long ago
+    std::array<QList<ToldFinding>, 3> m_shown;         // by grade
 };
 
 // The page, and everything of report.json but the findings.
 [[nodiscard]] QString htmlReport(const CheckReport &report, const ReportedCall &call,
                                  const std::array<QList<ToldFinding>, 3> &findings);
 [[nodiscard]] QJsonObject jsonOf(const CheckReport &report, const ReportedCall &call);
-[[nodiscard]] QByteArray jsonOf(const ToldFinding &finding);
 [[nodiscard]] QJsonObject jsonOf(const FindingGroup &group);
+// As RFC 8259, 7, has it; a byte of a name that is no UTF-8, half of a surrogate pair here, stays one.
+[[nodiscard]] QByteArray jsonString(const QString &text);
 
 } // namespace dravolin::check

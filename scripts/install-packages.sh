@@ -24,7 +24,7 @@ packages_of() {
         screen) echo xvfb openbox xdotool wmctrl imagemagick dbus-daemon at-spi2-core python3 python3-gi \
             gir1.2-atspi-2.0 gir1.2-gtk-3.0 libgtk-3-bin dcmtk fonts-dejavu-core ;;
         desktop) packages_of screen && echo pcmanfm x11-utils libatk-adaptor libgail-common adwaita-icon-theme ;;
-        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel libgmp-dev clang-format clang-tidy cppcheck \
+        test) echo python3 dcmtk dicom3tools libgdcm-tools parallel slurm-wlm libgmp-dev clang-format clang-tidy cppcheck \
             qt6-translations-l10n fonts-noto-cjk sway grim qt6-wayland python3-xlib strace ;;
         bench) echo valgrind ;;
         fuzz) echo clang libclang-rt-dev python3 ;;

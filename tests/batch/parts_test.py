@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""One list on several machines, by GNU parallel: parts_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
+"""One list on several machines, by GNU parallel and by Slurm: parts_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
 
 import json
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import sys
@@ -11,9 +12,11 @@ import tempfile
 import time
 import unittest
 
+from slurm_cluster import slurm
 from sources import tree, untouched
 
 CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
+ARRAY = pathlib.Path(__file__).resolve().parents[2] / "examples/slurm-array.sh"
 CASES = 4
 PARTS = 2
 
@@ -86,23 +89,46 @@ class Parts(unittest.TestCase):
             time.sleep(0.002)
         self.fail("the part had ended before it could be killed")
 
+    def in_an_array(self, name):
+        """All parts of a list as jobs of Slurm, and the merge behind them; gives what that says."""
+        log = self.folder / pathlib.Path(name).with_suffix(".merge.log")
+        with slurm(self.folder / "slurm") as environment, untouched(self.folder):
+            environment["PATH"] = os.path.dirname(CLI) + os.pathsep + environment["PATH"]
+            begun = subprocess.run([ARRAY, name, str(PARTS)], cwd=self.folder, env=environment, capture_output=True,
+                                   text=True, check=True)
+            waiting = ["squeue", "--noheader", "--jobs", begun.stdout.strip()]
+            while subprocess.run(waiting, env=environment, capture_output=True, text=True, check=False).stdout:
+                time.sleep(0.2)
+        return log.read_text(encoding="utf-8")
+
+    def assert_is_as_the_whole(self, results, run):
+        self.assertEqual(tree(self.folder / results), tree(self.folder / "whole"))
+        for name in ("evidence/files.csv", "secret/uid_map.csv", "secret/patient_map.csv", "secret/not_done.csv"):
+            self.assertEqual((self.folder / run / name).read_bytes(), (self.folder / "whole.run" / name).read_bytes(),
+                             name)
+        reports = [self.report(run), self.report("whole.run")]
+        for report in reports:
+            for member in ("time", "listSha256"):
+                del report[member]
+        self.assertEqual(*reports)
+        self.assertEqual(sorted(os.listdir(self.folder / run / "evidence/cases")),
+                         sorted(os.listdir(self.folder / "whole.run/evidence/cases")))
+
     def test_gives_the_bytes_of_a_single_run_after_a_part_was_killed(self):
         self.write_list("killed.csv", "killed")
         self.assertNotEqual(self.in_parallel("killed.csv", kill=True), 0)
         self.assertIn("is not finished", self.call("merge", "killed.csv", status=2))
         self.assertEqual(self.in_parallel("killed.csv"), 0)
-        self.assertEqual(tree(self.folder / "killed"), tree(self.folder / "whole"))
         self.assertIn(f"{CASES} cases: 160 done, 0 not done; nothing found", self.call("merge", "killed.csv"))
-        for name in ("evidence/files.csv", "secret/uid_map.csv", "secret/patient_map.csv", "secret/not_done.csv"):
-            self.assertEqual((self.folder / "killed.run" / name).read_bytes(),
-                             (self.folder / "whole.run" / name).read_bytes(), name)
-        reports = [self.report(run) for run in ("killed.run", "whole.run")]
-        for report in reports:
-            for member in ("time", "listSha256"):
-                del report[member]
-        self.assertEqual(*reports)
-        self.assertEqual(sorted(os.listdir(self.folder / "killed.run/evidence/cases")),
-                         sorted(os.listdir(self.folder / "whole.run/evidence/cases")))
+        self.assert_is_as_the_whole("killed", "killed.run")
+
+    @unittest.skipUnless(os.geteuid() == 0, "the daemons of Slurm want to be root")
+    def test_gives_the_bytes_of_a_single_run_as_a_slurm_array(self):
+        self.write_list("array.csv", "array")
+        (self.folder / "array.run/secret").mkdir(parents=True)
+        shutil.copy(self.folder / "key", self.folder / "array.run/secret/project.key")
+        self.assertIn(f"{CASES} cases: 160 done, 0 not done; nothing found", self.in_an_array("array.csv"))
+        self.assert_is_as_the_whole("array", "array.run")
 
     def test_names_the_cases_that_are_in_no_part(self):
         self.write_list("some.csv", "some")

@@ -34,13 +34,17 @@ void TestPathList::findsPathsInOrder()
 {
     PathList list;
     QCOMPARE(list.indexOf(QStringLiteral("a")), -1);
-    const QStringList paths = {QStringLiteral("a"), QStringLiteral("a-"), QStringLiteral("a/b"),
-                               QStringLiteral("b"), fromBytes("\xff")};
+    // in order as texts, which their bytes are not
+    const QStringList paths = {QStringLiteral("a"), QStringLiteral("a-"),      QStringLiteral("a/b"),
+                               QStringLiteral("b"), QStringLiteral("b\u00e4"), QStringLiteral("b\U0001F600"),
+                               fromBytes("b\xff"),  QStringLiteral("b\uFF01"), fromBytes("\xff")};
+    QVERIFY(std::is_sorted(paths.cbegin(), paths.cend()));
     for (const QString &path : paths)
         list.append(path);
     for (qsizetype i = 0; i < paths.size(); ++i)
         QCOMPARE(list.indexOf(paths[i]), i);
-    for (const QString &path : {QString(), QStringLiteral("a/"), QStringLiteral("c"), fromBytes("\xff\xff")})
+    for (const QString &path : {QString(), QStringLiteral("a/"), QStringLiteral("c"),
+                                QStringLiteral("b\u00e5"), QStringLiteral("b\uFF02"), fromBytes("\xff\xff")})
         QCOMPARE(list.indexOf(path), -1);
 }
 
