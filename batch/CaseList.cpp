@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QHash>
 
+#include <algorithm>
 #include <array>
 
 namespace dravolin {
@@ -85,6 +86,17 @@ CaseRow readRow(const CsvRow &row, const QList<const Column *> &head, const QStr
     return result;
 }
 
+// It becomes a Patient ID, an LO (DICOM PS3.5, 6.2).
+void judgeCaseId(const CaseRow &row, QList<ListProblem> &problems)
+{
+    constexpr qsizetype longest = 64; // characters
+    const auto isForbidden = [](QChar c) { return c == u'\\' || c.category() == QChar::Other_Control; };
+    if (row.caseId.toUcs4().size() > longest)
+        problems.append({row.line, Texts::tr("has a case_id of more than %1 characters").arg(longest)});
+    if (std::ranges::any_of(row.caseId, isForbidden))
+        problems.append({row.line, Texts::tr("has a case_id with a backslash or a control character")});
+}
+
 void findRepetitions(const CaseList &list, const Column &column, QList<ListProblem> &problems)
 {
     QHash<QString, int> lines;
@@ -112,8 +124,10 @@ CaseList parseCaseList(const QString &text, const QString &folder)
         return list;
     }
     const QList<const Column *> head = readHead(csv.rows.first(), list.problems);
-    for (const CsvRow &row : csv.rows.sliced(1))
+    for (const CsvRow &row : csv.rows.sliced(1)) {
         list.rows.append(readRow(row, head, folder, list.problems));
+        judgeCaseId(list.rows.last(), list.problems);
+    }
     for (const Column &column : columns)
         if (column.isUnique)
             findRepetitions(list, column, list.problems);

@@ -47,10 +47,20 @@ private:
 
     QString parseField()
     {
-        QString value;
-        if (m_at < m_text.size() && m_text.at(m_at) == quote)
-            value = parseQuoted();
-        return value + parsePlain();
+        if (m_at == m_text.size() || m_text.at(m_at) != quote)
+            return parsePlain();
+        const QString value = parseQuoted();
+        const int end = m_line;
+        if (!parsePlain().isEmpty())
+            complain(Texts::tr("there is text behind a closing quotation mark in line %1").arg(end));
+        return value;
+    }
+
+    // The first problem is told: what follows may come from it.
+    void complain(const QString &problem)
+    {
+        if (m_csv.problem.isEmpty())
+            m_csv.problem = problem;
     }
 
     QString parsePlain()
@@ -75,7 +85,7 @@ private:
             m_line += c == u'\n' ? 1 : 0;
             value += c;
         }
-        m_csv.problem = Texts::tr("the quotation mark in line %1 is never closed").arg(begin);
+        complain(Texts::tr("the quotation mark in line %1 is never closed").arg(begin));
         return value;
     }
 

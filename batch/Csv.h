@@ -18,7 +18,7 @@ struct CsvRow
 struct Csv
 {
     QList<CsvRow> rows; // without empty lines
-    QString problem;    // a text for people when a quoted field does not end; "" else
+    QString problem; // a text for people when a quoted field does not end, or goes on behind its end; "" else
 };
 
 // The rows of `text`. Fields are divided by a comma, or by a semicolon or a tab when the first line has more

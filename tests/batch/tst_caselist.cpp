@@ -79,6 +79,21 @@ void TestCaseList::namesEveryProblem_data()
     QTest::newRow("repetitions") << head + QStringLiteral("a,x,1\nb,./x,1\n")
                                  << QList<ListProblem>{{3, QStringLiteral("has the destination of line 2")},
                                                        {3, QStringLiteral("has the case_id of line 2")}};
+    const QString longest = QStringLiteral("\U0001F600").repeated(64);
+    QTest::newRow("the longest id") << head + QStringLiteral("a,x,") + longest << QList<ListProblem>();
+    QTest::newRow("a longer id") << head + QStringLiteral("a,x,") + longest + u'1'
+                                 << QList<ListProblem>{
+                                        {2, QStringLiteral("has a case_id of more than 64 characters")}};
+    for (const char *id : {"1\\2", "1\t2", "\"1\n2\"", "1\x1b(B", "1\x7f",
+                           "1\u0085"
+                           "2"})
+        QTest::addRow("the id %s", QByteArray(id).toPercentEncoding().constData())
+            << head + QStringLiteral("a,x,") + QString::fromUtf8(id)
+            << QList<ListProblem>{
+                   {2, QStringLiteral("has a case_id with a backslash or a control character")}};
+    QTest::newRow("text behind a closing quotation mark")
+        << head + QStringLiteral("\"s1\"zz,x,1\n")
+        << QList<ListProblem>{{0, QStringLiteral("there is text behind a closing quotation mark in line 2")}};
 }
 
 void TestCaseList::namesEveryProblem()

@@ -14,7 +14,8 @@ private Q_SLOTS:
     void readsRows_data();
     void readsRows();
     void tellsTheLineOfARow();
-    void namesAQuotationMarkThatIsNeverClosed();
+    void namesWhatIsNoTable_data();
+    void namesWhatIsNoTable();
     void writesWhatItReads_data();
     void writesWhatItReads();
 };
@@ -62,10 +63,27 @@ void TestCsv::tellsTheLineOfARow()
     QCOMPARE(found, (QList<int>{1, 3, 5}));
 }
 
-void TestCsv::namesAQuotationMarkThatIsNeverClosed()
+void TestCsv::namesWhatIsNoTable_data()
 {
-    QCOMPARE(parseCsv(QStringLiteral("a,b\n1,\"2\n3")).problem,
-             QStringLiteral("the quotation mark in line 2 is never closed"));
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("never closed") << QStringLiteral("a,b\n1,\"2\n3")
+                                  << QStringLiteral("the quotation mark in line 2 is never closed");
+    QTest::newRow("text behind") << QStringLiteral("a,b\n\"s1\"zz,2\n")
+                                 << QStringLiteral("there is text behind a closing quotation mark in line 2");
+    QTest::newRow("a space behind, over two lines")
+        << QStringLiteral("a,b\n\"s\n1\" ,2\n")
+        << QStringLiteral("there is text behind a closing quotation mark in line 3");
+    QTest::newRow("the first of two")
+        << QStringLiteral("\"a\"b\n1,\"2\n3")
+        << QStringLiteral("there is text behind a closing quotation mark in line 1");
+}
+
+void TestCsv::namesWhatIsNoTable()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, problem);
+    QCOMPARE(parseCsv(text).problem, problem);
 }
 
 void TestCsv::writesWhatItReads_data()
