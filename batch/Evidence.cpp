@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/PathText.h"
+#include "batch/CaseChecks.h"
 #include "batch/TableFile.h"
 
 #include <QCryptographicHash>
@@ -9,6 +10,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace dravolin {
 
@@ -86,10 +88,28 @@ bool writeReports(QJsonObject report, const QString &folder)
     return json.finish() && page.finish();
 }
 
+bool removeOtherReports(const QStringList &caseIds, const QString &evidence)
+{
+    QSet<QString> kept;
+    for (const QString &caseId : caseIds)
+        kept.insert(lastPathComponent(caseReports(caseId)));
+    const QString folder = joinPath(evidence, QStringLiteral("cases"));
+    std::error_code error;
+    for (const QString &name : listNames(folder))
+        if (!kept.contains(name) && !error)
+            std::filesystem::remove_all(systemPath(joinPath(folder, name)).toStdString(), error);
+    return !error;
+}
+
 bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
 {
     const QString evidence = evidenceFolder(sources.options.runFolder());
     const QString secret = secretFolder(sources.options.runFolder());
+    QStringList caseIds;
+    for (const PlannedCase &planned : sources.plan.cases)
+        caseIds.append(planned.row.caseId);
+    if (!removeOtherReports(caseIds, evidence))
+        return false;
     const QString written = QStringLiteral("evidence"); // a hash of the report that is there
     const QJsonObject report = evidenceReport(sources, outcome);
     const QByteArray hash =

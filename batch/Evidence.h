@@ -24,9 +24,13 @@ struct EvidenceSources
 // Writes, over those of an earlier call: evidence/report.json and report.html, what was done by which rules
 // and what the check says, with counts a case; evidence/files.csv, every result with the hashes of source and
 // result; secret/uid_map.csv and secret/patient_map.csv with the columns id_old and id_new;
-// secret/not_done.csv, the files without a result by their names in the source. Nothing is written when it
-// would say the same again. False when something could not be written.
+// secret/not_done.csv, the files without a result by their names in the source. Reports of cases that are not
+// in the plan are removed. Nothing is written when it would say the same again. False when something could
+// not be written.
 [[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
+
+// Removes the reports of cases that are not among these from a folder of evidence. False when one stays.
+[[nodiscard]] bool removeOtherReports(const QStringList &caseIds, const QString &evidence);
 
 // Writes both reports into a folder, with the time of now.
 [[nodiscard]] bool writeReports(QJsonObject report, const QString &folder);

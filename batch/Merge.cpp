@@ -203,7 +203,7 @@ private:
         const QString secret = secretFolder(m_folder);
         (void)::mkdir(systemPath(secret).constData(), 0700);
         Tables tables(m_parts);
-        return createFolder(evidence) && copyReports(evidence) &&
+        return createFolder(evidence) && copyReports(evidence) && removeOtherReports(m_caseIds, evidence) &&
                tables.writeByCase(QStringLiteral("files.csv"), evidence, 0644, 0, m_caseIds) &&
                tables.writeByCase(QStringLiteral("patient_map.csv"), secret, 0600, 1, m_caseIds) &&
                tables.writeByCase(QStringLiteral("not_done.csv"), secret, 0600, 0, m_caseIds) &&

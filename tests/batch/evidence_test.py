@@ -149,6 +149,14 @@ class Evidence(unittest.TestCase):
         printed = self.run_list(self.row("in", "17"), options=("--key", "other.run/secret/project.key"))
         self.assertIn("case 17: 200 done, 0 not done; nothing found", printed)
 
+    def test_holds_the_cases_of_the_list_only(self):
+        self.make("first")
+        self.make("second", seed=2)
+        self.run_list(self.row("first", "17"), self.row("second", "18"))
+        self.run_list(self.row("second", "18"))
+        self.assertEqual([path.name for path in (self.folder / "list.run/evidence/cases").iterdir()], ["18"])
+        self.assertEqual([case["caseId"] for case in self.report()["cases"]], ["18"])
+
     def test_takes_back_the_result_of_a_file_that_is_gone(self):
         self.make("in", count=3)
         self.run_list(self.row("in", "17"))

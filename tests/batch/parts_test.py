@@ -119,6 +119,7 @@ class Parts(unittest.TestCase):
         self.assertNotEqual(self.in_parallel("killed.csv", kill=True), 0)
         self.assertIn("is not finished", self.call("merge", "killed.csv", status=2))
         self.assertEqual(self.in_parallel("killed.csv"), 0)
+        (self.folder / "killed.run/evidence/cases/of another list").mkdir(parents=True)
         self.assertIn(f"{CASES} cases: 160 done, 0 not done; nothing found", self.call("merge", "killed.csv"))
         self.assert_is_as_the_whole("killed", "killed.run")
 
