@@ -21,8 +21,10 @@ namespace dravolin {
 namespace {
 
 // The journal names sources and destinations, and the folder may have been there, open to others.
-void closeToOthers(const QString &path)
+void keepForOwner(const QString &path)
 {
+    const Descriptor made(
+        ::open(systemPath(path).constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
     (void)::chmod(systemPath(path).constData(), 0600);
 }
 
@@ -104,7 +106,7 @@ private:
         m_outcome.cases = work.counts();
         m_outcome.findings = checks.findings();
         m_outcome.failure = work.failure() + checks.failure();
-        m_outcome.nothingToDo = !work.hasTreated() && !checks.hasChecked();
+        m_outcome.nothingToDo = m_outcome.failure.isEmpty() && !work.hasTreated() && !checks.hasChecked();
         if (m_events.stop() || !m_outcome.failure.isEmpty())
             return;
         if (!writeEvidence({plan, m_options, m_journal, fingerprint(key)}, m_outcome))
@@ -200,11 +202,11 @@ BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events)
     const Descriptor lock = lockFolder(options, &problem);
     if (!problem.isEmpty())
         return refused(problem);
-    const std::unique_ptr<Journal> journal =
-        Journal::open(joinPath(options.runFolder(), QStringLiteral("journal.sqlite")), &problem);
+    const QString path = joinPath(options.runFolder(), QStringLiteral("journal.sqlite"));
+    keepForOwner(path);
+    const std::unique_ptr<Journal> journal = Journal::open(path, &problem);
     if (!journal)
         return refused(problem);
-    closeToOthers(joinPath(options.runFolder(), QStringLiteral("journal.sqlite")));
     return BatchCall(options, events, *journal).run();
 }
 

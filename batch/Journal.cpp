@@ -70,7 +70,8 @@ std::unique_ptr<Journal> Journal::open(const QString &path, QString *problem)
         done = done && journal->run(QString::fromLatin1(setting));
     if (done && (version == ownVersion || journal->together([&] { return journal->makeTables(); })))
         return journal;
-    *problem = Texts::tr("the journal %1 cannot be used: %2").arg(path, database.lastError().text());
+    *problem = Texts::tr("the journal %1 cannot be used: %2")
+                   .arg(path, journal->m_error.isEmpty() ? database.lastError().text() : journal->m_error);
     return nullptr;
 }
 
@@ -209,7 +210,10 @@ bool Journal::setValue(const QString &name, const QByteArray &value)
 
 bool Journal::run(const QString &statement, const QVariantList &values) const
 {
-    return !prepared(database(), statement, values).lastError().isValid();
+    const QSqlError error = prepared(database(), statement, values).lastError();
+    if (error.isValid() && m_error.isEmpty())
+        m_error = error.databaseText().isEmpty() ? error.text() : error.databaseText();
+    return !error.isValid();
 }
 
 } // namespace dravolin

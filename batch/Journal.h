@@ -84,6 +84,7 @@ private:
     bool makeTables();
 
     QString m_connection;
+    mutable QString m_error; // of the first statement that failed
 };
 
 } // namespace dravolin

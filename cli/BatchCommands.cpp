@@ -66,7 +66,7 @@ int report(const BatchOutcome &outcome, const BatchCall &call)
     else if (!call.quiet)
         print(Texts::tr("Report: %1\n")
                   .arg(joinPath(evidenceFolder(call.options.runFolder()), QStringLiteral("report.html"))));
-    if (!call.quiet && !outcome.nothingToDo)
+    if (!call.quiet && !outcome.nothingToDo && outcome.failure.isEmpty())
         print(Texts::tr("The check took %1 s.\n")
                   .arg(static_cast<double>(outcome.checkMilliseconds) / 1000, 0, 'f', 3));
     return outcome.failure.isEmpty() && isClean(outcome, call.options.atLeast) ? nothingFound
