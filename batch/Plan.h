@@ -62,6 +62,7 @@ struct PlannedCase
     std::optional<PlannedFile> directory; // the first DICOMDIR
     QByteArray listing;                   // a hash of the paths, sizes and times of all of them
     qsizetype folders = 0;
+    bool isIncomplete = false; // not all of these could be listed
     quint64 bytes = 0;
     QSet<QByteArray> studies;
     QSet<QByteArray> patients; // the Patient IDs in the source, as they are written there
@@ -83,7 +84,8 @@ struct Plan
 [[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
 
 // Looks at every file of the sources, several at a time, and fills in what that tells. The files themselves
-// go to `files`, which may be null. `stop` ends it early.
+// go to `files`, which may be null; a folder that cannot be listed is one of them, with a slash behind its
+// path, "./" for the source, and with the reason. `stop` ends it early.
 void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::function<bool()> &stop);
 
 // What results say about how they were made.

@@ -10,28 +10,36 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <filesystem>
 #include <vector>
 
 namespace dravolin {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 // Goes through the files of a source in the order of the bytes of their paths. Of the names it keeps those of
 // the folders that it is in.
 class SourceWalk
 {
 public:
-    explicit SourceWalk(const QString &source) : m_source(source)
-    {
-        if (isFolder(source))
-            enter(QByteArray());
-        else
-            m_open.push_back({QByteArray(), {toBytes(lastPathComponent(source))}});
-    }
+    explicit SourceWalk(const QString &source) : m_source(source) {}
 
-    // The next path, relative to the source; "" behind the last one.
-    [[nodiscard]] QString next()
+    struct Entry
     {
+        QString path;    // relative to the source; "" behind the last one
+        QString problem; // of a folder, why it cannot be listed
+    };
+
+    // The next file, or folder that cannot be listed.
+    [[nodiscard]] Entry next()
+    {
+        if (!m_isBegun) {
+            m_isBegun = true;
+            if (const QString problem = begin(); !problem.isEmpty())
+                return {QStringLiteral("./"), problem};
+        }
         while (!m_open.empty()) {
             Folder &folder = m_open.back();
             if (folder.next == folder.names.size()) {
@@ -40,13 +48,16 @@ public:
             }
             const QByteArray path = folder.path + folder.names[folder.next++];
             if (!path.endsWith('/'))
-                return fromBytes(path);
-            enter(path);
+                return {fromBytes(path), {}};
+            if (const QString problem = enter(path); !problem.isEmpty())
+                return {fromBytes(path), problem};
         }
         return {};
     }
 
     [[nodiscard]] qsizetype folders() const { return m_folders; }
+    // Whether anything may have been missed.
+    [[nodiscard]] bool isIncomplete() const { return m_isIncomplete; }
 
 private:
     struct Folder
@@ -56,20 +67,40 @@ private:
         size_t next = 0;
     };
 
-    void enter(const QByteArray &path)
+    QString begin()
+    {
+        if (isFolder(m_source))
+            return enter(QByteArray());
+        m_open.push_back({QByteArray(), {toBytes(lastPathComponent(m_source))}});
+        return {};
+    }
+
+    // Takes what can be listed, and gives the reason when that is not all.
+    QString enter(const QByteArray &path)
     {
         ++m_folders;
-        const QString folder = joinPath(m_source, fromBytes(path));
         Folder entered{path, {}};
-        for (const QString &name : listNames(folder))
-            entered.names.push_back(toBytes(name) + (isFolder(joinPath(folder, name)) ? "/" : ""));
+        std::error_code error;
+        fs::directory_iterator entry(systemPath(joinPath(m_source, fromBytes(path))).toStdString(), error);
+        for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+            const QByteArray name = QByteArray::fromStdString(entry->path().filename().string());
+            std::error_code unknown; // mostly the entry knows without a call
+            const bool isFolder = !entry->is_symlink(unknown) && !unknown && entry->is_directory(unknown);
+            entered.names.push_back(isFolder ? name + '/' : name);
+            m_isIncomplete = m_isIncomplete || unknown;
+        }
         std::sort(entered.names.begin(), entered.names.end());
         m_open.push_back(std::move(entered));
+        m_isIncomplete = m_isIncomplete || error;
+        return error ? Texts::tr("cannot be listed: %1").arg(QString::fromStdString(error.message()))
+                     : QString();
     }
 
     QString m_source;
     std::vector<Folder> m_open;
     qsizetype m_folders = 0;
+    bool m_isBegun = false;
+    bool m_isIncomplete = false;
 };
 
 // Looks at files, so many at a time that all workers have something to do.
@@ -85,12 +116,14 @@ public:
     {
         SourceWalk walk(planned.row.source);
         const QString folder = planned.sourceFolder();
-        for (QString path = walk.next(); !path.isEmpty() && !m_stop(); path = walk.next()) {
-            m_looks.push_back({&planned, joinPath(folder, path), path, {}});
+        for (auto entry = walk.next(); !entry.path.isEmpty() && !m_stop(); entry = walk.next()) {
+            m_looks.push_back({&planned, joinPath(folder, entry.path), entry.path, {}});
+            m_looks.back().facts.problem = entry.problem;
             if (m_looks.size() == atOnce)
                 look();
         }
         planned.folders = walk.folders();
+        planned.isIncomplete = walk.isIncomplete();
     }
 
     void finish()
@@ -107,7 +140,8 @@ private:
             static_cast<qsizetype>(m_looks.size()), m_workers,
             [this](qsizetype number) {
                 Look &one = m_looks[static_cast<size_t>(number)];
-                one.facts = readFacts(one.file);
+                if (one.facts.problem.isEmpty())
+                    one.facts = readFacts(one.file);
             },
             m_stop);
         if (!m_stop())

@@ -4,6 +4,8 @@
 #include "batch/ResultNames.h"
 #include "dicom/MediaDirectory.h"
 
+#include <QHash>
+
 #include <functional>
 
 namespace dravolin {
@@ -24,13 +26,6 @@ void forEachName(const PlannedCase &planned, PlannedFiles &files, const ProjectK
     }
 }
 
-void takeAsGone(StaleResults &stale, KnownFiles &known)
-{
-    stale.results.insert(known.current()->result);
-    stale.gone.append(known.current()->path);
-    known.pass();
-}
-
 } // namespace
 
 StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files, const ProjectKey &key,
@@ -40,9 +35,15 @@ StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files, const
     KnownFiles known(journal, planned.row.caseId);
     if (!known.current())
         return stale;
+    QHash<QString, QString> gone; // results by paths
+    const auto takeAsGone = [&] {
+        gone.insert(known.current()->path, known.current()->result);
+        stale.results.insert(known.current()->result);
+        known.pass();
+    };
     forEachName(planned, files, key, [&](const PlannedFile &file, const QString &result) {
         while (known.current() && comesBefore(known.current()->path, file.path))
-            takeAsGone(stale, known);
+            takeAsGone();
         if (!known.current() || known.current()->path != file.path)
             return;
         if (known.current()->result != result)
@@ -50,11 +51,20 @@ StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files, const
         known.pass();
     });
     while (known.current())
-        takeAsGone(stale, known);
+        takeAsGone();
+    stale.gone = gone.keys();
     stale.results.remove(QString());
+    QSet<QString> taken; // by other files
     if (!stale.results.isEmpty())
-        forEachName(planned, files, key,
-                    [&](const PlannedFile &, const QString &result) { stale.results.remove(result); });
+        forEachName(planned, files, key, [&](const PlannedFile &, const QString &result) {
+            if (stale.results.remove(result))
+                taken.insert(result);
+        });
+    if (planned.isIncomplete) {
+        // what was not seen may be there; but what another file overwrites is to be done anew then
+        stale.results.clear();
+        stale.gone.removeIf([&](const QString &path) { return !taken.contains(gone.value(path)); });
+    }
     return files.isGood() ? stale : StaleResults();
 }
 
