@@ -29,6 +29,7 @@ struct CaseCounts
     QString caseId;
     qsizetype done = 0;        // with a result, from this call or an earlier one
     qsizetype directories = 0; // DICOMDIRs of the source; the result gets one of its own
+    bool hasDirectory = false; // that one is there
     qsizetype notInDirectory = 0;
     qsizetype movedToUtf8 = 0; // in this call
     QList<FileRecord> notDone; // with a problem
@@ -38,7 +39,7 @@ struct BatchOutcome
 {
     QList<ListProblem> problems; // the list or the call is wrong; nothing was done
     bool interrupted = false;
-    bool nothingToDo = false; // everything had been done before
+    bool nothingToDo = false; // everything had been done before; not after a failure
     QList<CaseCounts> cases;
     QList<std::optional<CaseFindings>> findings; // of the cases; nothing for one that was not checked
     qint64 checkMilliseconds = 0;

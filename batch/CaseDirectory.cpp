@@ -54,13 +54,13 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
     const QString noteName = QStringLiteral("directory of ") + caseId;
     const QByteArray known = journal.value(noteName);
     if (known.startsWith(digits) && pathExists(target))
-        return {{}, known.sliced(digits.size()).trimmed().toInt()};
+        return {{}, true, known.sliced(digits.size()).trimmed().toInt()};
 
     const QString temporary = joinPath(planned.row.destination, QStringLiteral(".dravolin-directory.part"));
     const MediaDirectory made = makeMediaDirectory(temporary, planned.row.destination, results,
                                                    key.newUid("directory of " + caseId.toUtf8()), stop);
     if (!made.problem.isEmpty())
-        return {stop() ? QString() : made.problem};
+        return {stop() ? QString() : Texts::tr("case %1: %2").arg(caseId, made.problem)};
     const FileRecord record = {source->path,
                                source->size,
                                source->modified,
@@ -70,10 +70,12 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
                                {}};
     const bool named = !record.hashAfter.isEmpty() &&
                        std::rename(systemPath(temporary).constData(), systemPath(target).constData()) == 0;
+    if (!named)
+        removeFile(temporary);
     if (!named || !journal.add({{caseId, record}}, {}) ||
         !journal.setValue(noteName, noteOf(digits, made.leftOut.size())))
         return {Texts::tr("the DICOMDIR of case %1 cannot be written").arg(caseId)};
-    return {{}, made.leftOut.size()};
+    return {{}, true, made.leftOut.size()};
 }
 
 } // namespace dravolin

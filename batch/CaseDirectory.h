@@ -11,7 +11,8 @@ namespace dravolin {
 
 struct CaseDirectory
 {
-    QString problem;       // why it could not be made; "" when it is there, or was not asked for
+    QString problem; // why it could not be made; "" when it is there, or was not asked for
+    bool isThere = false;
     qsizetype leftOut = 0; // results of kinds that have no place in a DICOMDIR
 };
 

@@ -84,6 +84,7 @@ void CaseWork::removeStale(const PlannedCase &planned)
 bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
 {
     const CaseDirectory made = makeDirectoryOf(m_plan.cases.at(index), m_key, m_journal, stop);
+    m_counts[index].hasDirectory = made.isThere;
     m_counts[index].notInDirectory = made.leftOut;
     if (!made.problem.isEmpty())
         fail(made.problem);

@@ -29,13 +29,19 @@ QString caseText(const CaseCounts &counts)
     QString text =
         Texts::tr("case %1: %2 done, %3 not done")
             .arg(counts.caseId, QString::number(counts.done), QString::number(counts.notDone.size()));
-    if (counts.directories > 0)
+    if (counts.hasDirectory)
         text += counts.notInDirectory == 0
                     ? Texts::tr(", DICOMDIR made anew")
                     : Texts::tr(", DICOMDIR made anew without %1 objects").arg(counts.notInDirectory);
     if (counts.movedToUtf8 > 0)
         text += Texts::tr(", %1 moved to UTF-8").arg(counts.movedToUtf8);
     return text;
+}
+
+// None of its files has been looked at.
+bool isUntouched(const CaseCounts &counts)
+{
+    return counts.done == 0 && counts.directories == 0 && counts.notDone.isEmpty();
 }
 
 QString foundText(const CaseFindings &findings)
@@ -123,6 +129,8 @@ QString outcomeText(const BatchOutcome &outcome)
     QString text = outcome.nothingToDo ? Texts::tr("Nothing is left to be done.\n") : QString();
     QList<CaseFindings> findings;
     for (qsizetype i = 0; i < outcome.cases.size(); ++i) {
+        if (!outcome.failure.isEmpty() && isUntouched(outcome.cases.at(i)))
+            continue;
         const std::optional<CaseFindings> found = outcome.findings.value(i);
         text += caseText(outcome.cases.at(i)) + (found ? u';' + foundText(*found) : QString()) + u'\n';
         for (const FileRecord &record : outcome.cases.at(i).notDone)

@@ -22,7 +22,7 @@ struct MediaDirectory
 // Makes the file `target`, which must not exist, a DICOMDIR of the objects `files` in `folder`, by DCMTK.
 // Their paths are relative, each part eight capital letters, digits and underscores at most. `uid` names the
 // directory: the same objects and UID give the same bytes. `stop` ends the work early; nothing is left then,
-// nor after a problem. One thread.
+// nor after a problem. What was written is read back: one that a full disk has cut is a problem. One thread.
 [[nodiscard]] MediaDirectory makeMediaDirectory(const QString &target, const QString &folder,
                                                 const QStringList &files, const QByteArray &uid,
                                                 const std::function<bool()> &stop);

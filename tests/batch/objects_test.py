@@ -4,6 +4,7 @@
 import contextlib
 import csv
 import datetime
+import json
 import os
 import pathlib
 import re
@@ -58,6 +59,12 @@ class Objects(unittest.TestCase):
 
     def results(self, folder="out"):
         return sorted(path for path in (self.folder / folder).rglob("*") if path.is_file() and path.name != "DICOMDIR")
+
+    def contents(self, folder="out"):
+        return {path.relative_to(self.folder): path.read_bytes() for path in self.results(folder)}
+
+    def report(self):
+        return json.loads((self.folder / "list.run/evidence/report.json").read_text(encoding="utf-8"))
 
     def not_done(self):
         with open(self.folder / "list.run/secret/not_done.csv", encoding="utf-8", newline="",
@@ -171,15 +178,66 @@ class Objects(unittest.TestCase):
         self.assertIn("cannot be written: File too large", printed)
         self.assertEqual([path for path in self.results() if path.stat().st_size >= limit], [])
 
+    def mount(self, size):
+        """Makes the folder small a file system of that size; whether that was allowed."""
+        small = self.folder / "small"
+        small.mkdir()
+        mounted = subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={size}", "tmpfs", small], check=False,
+                                 stderr=subprocess.DEVNULL)
+        if mounted.returncode == 0:
+            self.addCleanup(subprocess.run, ["umount", str(small)], check=True)
+        return mounted.returncode == 0
+
+    def resize(self, size):
+        subprocess.run(["mount", "-o", f"remount,size={size}", self.folder / "small"], check=True)
+
+    @unittest.skipUnless(os.geteuid() == 0 and shutil.which("mount"), "a small file system takes an administrator")
+    def test_leaves_no_directory_that_a_full_disk_has_cut(self):
+        self.make("mixed", "--count", "40", "--pixels", "1000")
+        self.run_list("--key", "key")
+        expected = (self.folder / "out/DICOMDIR").read_bytes()
+        if not self.mount("1m"):
+            return  # not allowed in every container
+        page = 4096
+        pages = sum(-(-path.stat().st_size // page) for path in self.results())
+        directory = -(-len(expected) // page)
+        self.assertGreater(directory, 2)
+        # the directory is cut at once, in the middle, and when it is written once more with its UID
+        for number, more in enumerate((1, directory // 2, directory + 1, 2 * directory - 1)):
+            with self.subTest(pages=more):
+                self.resize((pages + more) * page)
+                row = ("in", f"small/out{number}", "17")
+                options = ("--key", "key", "--folder", f"{number}.run")
+                printed = self.run_list(*options, status=(1,), rows=(row,))
+                self.assertIn("case 17: a DICOMDIR cannot be made: it could not be written as a whole\n", printed)
+                self.assertIn("case 17: 40 done, 0 not done\n", printed)
+                self.assertEqual({path.suffix for path in (self.folder / row[1]).glob("*") if path.is_file()}, set())
+                self.resize("10m")
+                self.assertIn("DICOMDIR made anew", self.run_list(*options, rows=(row,)))
+                self.assertEqual((self.folder / row[1] / "DICOMDIR").read_bytes(), expected)
+                shutil.rmtree(self.folder / row[1])
+
+    @unittest.skipUnless(os.geteuid() == 0 and shutil.which("mount"), "a small file system takes an administrator")
+    def test_says_why_the_journal_cannot_be_made(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        if not self.mount("4k"):
+            return  # not allowed in every container
+        printed = self.run_list("--folder", "small/run", status=(2,))
+        journal = self.folder / "small/run/journal.sqlite"
+        self.assertEqual(printed, f"the journal {journal} cannot be used: database or disk is full\n")
+        self.assertEqual(journal.stat().st_mode & 0o777, 0o600)
+
+    def test_says_nothing_of_cases_when_a_destination_cannot_be_made(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        printed = self.run_list(status=(1,), rows=(("in", "/proc/none", "17"),))
+        self.assertEqual(printed, "dravolin-cli run: the destination /proc/none cannot be made: "
+                                  "No such file or directory\n")
+
     @unittest.skipUnless(os.geteuid() == 0 and shutil.which("mount"), "a small file system takes an administrator")
     def test_tells_that_the_disk_is_full(self):
         self.make("mixed", "--count", "10", "--no-directory", "--pixels", "400000")
-        (self.folder / "small").mkdir()
-        mounted = subprocess.run(["mount", "-t", "tmpfs", "-o", "size=1m", "tmpfs", str(self.folder / "small")],
-                                 check=False, stderr=subprocess.DEVNULL)
-        if mounted.returncode != 0:
+        if not self.mount("1m"):
             return  # not allowed in every container; the limit of a file's size is tried above
-        self.addCleanup(subprocess.run, ["umount", str(self.folder / "small")], check=True)
         printed = self.run_list(status=(1,), rows=(("in", "small/out", "17"),))
         self.assertIn("cannot be written: No space left on device", printed)
         for path in self.results("small/out"):
@@ -204,21 +262,77 @@ class Objects(unittest.TestCase):
         for path in self.results():
             subprocess.run(["dcmdump", "-q", str(path)], check=True, stdout=subprocess.DEVNULL)
 
+    def as_ordinary_user(self):
+        """How a call is made by somebody whom permissions concern."""
+        if os.geteuid() != 0:
+            return {}
+        nobody = 65534
+        self.folder.chmod(0o777)
+        own = self.folder / "program/bin/cli"
+        module = pathlib.Path(os.path.normpath(own.parent / os.path.relpath(MODULE, os.path.dirname(CLI))))
+        for file, copy in ((CLI, own), (MODULE, module)):
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(file, copy)
+        return {"user": nobody, "group": nobody, "executable": str(own)}
+
+    def lock(self, folder):
+        folder.chmod(0)
+        self.addCleanup(folder.chmod, 0o755)
+
+    def test_names_a_folder_that_cannot_be_listed(self):
+        self.make("mixed", "--count", "3", "--no-directory")
+        (self.source / "secret room").mkdir()
+        self.lock(self.source / "secret room")
+        user = self.as_ordinary_user()
+        reason = "cannot be listed: Permission denied"
+        printed = self.run_list(status=(1,), **user)
+        self.assertRegex(printed, f"case 17: 3 done, 1 not done; .*NOT CHECKED: 1 file\n  secret room/: {reason}\n")
+        self.assertEqual(self.not_done(), {"secret room/": reason})
+        self.assertEqual(self.report()["cases"][0]["notDone"], 1)
+        planned = subprocess.run([CLI, "plan", "list.csv"], cwd=self.folder, check=False, stdout=subprocess.PIPE,
+                                 text=True, **user)
+        self.assertEqual(planned.returncode, 1)
+        self.assertIn(f", 1 of them cannot be done\n  secret room/: {reason}\n", planned.stdout)
+
+    def test_keeps_results_while_their_folder_cannot_be_listed(self):
+        self.make("mixed", "--count", "3", "--no-directory")
+        user = self.as_ordinary_user()
+        self.run_list(**user)
+        made = self.contents()
+        reason = "cannot be listed: Permission denied"
+        for folder, name in ((self.source / "P1", "P1/"), (self.source, "./")):
+            self.lock(folder)
+            printed = self.run_list(status=(1,), sources_change=True, **user)
+            self.assertIn("case 17: 0 done, 1 not done;", printed)
+            self.assertEqual(self.not_done(), {name: reason})
+            self.assertEqual(self.contents(), made)
+            folder.chmod(0o755)
+        self.assertIn("case 17: 3 done, 0 not done;", self.run_list(**user))
+        self.assertEqual(self.contents(), made)
+
+    def test_does_a_result_anew_whose_name_went_to_another_file_meanwhile(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        one = next(path for path in self.source.rglob("*") if path.is_file())
+        for name in ("a", "b"):  # two objects with the same UID
+            (self.source / name).mkdir()
+            subprocess.run(["dcmodify", "-nb", "-i", f"(0008,0070)=Maker {name}", one], check=True)
+            shutil.copy(one, self.source / name)
+        shutil.rmtree(self.source / "P1")
+        user = self.as_ordinary_user()
+        self.run_list(**user)
+        made = self.contents()
+        self.lock(self.source / "a")
+        self.run_list(status=(1,), **user)
+        self.assertNotEqual(self.contents(), made)
+        (self.source / "a").chmod(0o755)
+        self.run_list(**user)
+        self.assertEqual(self.contents(), made)
+
     def test_tells_what_cannot_be_read(self):
         self.make("mixed", "--count", "3", "--no-directory")
         locked = next(path for path in sorted(self.source.rglob("*")) if path.is_file())
         locked.chmod(0)
-        more = {}
-        if os.geteuid() == 0:  # who may read everything
-            nobody = 65534
-            self.folder.chmod(0o777)
-            own = self.folder / "program/bin/cli"
-            module = pathlib.Path(os.path.normpath(own.parent / os.path.relpath(MODULE, os.path.dirname(CLI))))
-            for file, copy in ((CLI, own), (MODULE, module)):
-                copy.parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy(file, copy)
-            more = {"user": nobody, "group": nobody, "executable": str(own)}
-        self.run_list(status=(1,), **more)
+        self.run_list(status=(1,), **self.as_ordinary_user())
         self.assertEqual(self.not_done(), {locked.relative_to(self.source).as_posix():
                                            "cannot be opened: Permission denied"})
         self.assertEqual(len(self.results()), 2)
