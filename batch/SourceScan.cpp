@@ -69,8 +69,10 @@ private:
 
     QString begin()
     {
-        if (isFolder(m_source))
+        const std::optional<EntryKind> kind = entryKind(m_source);
+        if (kind == EntryKind::Folder)
             return enter(QByteArray());
+        m_isIncomplete = !kind;
         m_open.push_back({QByteArray(), {toBytes(lastPathComponent(m_source))}});
         return {};
     }
