@@ -4,6 +4,7 @@
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "batch/Evidence.h"
+#include "check/ObjectReader.h"
 #include "check/Report.h"
 
 #include <QCryptographicHash>
@@ -111,6 +112,9 @@ bool CaseChecks::check(qsizetype index)
 
 std::optional<CaseFindings> CaseChecks::checkNow(const check::CheckOptions &options, const QString &folder)
 {
+    m_failure = check::initialiseReader();
+    if (!m_failure.isEmpty())
+        return std::nullopt;
     check::ReportWriter writer(folder, {options, m_options.atLeast, QDateTime::currentDateTime()});
     check::CheckEvents events;
     events.progress = m_events.progress;

@@ -90,7 +90,6 @@ public:
 
     CheckReport run()
     {
-        initialiseReader();
         noteUnlisted(m_trees.originals, UncheckedFile::Side::Original);
         noteUnlisted(m_trees.results, UncheckedFile::Side::Result);
         prepareValues();

@@ -98,7 +98,8 @@ struct CheckReport
 // The values in a list of identifiers, one a line.
 [[nodiscard]] QStringList identifiersIn(const QString &text);
 
-// Runs the check; returns when it is done. The folders are only read.
+// Runs the check; returns when it is done. The folders are only read. After a failure of initialiseReader()
+// no object is checked as a whole.
 [[nodiscard]] CheckReport check(const CheckOptions &options, const CheckEvents &events);
 
 } // namespace dravolin::check

@@ -1,55 +1,17 @@
 #include "check/ObjectReader.h"
 
 #include "check/AssertionGuard.h"
-
-#include <gdcmDicts.h>
-#include <gdcmFile.h>
-#include <gdcmGlobal.h>
-#include <gdcmReader.h>
-#include <gdcmSequenceOfItems.h>
-#include <gdcmTrace.h>
+#include "check/LoadedModule.h"
 
 #include <QtEndian>
-
-#include <istream>
-#include <streambuf>
 
 namespace dravolin::check {
 
 namespace {
 
 constexpr qsizetype preambleSize = 128;
-constexpr Tag pixelTag = 0x7FE00010;
 constexpr Tag metaLengthTag = 0x00020000;
 constexpr Tag syntaxTag = 0x00020010;
-constexpr Tag characterSetTag = 0x00080005;
-
-// A stream over bytes in memory.
-class MemoryBuffer : public std::streambuf
-{
-public:
-    explicit MemoryBuffer(const QByteArray &bytes)
-    {
-        char *const start = const_cast<char *>(bytes.constData()); // nothing writes into an input stream
-        setg(start, start, start + bytes.size());
-    }
-
-protected:
-    pos_type seekoff(off_type offset, std::ios_base::seekdir direction, std::ios_base::openmode) override
-    {
-        char *const from = direction == std::ios_base::beg   ? eback()
-                           : direction == std::ios_base::cur ? gptr()
-                                                             : egptr();
-        if (offset < eback() - from || offset > egptr() - from)
-            return pos_type(off_type(-1));
-        setg(eback(), from + offset, egptr());
-        return gptr() - eback();
-    }
-    pos_type seekpos(pos_type position, std::ios_base::openmode mode) override
-    {
-        return seekoff(position, std::ios_base::beg, mode);
-    }
-};
 
 void appendElement(QByteArray &bytes, Tag tag, const char *vr, const QByteArray &value)
 {
@@ -99,115 +61,38 @@ QByteArray bytesToRead(const QByteArray &front, const QByteArray &file, const Wa
     return bytes.append(dataSet.sliced(walk.pixelElement.end));
 }
 
-Tag tagOf(const gdcm::DataElement &element)
-{
-    return element.GetTag().GetElementTag();
-}
-
-gdcm::VR vrOf(const gdcm::DataElement &element)
-{
-    const gdcm::VR vr = element.GetVR();
-    if ((vr != gdcm::VR::INVALID && vr != gdcm::VR::UN) || element.GetTag().IsPrivate())
-        return vr;
-    return gdcm::Global::GetInstance().GetDicts().GetPublicDict().GetDictEntry(element.GetTag()).GetVR();
-}
-
-Element::Kind kindOf(const gdcm::VR &vr)
-{
-    if (vr == gdcm::VR::DS || vr == gdcm::VR::IS)
-        return Element::Kind::Numbers;
-    // a VR of the dictionary may be one of two, which are never texts
-    return vr != gdcm::VR::INVALID && vr != gdcm::VR::UN && gdcm::VR::IsASCII(vr) ? Element::Kind::Text
-                                                                                  : Element::Kind::Bytes;
-}
-
-NumberForm numberFormOf(const gdcm::VR &vr)
-{
-    switch (static_cast<gdcm::VR::VRType>(vr)) {
-    case gdcm::VR::US:
-    case gdcm::VR::US_SS: return NumberForm::Unsigned16;
-    case gdcm::VR::SS: return NumberForm::Signed16;
-    case gdcm::VR::UL:
-    case gdcm::VR::OL: return NumberForm::Unsigned32;
-    case gdcm::VR::SL: return NumberForm::Signed32;
-    case gdcm::VR::UV:
-    case gdcm::VR::OV: return NumberForm::Unsigned64;
-    case gdcm::VR::SV: return NumberForm::Signed64;
-    case gdcm::VR::FL:
-    case gdcm::VR::OF: return NumberForm::Float32;
-    case gdcm::VR::FD:
-    case gdcm::VR::OD: return NumberForm::Float64;
-    default: return NumberForm::None;
-    }
-}
-
-class DataSetReader
+// Keeps where in the object a value stands, and what has been seen.
+class Visitor final : public ObjectVisitor
 {
 public:
-    explicit DataSetReader(const ElementVisit &visit) : m_visit(visit) {}
+    explicit Visitor(const ElementVisit &visit) : m_visit(visit), m_sets(1) {}
 
-    void read(const gdcm::DataSet &dataSet, const CharacterSets &inherited)
+    void characterSets(QByteArrayView definedTerms) override { m_sets.back() = CharacterSets(definedTerms); }
+    void beginItem(Tag sequence, size_t item) override
     {
-        const CharacterSets own = setsOf(dataSet, inherited);
-        for (const gdcm::DataElement &element : dataSet.GetDES()) {
-            if (tagOf(element) == pixelTag)
-                continue;
-            const gdcm::ByteValue *const value = element.GetByteValue();
-            if (const auto items = itemsOf(element, value))
-                readItems(tagOf(element), *items, own);
-            else
-                readValue(element, value, own);
-        }
+        m_path.push_back({sequence, item});
+        m_sets.push_back(m_sets.back());
     }
+    void endItem() override
+    {
+        m_path.pop_back();
+        m_sets.pop_back();
+    }
+    void value(Tag tag, ValueForm form, QByteArrayView bytes) override
+    {
+        m_contents.values += bytes.isEmpty() ? 0 : 1;
+        m_contents.bytes += static_cast<quint64>(bytes.size());
+        m_visit({tag, form.kind, form.numbers, form.person, bytes, m_path, m_sets.back()});
+    }
+    [[nodiscard]] bool isSequence(QByteArrayView value) const override { return holdsItems(value); }
+
     [[nodiscard]] const Contents &contents() const { return m_contents; }
 
 private:
-    static CharacterSets setsOf(const gdcm::DataSet &dataSet, const CharacterSets &inherited)
-    {
-        const gdcm::DataElement &element = dataSet.GetDataElement(gdcm::Tag(characterSetTag));
-        const gdcm::ByteValue *const value = element.GetByteValue();
-        return value ? CharacterSets({value->GetPointer(), static_cast<qsizetype>(element.GetVL())})
-                     : inherited;
-    }
-
-    // The items of a sequence; without a VR nothing but its bytes say that it is one.
-    static gdcm::SmartPointer<gdcm::SequenceOfItems> itemsOf(const gdcm::DataElement &element,
-                                                             const gdcm::ByteValue *value)
-    {
-        if (element.GetVL() == 0)
-            return nullptr;
-        if (value) {
-            const bool hasVr = element.GetVR() != gdcm::VR::INVALID && element.GetVR() != gdcm::VR::UN;
-            if (hasVr || !holdsItems({value->GetPointer(), static_cast<qsizetype>(value->GetLength())}))
-                return nullptr;
-        }
-        return element.GetValueAsSQ();
-    }
-
-    void readItems(Tag tag, const gdcm::SequenceOfItems &items, const CharacterSets &sets)
-    {
-        m_path.push_back({tag, 0});
-        for (size_t i = 0; i < items.GetNumberOfItems(); ++i) {
-            m_path.back().item = i;
-            read(items.GetItem(i + 1).GetNestedDataSet(), sets);
-        }
-        m_path.pop_back();
-    }
-
-    void readValue(const gdcm::DataElement &element, const gdcm::ByteValue *value, const CharacterSets &sets)
-    {
-        QByteArrayView bytes;
-        if (value && element.GetVL() > 0)
-            bytes = {value->GetPointer(), static_cast<qsizetype>(element.GetVL())};
-        m_contents.values += bytes.isEmpty() ? 0 : 1;
-        m_contents.bytes += static_cast<quint64>(bytes.size());
-        const gdcm::VR vr = vrOf(element);
-        m_visit({tagOf(element), kindOf(vr), numberFormOf(vr), vr == gdcm::VR::PN, bytes, m_path, sets});
-    }
-
     const ElementVisit &m_visit;
     Contents m_contents;
     std::vector<PathStep> m_path;
+    std::vector<CharacterSets> m_sets; // in force there, outermost first
 };
 
 // For the meta information, whose transfer syntax is the one that GDCM was told: a visitor gets the file's
@@ -221,44 +106,40 @@ ElementVisit metaVisit(const Walk &walk, const ElementVisit &visit)
     };
 }
 
-bool readWithGdcm(const QByteArray &bytes, const Front &front, const Walk &walk, const ElementVisit &visit)
+bool readAll(const GdcmModule &gdcm, const QByteArray &bytes, const Front &front, const Walk &walk,
+             const ElementVisit &visit)
 {
-    MemoryBuffer buffer(bytes);
-    std::istream stream(&buffer);
-    gdcm::Reader reader;
-    reader.SetStream(stream);
-    try {
-        if (!reader.Read())
-            return false;
-        const ElementVisit visitMeta = metaVisit(walk, visit);
-        DataSetReader meta(visitMeta);
-        meta.read(reader.GetFile().GetHeader(), {});
-        DataSetReader dataSet(visit);
-        dataSet.read(reader.GetFile().GetDataSet(), {});
-        return meta.contents() == front.contents && dataSet.contents() == walk.contents;
-    } catch (...) { // it throws texts, too
-        return false;
-    }
+    const ElementVisit visitMeta = metaVisit(walk, visit);
+    Visitor meta(visitMeta);
+    Visitor dataSet(visit);
+    return gdcm.read(bytes, meta, dataSet) && meta.contents() == front.contents &&
+           dataSet.contents() == walk.contents;
+}
+
+const LoadedModule &loaded()
+{
+    static const LoadedModule module = loadModule(modulePath());
+    return module;
 }
 
 } // namespace
 
-void initialiseReader()
+QString initialiseReader()
 {
-    gdcm::Trace::DebugOff();
-    gdcm::Trace::WarningOff();
-    gdcm::Trace::ErrorOff();
-    gdcm::Global::GetInstance().GetDicts();
+    return loaded().error;
 }
 
 bool readObject(const QByteArray &file, const Walk &walk, const ElementVisit &visit)
 {
+    const GdcmModule *const gdcm = loaded().module;
+    if (!gdcm)
+        return false;
     const Front front(walk);
     const QByteArray bytes = bytesToRead(front.bytes, file, walk);
     // GDCM takes a data set without any attribute for a failure of its own
     if (bytes.size() == front.bytes.size())
         return false;
-    return survivesAssertions([&] { return readWithGdcm(bytes, front, walk, visit); });
+    return survivesAssertions([&] { return readAll(*gdcm, bytes, front, walk, visit); });
 }
 
 QString pathText(const std::vector<PathStep> &path, Tag tag)
@@ -271,12 +152,8 @@ QString pathText(const std::vector<PathStep> &path, Tag tag)
 
 QString attributeName(Tag tag)
 {
-    const gdcm::Tag gdcmTag(tag);
-    if (gdcmTag.IsPrivate())
-        return {};
-    const gdcm::DictEntry &entry =
-        gdcm::Global::GetInstance().GetDicts().GetPublicDict().GetDictEntry(gdcmTag);
-    return entry.GetVR() == gdcm::VR::INVALID ? QString() : QString::fromLatin1(entry.GetName());
+    const GdcmModule *const gdcm = loaded().module;
+    return gdcm ? QString::fromLatin1(gdcm->attributeName(tag)) : QString();
 }
 
 } // namespace dravolin::check

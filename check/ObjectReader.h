@@ -2,8 +2,7 @@
 
 #include "check/ByteWalk.h"
 #include "check/CharacterSets.h"
-#include "check/IdentifyingAttributes.h"
-#include "check/Numbers.h"
+#include "check/GdcmModule.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -11,8 +10,7 @@
 #include <functional>
 #include <vector>
 
-// Reads an object with GDCM. Call initialiseReader() once before any other thread reads; after that all of it
-// may be called from any thread.
+// Reads an object with GDCM. Any thread.
 namespace dravolin::check {
 
 // A sequence on the way to an attribute, and which of its items, counted from 0 as in the paths of dcmodify.
@@ -24,7 +22,7 @@ struct PathStep
 
 struct Element
 {
-    enum class Kind { Text, Numbers, Bytes }; // Numbers: written as text
+    using Kind = ValueForm::Kind;
     Tag tag = 0;
     Kind kind = Kind::Bytes;
     NumberForm numbers = NumberForm::None; // of Bytes
@@ -36,7 +34,9 @@ struct Element
 
 using ElementVisit = std::function<void(const Element &)>;
 
-void initialiseReader();
+// Loads GDCM, if no call before has done so: whatever else needs it does the same, but cannot tell that it
+// failed. Why it failed, for people; then no object is read as a whole, and no attribute has a name.
+[[nodiscard]] QString initialiseReader();
 
 // Visits every attribute of an object, on all levels, those of the meta information first; not sequences that
 // have items, and not the pixel data. False, after some visits or none, when GDCM does not read what walk()

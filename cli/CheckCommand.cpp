@@ -1,5 +1,6 @@
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "check/ObjectReader.h"
 #include "check/Report.h"
 #include "check/Summary.h"
 #include "cli/CheckCall.h"
@@ -32,11 +33,20 @@ void printValues(const QString &file, const QList<check::Finding> &findings, con
                        check::sourceText(patterns.at(finding.match.pattern))));
 }
 
+void printFailure(const QString &text)
+{
+    printError(Texts::tr("dravolin-cli check: %1\n").arg(text));
+}
+
 int runCall(const CheckCall &call)
 {
+    if (const QString failure = check::initialiseReader(); !failure.isEmpty()) {
+        printFailure(failure);
+        return notChecked;
+    }
     check::ReportWriter writer(call.reportFolder, {call.options, call.atLeast, QDateTime::currentDateTime()});
     if (!writer.begin()) {
-        printError(Texts::tr("dravolin-cli check: %1\n").arg(writer.error()));
+        printFailure(writer.error());
         return wrongCall;
     }
     Progress progress(call.quiet ? Progress::Form::None : Progress::formHere(), printError);
@@ -53,7 +63,7 @@ int runCall(const CheckCall &call)
     if (!call.quiet)
         print(check::summaryText(report, call.atLeast));
     if (!writer.end(report)) {
-        printError(Texts::tr("dravolin-cli check: %1\n").arg(writer.error()));
+        printFailure(writer.error());
         return notChecked;
     }
     return statusOf(check::verdictOf(report, call.atLeast));
@@ -69,7 +79,7 @@ int runCheck(const QStringList &arguments)
         return nothingFound;
     }
     if (!call.error.isEmpty()) {
-        printError(Texts::tr("dravolin-cli check: %1\n").arg(call.error));
+        printFailure(call.error);
         return wrongCall;
     }
     return runCall(call);

@@ -29,5 +29,6 @@ target_link_options(dravolin_warnings INTERFACE ${sanitizers})
 if(NOT DRAVOLIN_SANITIZE)
     target_compile_options(dravolin_warnings INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong
         -fstack-clash-protection -fcf-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3>)
-    target_link_options(dravolin_warnings INTERFACE -pie -Wl,-z,relro,-z,now,-z,noexecstack)
+    target_link_options(dravolin_warnings INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack
+        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
 endif()

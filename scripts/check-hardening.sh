@@ -1,7 +1,7 @@
 #!/bin/sh
-# check-hardening.sh [--linked] PROGRAM...: sees that programs were built so that a fault in memory is hard to use: at a
-# random address, with tables that cannot be written once they run, with a stack that cannot be executed, and, if not
-# --linked, with checks of the stack, of buffers, and of the targets of jumps. Ends with 1 when one is not.
+# check-hardening.sh [--linked] PROGRAM...: sees that programs and modules were built so that a fault in memory is hard
+# to use: at a random address, with tables that cannot be written once they run, with a stack that cannot be executed,
+# and, if not --linked, with checks of the stack, of buffers, and of the targets of jumps. Ends with 1 when one is not.
 set -eu
 
 compiled=yes
@@ -20,7 +20,7 @@ for program in "$@"; do
     scratch=$(mktemp)
     trap 'rm -f "$scratch"' EXIT
     readelf -hldW --dyn-syms "$program" >"$scratch"
-    has "stands at a fixed address" 'Flags: .*\<PIE\>' <"$scratch"
+    has "stands at a fixed address" 'Flags: .*\<PIE\>\|DYN (Shared object file)' <"$scratch"
     has "can have its tables written (no RELRO)" '^ *GNU_RELRO ' <"$scratch"
     has "can have its tables written (bound late)" '(FLAGS) *.*\<BIND_NOW\>' <"$scratch"
     has "has a stack that can be executed" '^ *GNU_STACK .* RW  0x' <"$scratch"

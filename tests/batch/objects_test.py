@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What dravolin-cli run makes of unusual objects and files: objects_test.py DRAVOLIN_CLI MAKE_OBJECTS"""
+"""What dravolin-cli run makes of unusual objects and files: objects_test.py DRAVOLIN_CLI MAKE_OBJECTS MODULE"""
 
 import contextlib
 import csv
@@ -18,7 +18,7 @@ import unittest
 
 from sources import untouched
 
-CLI, MAKE_OBJECTS = map(os.path.abspath, sys.argv[1:3]) if len(sys.argv) > 2 else ("", "")
+CLI, MAKE_OBJECTS, MODULE = map(os.path.abspath, sys.argv[1:4]) if len(sys.argv) > 3 else ("", "", "")
 RULES = "0008,0080\tInstitution\n0008,0090\tReferring\tnobody\n0010,0040\tSex\n"
 UNDEFINED = b"\xff\xff\xff\xff"
 
@@ -212,8 +212,12 @@ class Objects(unittest.TestCase):
         if os.geteuid() == 0:  # who may read everything
             nobody = 65534
             self.folder.chmod(0o777)
-            shutil.copy(CLI, self.folder / "cli")
-            more = {"user": nobody, "group": nobody, "executable": str(self.folder / "cli")}
+            own = self.folder / "program/bin/cli"
+            module = pathlib.Path(os.path.normpath(own.parent / os.path.relpath(MODULE, os.path.dirname(CLI))))
+            for file, copy in ((CLI, own), (MODULE, module)):
+                copy.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(file, copy)
+            more = {"user": nobody, "group": nobody, "executable": str(own)}
         self.run_list(status=(1,), **more)
         self.assertEqual(self.not_done(), {locked.relative_to(self.source).as_posix():
                                            "cannot be opened: Permission denied"})

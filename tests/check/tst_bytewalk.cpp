@@ -18,7 +18,7 @@ class TestByteWalk : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { initialiseReader(); }
+    void initTestCase() { QCOMPARE(initialiseReader(), QString()); }
     void countsWhatTheLibraryReads_data();
     void countsWhatTheLibraryReads();
     void refusesBrokenObjects_data();

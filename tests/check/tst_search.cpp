@@ -34,7 +34,7 @@ constexpr qsizetype pieceSize = 262144;
 
 void TestSearch::initTestCase()
 {
-    initialiseReader();
+    QCOMPARE(initialiseReader(), QString());
     m_values.add(ValueClass::Identifier, 0x00100020, QStringLiteral("PID-5530718"));
     m_values.add(ValueClass::Person, 0x00100010, QStringLiteral("Brückner^Jörg"));
     m_values.add(ValueClass::Person, 0x00100010, QStringLiteral("春山^茜里"));

@@ -33,7 +33,8 @@ bool isSurelyFound(const Patterns &patterns)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    initialiseReader();
+    if (!initialiseReader().isEmpty())
+        std::abort();
     return 0;
 }
 

@@ -51,7 +51,7 @@ class Package(unittest.TestCase):
     def test_needs_the_tools_and_the_libraries(self):
         needed = {entry.split()[0] for entry in self.field("Depends").split(",")}
         self.assertLessEqual({"dcmtk", "xdg-utils", "libqt6widgets6", "libqt6gui6", "libqt6dbus6", "libc6",
-                              "libqt6sql6-sqlite", "libdcmtk17", "qt6-translations-l10n"}, needed)
+                              "libqt6sql6-sqlite", "libdcmtk17", "libgdcm3.0", "qt6-translations-l10n"}, needed)
 
     def test_holds_a_whole_program_that_a_desktop_finds(self):
         files = {str(path.relative_to(self.root / "usr")) for path in self.root.rglob("*") if not path.is_dir()}
@@ -60,12 +60,18 @@ class Package(unittest.TestCase):
             "AnonymizationLUT_Example.txt", "DefaultAnonymizationConfiguration.txt", "DragImage.png", "LutImage.png",
             "dcmodify", "dcmdump")}
         self.assertLessEqual(icons | resources | {
-            "bin/Dravolin", "bin/dravolin-cli", "share/dravolin/translations/dravolin_de.qm", "share/applications/example.dravolin.Dravolin.desktop",
+            "bin/Dravolin", "bin/dravolin-cli", "lib/dravolin/dravolin-gdcm.so", "share/dravolin/translations/dravolin_de.qm", "share/applications/example.dravolin.Dravolin.desktop",
             "share/metainfo/example.dravolin.Dravolin.metainfo.xml", "share/icons/hicolor/scalable/apps/dravolin.svg",
             "share/man/man1/Dravolin.1.gz", "share/man/man1/dravolin-cli.1.gz", "share/doc/dravolin/copyright",
             "share/doc/dravolin/user-guide.md", "share/doc/dravolin/pictures/window.png"}, files)
         self.assertEqual((self.root / "usr/share/dravolin/dcmodify").readlink(), pathlib.Path("../../bin/dcmodify"))
         self.assertFalse((self.root / DICTIONARY).is_symlink(), "it would point at one version of the library")
+
+    def test_its_check_needs_nothing_else_of_the_build(self):
+        data = self.root / "usr/share/doc/dravolin/pictures"  # the names of its files are found
+        checked = subprocess.run([self.root / "usr/bin/dravolin-cli", "check", "--quiet", data, data], check=False,
+                                 text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        self.assertEqual((checked.returncode, checked.stdout), (1, ""))
 
     def test_links_the_newest_dictionary_and_follows_an_update(self):
         with tempfile.TemporaryDirectory() as name:
