@@ -4,13 +4,15 @@
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "batch/Workers.h"
+#include "check/PathList.h"
 #include "dicom/ObjectFile.h"
-#include "identifiers/UidRoot.h"
 
 #include <QCryptographicHash>
+#include <QHash>
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <vector>
 
 namespace dravolin {
@@ -42,11 +44,12 @@ public:
         }
         while (!m_open.empty()) {
             Folder &folder = m_open.back();
-            if (folder.next == folder.names.size()) {
+            if (folder.next == folder.order.size()) {
                 m_open.pop_back();
                 continue;
             }
-            const QByteArray path = folder.path + folder.names[folder.next++];
+            const QByteArray path =
+                folder.path + folder.names.bytesAt(folder.order[folder.next++]).toByteArray();
             if (!path.endsWith('/'))
                 return {fromBytes(path), {}};
             if (const QString problem = enter(path); !problem.isEmpty())
@@ -62,8 +65,9 @@ public:
 private:
     struct Folder
     {
-        QByteArray path;               // ends with a slash; "" is the source
-        std::vector<QByteArray> names; // those of folders end with one: it has a place in the order, too
+        QByteArray path;       // ends with a slash; "" is the source
+        check::PathList names; // those of folders end with one: it has a place in the order, too
+        std::vector<qsizetype> order;
         size_t next = 0;
     };
 
@@ -73,7 +77,9 @@ private:
         if (kind == EntryKind::Folder)
             return enter(QByteArray());
         m_isIncomplete = !kind;
-        m_open.push_back({QByteArray(), {toBytes(lastPathComponent(m_source))}});
+        check::PathList names;
+        names.append(lastPathComponent(m_source));
+        open(QByteArray(), std::move(names));
         return {};
     }
 
@@ -81,21 +87,26 @@ private:
     QString enter(const QByteArray &path)
     {
         ++m_folders;
-        Folder entered{path, {}};
+        check::PathList names;
         std::error_code error;
         fs::directory_iterator entry(systemPath(joinPath(m_source, fromBytes(path))).toStdString(), error);
         for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-            const QByteArray name = QByteArray::fromStdString(entry->path().filename().string());
             std::error_code unknown; // mostly the entry knows without a call
             const bool isFolder = !entry->is_symlink(unknown) && !unknown && entry->is_directory(unknown);
-            entered.names.push_back(isFolder ? name + '/' : name);
+            names.appendBytes(QByteArray::fromStdString(entry->path().filename().string()) +
+                              (isFolder ? "/" : ""));
             m_isIncomplete = m_isIncomplete || unknown;
         }
-        std::sort(entered.names.begin(), entered.names.end());
-        m_open.push_back(std::move(entered));
+        open(path, std::move(names));
         m_isIncomplete = m_isIncomplete || error;
         return error ? Texts::tr("cannot be listed: %1").arg(QString::fromStdString(error.message()))
                      : QString();
+    }
+
+    void open(const QByteArray &path, check::PathList names)
+    {
+        std::vector<qsizetype> order = names.sorted(check::PathList::Order::Bytes);
+        m_open.push_back({path, std::move(names), std::move(order)});
     }
 
     QString m_source;
@@ -216,12 +227,25 @@ private:
     QCryptographicHash m_listing{QCryptographicHash::Sha256};
 };
 
-void nameStudy(PlannedCase &planned)
+// Of the cases that hold the same study and nothing else, the first one in the list that has a root names it
+// for all.
+void nameStudies(Plan &plan)
 {
-    const CaseRow &row = planned.row;
-    if (planned.studies.size() <= 1 && !row.uidRoot.isEmpty())
-        planned.studyUid =
-            studyInstanceUid(checkRoot(row.uidRoot, row.caseId).trimmedRoot, row.caseId).toLatin1();
+    std::vector<PlannedCase *> cases;
+    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
+        std::ranges::transform(*some, std::back_inserter(cases), [](PlannedCase &one) { return &one; });
+    std::ranges::sort(cases, {}, [](const PlannedCase *planned) { return planned->row.line; });
+    QHash<QByteArray, QByteArray> names;
+    for (PlannedCase *planned : cases) {
+        if (planned->studies.size() > 1 || planned->row.uidRoot.isEmpty())
+            continue;
+        planned->studyUid = studyUidOf(planned->row);
+        for (const QByteArray &study : planned->studies) {
+            if (!names.contains(study))
+                names.insert(study, planned->studyUid);
+            planned->studyUid = names.value(study);
+        }
+    }
 }
 
 } // namespace
@@ -236,8 +260,7 @@ void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::functi
     for (PlannedCase &planned : plan.others)
         others.add(planned);
     others.finish();
-    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
-        std::for_each(some->begin(), some->end(), nameStudy);
+    nameStudies(plan);
 }
 
 } // namespace dravolin
