@@ -181,6 +181,26 @@ class Run(unittest.TestCase):
             self.assertIn(text, printed)
         self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["list.csv", "rules.txt"])
 
+    def test_writes_nothing_to_places_that_are_another_by_a_link(self):
+        for name in ("s1", "s2", "real"):
+            (self.folder / name).mkdir()
+        (self.folder / "s1alias").symlink_to("s1")
+        (self.folder / "alias").symlink_to("real")
+        (self.folder / "nowhere").symlink_to("none")
+        before = tree(self.folder)
+        self.write_list(("s1", "real/17", "1", "rules.txt", "", ""), ("s2", "alias/17", "2", "rules.txt", "", ""),
+                        ("s2", "s1alias/out", "3", "rules.txt", "", ""))
+        printed = self.call("run", "list.csv", "--folder", "s1alias/run", "--key", "s1alias/newkey", status=2)
+        for text in ("line 2: the source holds the run's own folder",
+                     f"line 2: the key {self.folder}/s1alias/newkey lies in the source",
+                     "line 3: has the destination of line 2",
+                     "line 4: the destination and the source of line 2 lie one inside the other"):
+            self.assertIn(text, printed)
+        (self.folder / "list.csv").unlink()
+        self.assertEqual((tree(self.folder), os.listdir(self.folder / "real")), (before, []))
+        self.write_list(("s1", "out", "1", "rules.txt", "", ""))
+        self.assertIn("cannot be read", self.call("run", "list.csv", "--key", "nowhere", status=2))
+
     def test_refuses_a_second_call_and_another_key(self):
         make("mixed", self.folder / "in", "--count", "3", "--no-directory")
         self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
