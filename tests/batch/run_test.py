@@ -228,6 +228,46 @@ class Run(unittest.TestCase):
             fcntl.flock(lock, fcntl.LOCK_EX)
             self.assertIn("another call is at work", self.call("run", "list.csv", status=2))
 
+    def test_leaves_a_destination_to_the_call_that_works_in_it(self):
+        make("mixed", self.folder / "in", "--count", "3", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        (self.folder / "out").mkdir()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        other = os.open(self.folder / "out", os.O_RDONLY)
+        self.addCleanup(os.close, other)
+        fcntl.flock(other, fcntl.LOCK_EX)
+        printed = self.call("run", "list.csv", status=1)
+        self.assertIn(f"another call is at work in {self.folder}/out", printed)
+        self.assertEqual(os.listdir(self.folder / "out"), [])
+        fcntl.flock(other, fcntl.LOCK_UN)
+        self.call("run", "list.csv")
+
+    def test_mixes_no_two_runs_in_one_destination(self):
+        make("mixed", self.folder / "in", "--count", "100", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        with untouched(self.folder):
+            calls = {name: subprocess.Popen([CLI, "run", "list.csv", "--folder", name], cwd=self.folder, text=True,
+                                            stdout=subprocess.PIPE, stderr=subprocess.STDOUT) for name in ("fa", "fb")}
+            printed = {name: call.communicate()[0] for name, call in calls.items()}
+        winners = [name for name, call in calls.items() if call.returncode == 0]
+        self.assertEqual(len(winners), 1, printed)
+        loser, = calls.keys() - winners
+        self.assertRegex(printed[loser], "another call is at work in|is in use")
+        self.assertIn(calls[loser].returncode, (1, 2))
+        rows = (self.folder / winners[0] / "evidence/files.csv").read_text(encoding="utf-8").splitlines()[1:]
+        self.assertEqual(tree(self.folder / "out"), {row.split(",")[1]: row.split(",")[3] for row in rows})
+
+    def test_goes_on_in_another_destination_of_the_list(self):
+        make("mixed", self.folder / "in", "--count", "3", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        self.write_list(("in", "elsewhere", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        self.assertEqual(tree(self.folder / "elsewhere"), tree(self.folder / "out"))
+        self.assertIn("Nothing is left to be done.", self.call("run", "list.csv"))
+
     def set_journal_version(self, version):
         with contextlib.closing(sqlite3.connect(self.folder / "list.run/journal.sqlite")) as journal:
             journal.execute(f"PRAGMA user_version={version}")
