@@ -17,6 +17,8 @@ private Q_SLOTS:
     void readsAFileWithAByteOrderMark();
     void namesEveryProblem_data();
     void namesEveryProblem();
+    void takesOnlyWhatCanBeAPatientId_data();
+    void takesOnlyWhatCanBeAPatientId();
 };
 
 void TestCaseList::readsEveryColumn()
@@ -77,20 +79,7 @@ void TestCaseList::namesEveryProblem_data()
                             << QList<ListProblem>{{2, QStringLiteral("has no destination")},
                                                   {3, QStringLiteral("has 2 values for 3 columns")}};
     QTest::newRow("repetitions") << head + QStringLiteral("a,x,1\nb,./x,1\n")
-                                 << QList<ListProblem>{{3, QStringLiteral("has the destination of line 2")},
-                                                       {3, QStringLiteral("has the case_id of line 2")}};
-    const QString longest = QStringLiteral("\U0001F600").repeated(64);
-    QTest::newRow("the longest id") << head + QStringLiteral("a,x,") + longest << QList<ListProblem>();
-    QTest::newRow("a longer id") << head + QStringLiteral("a,x,") + longest + u'1'
-                                 << QList<ListProblem>{
-                                        {2, QStringLiteral("has a case_id of more than 64 characters")}};
-    for (const char *id : {"1\\2", "1\t2", "\"1\n2\"", "1\x1b(B", "1\x7f",
-                           "1\u0085"
-                           "2"})
-        QTest::addRow("the id %s", QByteArray(id).toPercentEncoding().constData())
-            << head + QStringLiteral("a,x,") + QString::fromUtf8(id)
-            << QList<ListProblem>{
-                   {2, QStringLiteral("has a case_id with a backslash or a control character")}};
+                                 << QList<ListProblem>{{3, QStringLiteral("has the case_id of line 2")}};
     QTest::newRow("text behind a closing quotation mark")
         << head + QStringLiteral("\"s1\"zz,x,1\n")
         << QList<ListProblem>{{0, QStringLiteral("there is text behind a closing quotation mark in line 2")}};
@@ -101,6 +90,30 @@ void TestCaseList::namesEveryProblem()
     QFETCH(QString, text);
     QFETCH(QList<ListProblem>, problems);
     QCOMPARE(parseCaseList(text, QStringLiteral("/")).problems, problems);
+}
+
+void TestCaseList::takesOnlyWhatCanBeAPatientId_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("problem");
+    const QString longest = QStringLiteral("\U0001F600").repeated(64);
+    QTest::newRow("the longest") << longest << QString();
+    QTest::newRow("a longer one") << longest + u'1'
+                                  << QStringLiteral("has a case_id of more than 64 characters");
+    for (const char *field : {"1\\2", "1\t2", "\"1\n2\"", "1\x1b(B", "1\x7f", "1\u00852"})
+        QTest::addRow("%s", QByteArray(field).toPercentEncoding().constData())
+            << QString::fromUtf8(field)
+            << QStringLiteral("has a case_id with a backslash or a control character");
+}
+
+void TestCaseList::takesOnlyWhatCanBeAPatientId()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, problem);
+    const QString head = QStringLiteral("source,destination,case_id\na,x,");
+    const QList<ListProblem> expected =
+        problem.isEmpty() ? QList<ListProblem>() : QList<ListProblem>{{2, problem}};
+    QCOMPARE(parseCaseList(head + field, QStringLiteral("/")).problems, expected);
 }
 
 DRAVOLIN_TEST(TestCaseList)
