@@ -203,11 +203,18 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     return plan;
 }
 
-QString deidentificationMethod(const BatchOptions &options)
+QMap<TagNumber, QString> ownTexts(const BatchOptions &options)
 {
-    // with the dates it has the 64 characters that the attribute holds
-    const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
-    return options.moveDates ? method + QStringLiteral(", dates") : method;
+    QMap<TagNumber, QString> texts;
+    if (options.removePrivate && options.mapUids) {
+        // with the dates it has the 64 characters that the attribute holds
+        const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+        texts.insert(methodTag, options.moveDates ? method + QStringLiteral(", dates") : method);
+        texts.insert(identityRemovedTag, QStringLiteral("YES"));
+    }
+    if (options.moveDates)
+        texts.insert(datesModifiedTag, QStringLiteral("MODIFIED"));
+    return texts;
 }
 
 AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)
@@ -221,12 +228,10 @@ AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, 
         result.remove(studyTag); // the empty text would erase it
     else if (options.mapUids && result.value(studyTag).copies == AttributeRule::Copies::Set)
         result[studyTag].copies = AttributeRule::Copies::AsWithoutRule; // they may name other studies
-    if (options.removePrivate && options.mapUids && !result.contains(identityRemovedTag))
-        result.insert(identityRemovedTag, {AttributeRule::Kind::Set, QStringLiteral("YES")});
-    if (options.moveDates && !result.contains(datesModifiedTag))
-        result.insert(datesModifiedTag, {AttributeRule::Kind::Set, QStringLiteral("MODIFIED")});
-    if (options.removePrivate && options.mapUids && !result.contains(methodTag))
-        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod(options)});
+    const QMap<TagNumber, QString> texts = ownTexts(options);
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        if (!result.contains(text.key()))
+            result.insert(text.key(), {AttributeRule::Kind::Set, text.value()});
     return result;
 }
 
