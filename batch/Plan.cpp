@@ -124,7 +124,7 @@ private:
 
     void loadTable()
     {
-        const std::optional<LutTable> table = loadLut(m_case.row.table);
+        const std::optional<LutTable> table = loadLut(m_case.row.table, MissingText::AsWritten);
         if (!table)
             m_problems.append(
                 Texts::tr("the table %1 cannot be read, or is not UTF-8").arg(m_case.row.table));
