@@ -4,6 +4,7 @@
 #include "base/NOXUtils.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "batch/ConfigurationLines.h"
 #include "check/Check.h"
 #include "identifiers/UidRoot.h"
 #include "processing/Edits.h"
@@ -100,7 +101,7 @@ private:
         m_case.configuration = parseConfiguration(*text);
         for (const QString &tag : edits(m_case.configuration, {}).malformedTags)
             m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(tag));
-        QStringList problems;
+        QStringList problems = linesOfNoEffect(*text);
         (void)rulesOf(m_case, m_options, &problems);
         for (const QString &problem : problems)
             m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(problem));
