@@ -39,17 +39,13 @@ CaseWork::CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &op
         makeDestinations();
 }
 
-// Of two cases with one study the first in the list names it, whichever shard does them.
 void CaseWork::nameStudies()
 {
-    std::vector<const PlannedCase *> cases;
     for (const QList<PlannedCase> *some : {&m_plan.cases, &m_plan.others})
-        std::ranges::transform(*some, std::back_inserter(cases), [](const PlannedCase &one) { return &one; });
-    std::ranges::sort(cases, {}, [](const PlannedCase *planned) { return planned->row.line; });
-    for (const PlannedCase *planned : cases)
-        if (!planned->studyUid.isEmpty() && !planned->studies.isEmpty() &&
-            !m_studies.contains(*planned->studies.begin()))
-            m_studies.insert(*planned->studies.begin(), planned->studyUid);
+        for (const PlannedCase &planned : *some)
+            if (!planned.studyUid.isEmpty())
+                for (const QByteArray &study : planned.studies)
+                    m_studies.insert(study, planned.studyUid);
 }
 
 bool CaseWork::beginCase(size_t index)
@@ -150,7 +146,7 @@ Treatment CaseWork::treatmentOf(const PlannedCase &planned)
 {
     Treatment treatment = treatmentByRules(planned, m_options);
     if (m_options.mapUids)
-        treatment.newUid = [this, &planned](const QByteArray &old) { return newUid(planned, old); };
+        treatment.newUid = [this](const QByteArray &old) { return newUid(old); };
     if (m_options.moveDates)
         treatment.daysBack = [this, &planned](const QByteArray &patientId) {
             return m_key.daysBack(patientOf(planned, patientId));
@@ -159,13 +155,9 @@ Treatment CaseWork::treatmentOf(const PlannedCase &planned)
 }
 
 // A study that a case holds alone has the UID that the window gives it, wherever it is named.
-QByteArray CaseWork::newUid(const PlannedCase &planned, const QByteArray &old)
+QByteArray CaseWork::newUid(const QByteArray &old)
 {
-    QByteArray result;
-    if (!planned.studyUid.isEmpty() && planned.studies.contains(old))
-        result = planned.studyUid;
-    else
-        result = m_studies.value(old);
+    QByteArray result = m_studies.value(old);
     if (result.isEmpty())
         result = m_key.newUid(old);
     const QMutexLocker locker(&m_mutex);

@@ -77,7 +77,7 @@ private:
     [[nodiscard]] bool isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const;
     void removeStale(const PlannedCase &planned);
     [[nodiscard]] Treatment treatmentOf(const PlannedCase &planned);
-    [[nodiscard]] QByteArray newUid(const PlannedCase &planned, const QByteArray &old);
+    [[nodiscard]] QByteArray newUid(const QByteArray &old);
     void countKnown(size_t index, const FileRecord &record);
     void countTreated(const Treated &treated, const FileRecord &record);
     [[nodiscard]] FileRecord nameResult(const Treated &treated);

@@ -10,6 +10,8 @@
 #include "processing/Edits.h"
 
 #include <QCryptographicHash>
+#include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QtEndian>
 
@@ -58,6 +60,13 @@ QString markerOf(const CaseRow &row)
     return tableMarkerPrefix + title + u'>';
 }
 
+// DICOM PS3.5 9.1; the window does not look at the components.
+bool isUid(const QByteArray &text)
+{
+    static const QRegularExpression form(QStringLiteral("^(0|[1-9][0-9]*)(\\.(0|[1-9][0-9]*))+$"));
+    return form.match(QString::fromLatin1(text)).hasMatch();
+}
+
 // Loads configuration and table, and says what is wrong with them.
 class RowJudge
 {
@@ -84,7 +93,7 @@ private:
     void judgeRoot()
     {
         const CaseRow &row = m_case.row;
-        if (!row.uidRoot.isEmpty() && !checkRoot(row.uidRoot, row.caseId).valid)
+        if (!row.uidRoot.isEmpty() && (!checkRoot(row.uidRoot, row.caseId).valid || !isUid(studyUidOf(row))))
             m_problems.append(
                 Texts::tr("the UID root %1 makes no UID with the case id %2").arg(row.uidRoot, row.caseId));
     }
@@ -183,6 +192,7 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     const CaseList list = readCaseList(options.list);
     Plan plan;
     plan.problems = list.problems;
+    QHash<QByteArray, int> studyLines; // by their new UIDs
     for (const CaseRow &row : list.rows) {
         PlannedCase planned;
         planned.row = row;
@@ -192,6 +202,15 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
             problems.append(Texts::tr("the destination %1 is in use").arg(row.destination));
         if (const QString problem = overlap(row, list.rows, options.wholeFolder); !problem.isEmpty())
             problems.append(problem);
+        if (!row.uidRoot.isEmpty()) {
+            const QByteArray study = studyUidOf(row);
+            const auto line = studyLines.value(study, row.line);
+            studyLines.insert(study, line);
+            if (line != row.line)
+                problems.append(
+                    Texts::tr("its UID root and case id make the same Study Instance UID as those of line %1")
+                        .arg(line));
+        }
         for (const QString &problem : problems)
             plan.problems.append({row.line, problem});
         if (isOurs)
@@ -202,6 +221,12 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
     std::stable_sort(plan.problems.begin(), plan.problems.end(),
                      [](const ListProblem &one, const ListProblem &other) { return one.line < other.line; });
     return plan;
+}
+
+QByteArray studyUidOf(const CaseRow &row)
+{
+    const QString root = withoutTrailingDot(checkRoot(row.uidRoot, row.caseId).trimmedRoot);
+    return studyInstanceUid(root, row.caseId).toLatin1();
 }
 
 QMap<TagNumber, QString> ownTexts(const BatchOptions &options)

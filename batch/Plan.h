@@ -65,7 +65,9 @@ struct PlannedCase
     quint64 bytes = 0;
     QSet<QByteArray> studies;
     QSet<QByteArray> patients; // the Patient IDs in the source, as they are written there
-    QByteArray studyUid;       // the new Study Instance UID that the window would give; "" when it is mapped
+    // the new Study Instance UID that the window would give it, or another case of the same study; "" when it
+    // is mapped
+    QByteArray studyUid;
 
     [[nodiscard]] QString sourceFolder() const;
 };
@@ -81,6 +83,9 @@ struct Plan
 // problems at once. `isOwn` tells whether a destination that exists was begun by the same run; any other has
 // to be missing or empty. Writes nothing.
 [[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
+
+// The Study Instance UID that the window would give a case with a root.
+[[nodiscard]] QByteArray studyUidOf(const CaseRow &row);
 
 // Looks at every file of the sources, several at a time, and fills in what that tells. The files themselves
 // go to `files`, which may be null. `stop` ends it early.

@@ -5,11 +5,12 @@
 #include "base/Texts.h"
 #include "batch/Workers.h"
 #include "dicom/ObjectFile.h"
-#include "identifiers/UidRoot.h"
 
 #include <QCryptographicHash>
+#include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace dravolin {
@@ -180,12 +181,25 @@ private:
     QCryptographicHash m_listing{QCryptographicHash::Sha256};
 };
 
-void nameStudy(PlannedCase &planned)
+// Of the cases that hold the same study and nothing else, the first one in the list that has a root names it
+// for all.
+void nameStudies(Plan &plan)
 {
-    const CaseRow &row = planned.row;
-    if (planned.studies.size() <= 1 && !row.uidRoot.isEmpty())
-        planned.studyUid =
-            studyInstanceUid(checkRoot(row.uidRoot, row.caseId).trimmedRoot, row.caseId).toLatin1();
+    std::vector<PlannedCase *> cases;
+    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
+        std::ranges::transform(*some, std::back_inserter(cases), [](PlannedCase &one) { return &one; });
+    std::ranges::sort(cases, {}, [](const PlannedCase *planned) { return planned->row.line; });
+    QHash<QByteArray, QByteArray> names;
+    for (PlannedCase *planned : cases) {
+        if (planned->studies.size() > 1 || planned->row.uidRoot.isEmpty())
+            continue;
+        planned->studyUid = studyUidOf(planned->row);
+        for (const QByteArray &study : planned->studies) {
+            if (!names.contains(study))
+                names.insert(study, planned->studyUid);
+            planned->studyUid = names.value(study);
+        }
+    }
 }
 
 } // namespace
@@ -200,8 +214,7 @@ void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::functi
     for (PlannedCase &planned : plan.others)
         others.add(planned);
     others.finish();
-    for (QList<PlannedCase> *some : {&plan.cases, &plan.others})
-        std::for_each(some->begin(), some->end(), nameStudy);
+    nameStudies(plan);
 }
 
 } // namespace dravolin

@@ -38,7 +38,7 @@ struct Range
 constexpr Attribute attributes[] = {
 #define ATTRIBUTE(tag, first, second) {tag, vr(first, second)},
 #define RANGE(first, last, groups, elements, one, two)
-#include "DictionaryTable.inc"
+#include "dicom/DictionaryTable.inc"
 #undef ATTRIBUTE
 #undef RANGE
 };
@@ -47,7 +47,7 @@ constexpr Range ranges[] = {
 #define ATTRIBUTE(tag, first, second)
 #define RANGE(first, last, groups, elements, one, two)                                                       \
     {first, last, Range::groups, Range::elements, vr(one, two)},
-#include "DictionaryTable.inc"
+#include "dicom/DictionaryTable.inc"
 #undef ATTRIBUTE
 #undef RANGE
 };

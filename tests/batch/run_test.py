@@ -128,6 +128,23 @@ class Run(unittest.TestCase):
             self.assertEqual((case_id, hashes.pop(result)), ("17", after))
         self.assertEqual(hashes, {})
 
+    def test_gives_a_study_one_new_uid_in_every_case(self):
+        make("mixed", self.folder / "made", "--count", "12", "--no-directory")
+        study = next(path for path in sorted((self.folder / "made").rglob("*")) if path.is_file()).parent.parent
+        for source in ("in", "again", "plainly"):
+            shutil.copytree(study, self.folder / source)
+        root = "1.2.345678901234567890123."
+        self.write_list(("plainly", "out/1", "10", "rules.txt", "Case", ""),
+                        ("in", "out/2", "0011", "rules.txt", "Case", root),
+                        ("again", "out/3", "12", "rules.txt", "Case", root))
+        self.call("run", "list.csv")
+        studies = {line.split("[")[1].split("]")[0] for path in self.results("out") for line in dump(path)
+                   if line.startswith("(0020,000d)")}
+        self.assertEqual(studies, {root + "11"})
+        rows = (self.folder / "list.run/secret/uid_map.csv").read_text(encoding="utf-8").splitlines()[1:]
+        self.assertEqual(len([row for row in rows if row.endswith("," + root + "11")]), 1)
+        self.assertEqual(len(rows), len({row.split(",")[0] for row in rows}))
+
     def test_goes_on_where_it_was_killed(self):
         make("mixed", self.folder / "in", "--count", "200", "--no-directory")
         (self.folder / "in/planted.json").unlink()

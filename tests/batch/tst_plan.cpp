@@ -80,6 +80,15 @@ void TestPlan::judgesRows_data()
         << lines("3: has the destination of line 2\n4: has no destination");
     QTest::newRow("unusable root") << QByteArray("in,out,1,,,1.2.3\n")
                                    << lines("2: the UID root 1.2.3 makes no UID with the case id 1");
+    QTest::newRow("a root with a component that is none")
+        << QByteArray("in,out,1,,,1.2.345..678901234567890123\nother,empty,2,,,1.2.0345678901234567890123\n")
+        << lines("2: the UID root 1.2.345..678901234567890123 makes no UID with the case id 1\n"
+                 "3: the UID root 1.2.0345678901234567890123 makes no UID with the case id 2");
+    QTest::newRow("a root with a dot at its end")
+        << QByteArray("in,out,1,,,1.2.345678901234567890123.\n") << lines("");
+    QTest::newRow("two cases with one new study")
+        << QByteArray("in,out,2,,,1.2.345678901234567890123\nother,empty,002,,,1.2.345678901234567890123.\n")
+        << lines("3: its UID root and case id make the same Study Instance UID as those of line 2");
     QTest::newRow("lines that do nothing")
         << QByteArray("in,out,1,bad.txt,,\n")
         << lines("2: the configuration has a line that does nothing: 10,10\n"
