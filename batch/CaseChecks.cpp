@@ -30,6 +30,17 @@ QStringList setValues(const PlannedCase &planned)
     return values;
 }
 
+// The default configuration comes with the program, and what it says about itself as well.
+check::OwnTexts ownTextsFor(const PlannedCase &planned, const BatchOptions &batch)
+{
+    constexpr TagNumber method = 0x00120063;
+    check::OwnTexts texts = ownTexts(batch);
+    const QString ofDefault = planned.configuration.newValueDict.value(QStringLiteral("0012,0063"));
+    if (planned.row.configuration.isEmpty() && !ofDefault.isEmpty())
+        texts.insert(method, ofDefault);
+    return texts;
+}
+
 check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &batch, const Journal &journal)
 {
     check::CheckOptions options;
@@ -37,7 +48,7 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
     options.setValues = setValues(planned);
-    options.ownTexts = ownTexts(batch);
+    options.ownTexts = ownTextsFor(planned, batch);
     options.renamed = [&journal, caseId = planned.row.caseId](const check::RenamedVisit &visit) {
         journal.forEachName(caseId, visit);
     };

@@ -122,11 +122,22 @@ class Evidence(unittest.TestCase):
             source = next(path for path in (self.folder / "in" / name).rglob("*") if path.is_file())
             subprocess.run(["dcmodify", "-nb", "-i", "(0010,0010)=" + words, source], check=True)
             source.rename(source.with_name(name))
-        row = self.row("in", "17")
-        self.assertIn("nothing found", self.run_list(row))
-        shutil.rmtree(self.folder / "out17")
-        shutil.rmtree(self.folder / "list.run")
-        self.assertIn("nothing found", self.run_list(row, options=("--shift-dates",)))
+        self.write_rules("012,0063")
+        for more in {}, {"configuration": "rules.txt"}:
+            for options in (), ("--shift-dates",):
+                self.assertIn("nothing found", self.run_list(self.row("in", "17", **more), options=options))
+                shutil.rmtree(self.folder / "out17")
+                shutil.rmtree(self.folder / "list.run")
+
+    def test_finds_a_name_inside_a_rule_of_a_configuration(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0010,0010)=Quastenbart^Ilse", source], check=True)
+        self.write_rules("012,0063")
+        with open(self.folder / "rules.txt", "a", encoding="utf-8") as rules:
+            rules.write("0012,0063\tMethod\tthat of Quastenbart\n")
+        self.assertIn("De-identification Method (0012,0063)",
+                      self.run_list(self.row("in", "17", configuration="rules.txt"), status=1))
 
     def test_finds_a_name_inside_the_diagnosis(self):
         self.make("in", count=1)
