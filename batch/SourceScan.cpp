@@ -4,12 +4,14 @@
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "batch/Workers.h"
+#include "check/PathList.h"
 #include "dicom/ObjectFile.h"
 
 #include <QCryptographicHash>
 #include <QHash>
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <vector>
 
@@ -24,10 +26,13 @@ class SourceWalk
 public:
     explicit SourceWalk(const QString &source) : m_source(source)
     {
-        if (isFolder(source))
+        if (isFolder(source)) {
             enter(QByteArray());
-        else
-            m_open.push_back({QByteArray(), {toBytes(lastPathComponent(source))}});
+            return;
+        }
+        check::PathList names;
+        names.append(lastPathComponent(source));
+        open(QByteArray(), std::move(names));
     }
 
     // The next path, relative to the source; "" behind the last one.
@@ -35,11 +40,12 @@ public:
     {
         while (!m_open.empty()) {
             Folder &folder = m_open.back();
-            if (folder.next == folder.names.size()) {
+            if (folder.next == folder.order.size()) {
                 m_open.pop_back();
                 continue;
             }
-            const QByteArray path = folder.path + folder.names[folder.next++];
+            const QByteArray path =
+                folder.path + folder.names.bytesAt(folder.order[folder.next++]).toByteArray();
             if (!path.endsWith('/'))
                 return fromBytes(path);
             enter(path);
@@ -52,8 +58,9 @@ public:
 private:
     struct Folder
     {
-        QByteArray path;               // ends with a slash; "" is the source
-        std::vector<QByteArray> names; // those of folders end with one: it has a place in the order, too
+        QByteArray path;       // ends with a slash; "" is the source
+        check::PathList names; // those of folders end with one: it has a place in the order, too
+        std::vector<qsizetype> order;
         size_t next = 0;
     };
 
@@ -61,11 +68,22 @@ private:
     {
         ++m_folders;
         const QString folder = joinPath(m_source, fromBytes(path));
-        Folder entered{path, {}};
-        for (const QString &name : listNames(folder))
-            entered.names.push_back(toBytes(name) + (isFolder(joinPath(folder, name)) ? "/" : ""));
-        std::sort(entered.names.begin(), entered.names.end());
-        m_open.push_back(std::move(entered));
+        check::PathList names;
+        std::error_code error;
+        std::filesystem::directory_iterator entry(systemPath(folder).toStdString(), error);
+        for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+            std::error_code none; // mostly the entry knows without a call
+            const bool isFolder = entry->symlink_status(none).type() == std::filesystem::file_type::directory;
+            names.appendBytes(QByteArray::fromStdString(entry->path().filename().string()) +
+                              (isFolder ? "/" : ""));
+        }
+        open(path, std::move(names));
+    }
+
+    void open(const QByteArray &path, check::PathList names)
+    {
+        std::vector<qsizetype> order = names.sorted(check::PathList::Order::Bytes);
+        m_open.push_back({path, std::move(names), std::move(order)});
     }
 
     QString m_source;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace dravolin::check {
 
@@ -80,7 +81,8 @@ class Checking
 public:
     Checking(const CheckOptions &options, const CheckEvents &events)
         : m_options(options), m_events(events), m_trees(listBoth(options)),
-          m_values(std::make_shared<Values>())
+          m_values(std::make_shared<Values>()),
+          m_pairs(std::exchange(m_trees.named, {}), m_trees.results.files.size())
     {
         if (options.rules)
             m_rules.emplace(*options.rules);
@@ -130,15 +132,14 @@ private:
             m_events.progress(m_progress);
     }
 
-    // What both sides keep of a file.
-    void keep(const FileRecord &record, const QString &path, UncheckedFile::Side side, KeptRecords &records)
+    // What is told of a file of either side.
+    void count(const FileRecord &record, const QString &path, UncheckedFile::Side side)
     {
         if (record.state == FileRecord::State::Damaged || record.state == FileRecord::State::Unreadable)
             m_report.unchecked.append({side, path, record.reason});
         if (record.state == FileRecord::State::Object)
             ++(side == UncheckedFile::Side::Original ? m_report.originalObjects : m_report.resultObjects);
         m_report.bytes += record.bytes;
-        records.emplace_back(record);
     }
 
     [[nodiscard]] bool isToEnd() const { return m_events.stop && m_events.stop(); }
@@ -167,7 +168,6 @@ private:
     void harvest()
     {
         const PathList &files = m_trees.originals.files;
-        m_originals.reserve(static_cast<size_t>(files.size()));
         m_progress.allFiles = files.size() + m_trees.results.files.size();
         const auto makeWorker = [this, &files] {
             return [this, &files, harvester = Harvester()](qsizetype index) mutable {
@@ -179,7 +179,8 @@ private:
         inOrder<HarvestedFile>(
             files.size(), m_options.workers, makeWorker,
             [&](qsizetype index, HarvestedFile &file) {
-                keep(file.record, files[index], UncheckedFile::Side::Original, m_originals);
+                count(file.record, files[index], UncheckedFile::Side::Original);
+                m_pairs.addOriginal(file.record);
                 takeValues(index, file);
                 tell(false, file.record.bytes);
             },
@@ -189,7 +190,6 @@ private:
     void search()
     {
         const PathList &files = m_trees.results.files;
-        m_results.reserve(static_cast<size_t>(files.size()));
         const Patterns &patterns = m_values->patterns();
         m_groups.emplace(patterns);
         const auto makeSearcher = [&] {
@@ -205,7 +205,8 @@ private:
         inOrder<SearchedFile>(
             files.size(), m_options.workers, makeWorker,
             [&](qsizetype index, SearchedFile &file) {
-                keep(file.record, files[index], UncheckedFile::Side::Result, m_results);
+                count(file.record, files[index], UncheckedFile::Side::Result);
+                m_pairs.addResult(file.record);
                 take(files[index], file);
                 tell(true, file.record.bytes);
             },
@@ -237,7 +238,7 @@ private:
     void finish()
     {
         m_report.values = m_values;
-        m_report.pairing = pairUp(m_originals, m_results, m_trees.named);
+        m_report.pairing = m_pairs.pairing();
         for (const qsizetype index : m_report.pairing.noObjects)
             m_report.unchecked.append({UncheckedFile::Side::Result, m_trees.results.files[index],
                                        Texts::tr("its original is a DICOM object, and it is none")});
@@ -253,10 +254,9 @@ private:
     const CheckEvents &m_events;
     Trees m_trees;
     std::shared_ptr<Values> m_values;
+    Pairs m_pairs;
     std::optional<Rules> m_rules;
     std::optional<FindingGroups> m_groups;
-    KeptRecords m_originals;
-    KeptRecords m_results;
     std::map<std::pair<Tag, bool>, quint64> m_deviations; // files
     CheckProgress m_progress;
     CheckReport m_report;

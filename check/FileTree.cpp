@@ -24,9 +24,9 @@ QString textOf(const fs::path &path)
 
 // Adds what is neither a file nor a folder; gives the names of those, with a slash behind folders, so that
 // their order is that of all paths below them.
-QStringList sortedNames(FileTree &tree, const QString &folder)
+PathList namesIn(FileTree &tree, const QString &folder)
 {
-    QStringList names;
+    PathList names;
     std::error_code error;
     const QString path = folder.isEmpty() ? tree.root : joinPath(tree.root, folder);
     fs::directory_iterator entry(toBytes(path).toStdString(), error);
@@ -44,13 +44,14 @@ QStringList sortedNames(FileTree &tree, const QString &folder)
     }
     if (error)
         tree.unlisted.append(folder);
-    names.sort();
     return names;
 }
 
 void list(FileTree &tree, const QString &folder)
 {
-    for (const QString &name : sortedNames(tree, folder)) {
+    const PathList names = namesIn(tree, folder);
+    for (const qsizetype index : names.sorted(PathList::Order::Texts)) {
+        const QString name = names[index];
         if (name.endsWith(u'/'))
             list(tree, below(folder, name.chopped(1)));
         else
@@ -69,6 +70,7 @@ FileTree listTree(const QString &root)
         return tree;
     }
     list(tree, QString());
+    tree.files.squeeze();
     std::sort(tree.others.begin(), tree.others.end());
     std::sort(tree.unlisted.begin(), tree.unlisted.end());
     std::sort(tree.links.begin(), tree.links.end(),

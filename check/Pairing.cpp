@@ -4,102 +4,106 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace dravolin::check {
 
 namespace {
 
-class Pairs
-{
-public:
-    Pairs(const KeptRecords &originals, const KeptRecords &results)
-        : m_originals(originals), m_results(results), m_originalOf(results.size(), nobody),
-          m_isTaken(originals.size(), false)
-    {
-    }
-
-    // A result that several originals name belongs to the first one.
-    void pairByName(const std::vector<qsizetype> &named)
-    {
-        for (size_t i = 0; i < named.size(); ++i)
-            if (named[i] != nobody && m_originalOf[static_cast<size_t>(named[i])] == nobody)
-                join(i, static_cast<size_t>(named[i]));
-    }
-
-    // Pairs what has the same key on both sides; 0 is none.
-    void pairBy(quint64 KeptRecord::*key)
-    {
-        QMultiHash<quint64, size_t> free;
-        for (size_t i = m_originals.size(); i-- > 0;)
-            if (!m_isTaken[i] && m_originals[i].*key != 0)
-                free.insert(m_originals[i].*key, i);
-        for (size_t i = 0; i < m_results.size(); ++i) {
-            const auto found =
-                m_originalOf[i] == nobody ? free.constFind(m_results[i].*key) : free.constEnd();
-            if (found == free.constEnd())
-                continue;
-            join(*found, i);
-            free.erase(found);
-        }
-    }
-
-    [[nodiscard]] Pairing pairing() const
-    {
-        Pairing result;
-        for (size_t i = 0; i < m_originals.size(); ++i) {
-            if (!m_isTaken[i])
-                result.missing.append(static_cast<qsizetype>(i));
-        }
-        for (size_t i = 0; i < m_results.size(); ++i) {
-            if (m_originalOf[i] == nobody)
-                result.added.append(static_cast<qsizetype>(i));
-            else
-                compare(m_originals[static_cast<size_t>(m_originalOf[i])], i, result);
-        }
-        return result;
-    }
-
-private:
-    void join(size_t original, size_t result)
-    {
-        m_originalOf[result] = static_cast<qsizetype>(original);
-        m_isTaken[original] = true;
-    }
-
-    void compare(const KeptRecord &original, size_t at, Pairing &pairing) const
-    {
-        const KeptRecord &result = m_results[at];
-        const auto index = static_cast<qsizetype>(at);
-        ++pairing.pairs;
-        if (original.state == FileRecord::State::Object && result.state == FileRecord::State::NoObject)
-            pairing.noObjects.append(index);
-        if (result.state != FileRecord::State::Unreadable && original.content == result.content)
-            pairing.unchanged.append(index);
-        else if (original.state == FileRecord::State::Object && result.state == FileRecord::State::Object &&
-                 original.pixels != result.pixels)
-            pairing.pixelsChanged.append(index);
-    }
-
-    const KeptRecords &m_originals;
-    const KeptRecords &m_results;
-    std::vector<qsizetype> m_originalOf; // of each result
-    std::vector<bool> m_isTaken;         // of each original
-};
+constexpr quint64 objectBit = 1;
 
 } // namespace
 
-KeptRecord::KeptRecord(const FileRecord &record)
-    : content(mixed(record.content, record.bytes)), pixels(record.pixels), instance(record.instance),
-      state(record.state)
+Pairs::Pairs(const std::vector<qsizetype> &named, qsizetype results)
+    : m_originalOf(static_cast<size_t>(results), nobody), m_isTaken(named.size(), false)
 {
+    m_originals.reserve(named.size());
+    for (size_t i = 0; i < named.size(); ++i) {
+        if (named[i] != nobody && m_originalOf[static_cast<size_t>(named[i])] == nobody)
+            join(static_cast<qsizetype>(i), named[i]);
+    }
 }
 
-Pairing pairUp(const KeptRecords &originals, const KeptRecords &results, const std::vector<qsizetype> &named)
+void Pairs::join(qsizetype original, qsizetype result)
 {
-    Pairs pairs(originals, results);
-    pairs.pairByName(named);
-    pairs.pairBy(&KeptRecord::instance);
-    pairs.pairBy(&KeptRecord::pixels);
-    return pairs.pairing();
+    m_originalOf[static_cast<size_t>(result)] = original;
+    m_isTaken[static_cast<size_t>(original)] = true;
+}
+
+Pairs::Free Pairs::freeOf(const FileRecord &record, qsizetype index)
+{
+    return {index, record.state, mixed(record.content, record.bytes) & ~objectBit, record.pixels,
+            record.instance};
+}
+
+void Pairs::addOriginal(const FileRecord &record)
+{
+    const size_t index = m_originals.size();
+    const Free own = freeOf(record, static_cast<qsizetype>(index));
+    m_originals.push_back(
+        {own.content | (own.state == FileRecord::State::Object ? objectBit : 0), own.pixels});
+    if (!m_isTaken[index])
+        m_freeOriginals.push_back(own);
+}
+
+void Pairs::addResult(const FileRecord &record)
+{
+    const Free own = freeOf(record, m_results++);
+    const qsizetype original = m_originalOf[static_cast<size_t>(own.index)];
+    if (original == nobody)
+        m_freeResults.push_back(own);
+    else
+        compare(m_originals[static_cast<size_t>(original)], own);
+}
+
+// Pairs what has the same key on both sides; 0 is none.
+void Pairs::pairBy(quint64 Free::*key)
+{
+    QMultiHash<quint64, qsizetype> free;
+    for (auto original = m_freeOriginals.crbegin(); original != m_freeOriginals.crend(); ++original)
+        if (!m_isTaken[static_cast<size_t>(original->index)] && *original.*key != 0)
+            free.insert(*original.*key, original->index);
+    for (const Free &result : m_freeResults) {
+        const bool isPaired = m_originalOf[static_cast<size_t>(result.index)] != nobody;
+        const auto found = isPaired ? free.constEnd() : free.constFind(result.*key);
+        if (found == free.constEnd())
+            continue;
+        join(*found, result.index);
+        free.erase(found);
+    }
+}
+
+void Pairs::compare(const Kept &original, const Free &result)
+{
+    using State = FileRecord::State;
+    const bool wasObject = (original.content & objectBit) != 0;
+    ++m_pairing.pairs;
+    if (wasObject && result.state == State::NoObject)
+        m_pairing.noObjects.append(result.index);
+    if (result.state != State::Unreadable && (original.content & ~objectBit) == result.content)
+        m_pairing.unchanged.append(result.index);
+    else if (wasObject && result.state == State::Object && original.pixels != result.pixels)
+        m_pairing.pixelsChanged.append(result.index);
+}
+
+Pairing Pairs::pairing()
+{
+    pairBy(&Free::instance);
+    pairBy(&Free::pixels);
+    for (const Free &original : m_freeOriginals) {
+        if (!m_isTaken[static_cast<size_t>(original.index)])
+            m_pairing.missing.append(original.index);
+    }
+    for (const Free &result : m_freeResults) {
+        const qsizetype original = m_originalOf[static_cast<size_t>(result.index)];
+        if (original == nobody)
+            m_pairing.added.append(result.index);
+        else
+            compare(m_originals[static_cast<size_t>(original)], result);
+    }
+    for (QList<qsizetype> *list : {&m_pairing.unchanged, &m_pairing.pixelsChanged, &m_pairing.noObjects})
+        std::sort(list->begin(), list->end());
+    return std::move(m_pairing);
 }
 
 } // namespace dravolin::check

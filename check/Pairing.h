@@ -19,23 +19,52 @@ struct Pairing
     qsizetype pairs = 0;
 };
 
-// What is kept of each of many files.
-struct KeptRecord
-{
-    explicit KeptRecord(const FileRecord &record);
-
-    quint64 content; // as in FileRecord, its length among it
-    quint64 pixels;
-    quint64 instance;
-    FileRecord::State state;
-};
-using KeptRecords = std::vector<KeptRecord>;
-
 constexpr qsizetype nobody = -1;
 
-// Pairs by name, then by SOP Instance UID, then by pixel data; each file once. `named` has the index of the
-// result that has an original's name, or nobody, for each original.
-[[nodiscard]] Pairing pairUp(const KeptRecords &originals, const KeptRecords &results,
-                             const std::vector<qsizetype> &named);
+// Pairs by name, then by SOP Instance UID, then by pixel data; each file once. One thread at a time.
+class Pairs
+{
+public:
+    // `named` has the index of the result that has an original's name, or nobody, for each original. A result
+    // that several originals name belongs to the first one.
+    Pairs(const std::vector<qsizetype> &named, qsizetype results);
+
+    // All originals in their order, then all results.
+    void addOriginal(const FileRecord &record);
+    void addResult(const FileRecord &record);
+
+    // Once, behind the last result.
+    [[nodiscard]] Pairing pairing();
+
+private:
+    // What is kept of a file that has no name on the other side.
+    struct Free
+    {
+        qsizetype index;
+        FileRecord::State state;
+        quint64 content;
+        quint64 pixels;
+        quint64 instance;
+    };
+    // What is kept of every original; of a result, nothing is.
+    struct Kept
+    {
+        quint64 content; // as in a record, its length among it; the lowest bit says that it is an object
+        quint64 pixels;
+    };
+
+    [[nodiscard]] static Free freeOf(const FileRecord &record, qsizetype index);
+    void join(qsizetype original, qsizetype result);
+    void pairBy(quint64 Free::*key);
+    void compare(const Kept &original, const Free &result);
+
+    std::vector<Kept> m_originals;
+    std::vector<qsizetype> m_originalOf; // of each result
+    std::vector<bool> m_isTaken;         // of each original
+    std::vector<Free> m_freeOriginals;
+    std::vector<Free> m_freeResults;
+    qsizetype m_results = 0; // so far
+    Pairing m_pairing;
+};
 
 } // namespace dravolin::check

@@ -3,38 +3,65 @@
 #include "base/PathText.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace dravolin::check {
 
 namespace {
 
-// Below 0 when the path of these bytes stands before `path`, above when behind; as texts compare, which is
-// not as bytes do.
-int order(QByteArrayView bytes, const QString &path)
+constexpr int firstOther = 0x80; // behind ASCII
+
+// The unit at a place of bytes or of a text; -1 behind the last.
+int unitAt(QByteArrayView bytes, qsizetype at)
 {
-    constexpr int firstOther = 0x80; // behind ASCII
-    const qsizetype size = std::min(bytes.size(), path.size());
+    return at < bytes.size() ? static_cast<uchar>(bytes[at]) : -1;
+}
+
+int unitAt(const QString &text, qsizetype at)
+{
+    return at < text.size() ? text[at].unicode() : -1;
+}
+
+QString textOf(QByteArrayView bytes)
+{
+    return fromBytes(bytes.toByteArray());
+}
+
+const QString &textOf(const QString &text)
+{
+    return text;
+}
+
+// Below 0 when the path of these bytes stands before the other one, above when behind; as texts compare,
+// which is not as bytes do.
+template <typename Path>
+int order(QByteArrayView bytes, const Path &other)
+{
     qsizetype at = 0;
-    while (at < size && path[at].unicode() < firstOther && bytes[at] == path[at].unicode())
+    while (at < bytes.size() && unitAt(bytes, at) < firstOther && unitAt(bytes, at) == unitAt(other, at))
         ++at;
-    const int there = at < bytes.size() ? static_cast<uchar>(bytes[at]) : -1;
-    const int wanted = at < path.size() ? path[at].unicode() : -1;
-    if (there < firstOther || wanted < firstOther)
-        return there - wanted;
-    return fromBytes(bytes.toByteArray()).compare(path);
+    const int one = unitAt(bytes, at);
+    const int two = unitAt(other, at);
+    return one < firstOther || two < firstOther ? one - two : textOf(bytes).compare(textOf(other));
 }
 
 } // namespace
 
-void PathList::append(const QString &path)
+void PathList::appendBytes(QByteArrayView path)
 {
-    m_bytes += toBytes(path);
+    m_bytes += path;
     m_ends.push_back(m_bytes.size());
+}
+
+void PathList::squeeze()
+{
+    m_bytes.squeeze();
+    m_ends.shrink_to_fit();
 }
 
 QString PathList::operator[](qsizetype index) const
 {
-    return fromBytes(bytesAt(index).toByteArray());
+    return textOf(bytesAt(index));
 }
 
 QByteArrayView PathList::bytesAt(qsizetype index) const
@@ -55,6 +82,18 @@ qsizetype PathList::indexOf(const QString &path) const
         (there < 0 ? first : end) = there < 0 ? middle + 1 : middle;
     }
     return -1;
+}
+
+std::vector<qsizetype> PathList::sorted(Order wanted) const
+{
+    std::vector<qsizetype> indices(m_ends.size());
+    std::iota(indices.begin(), indices.end(), 0);
+    std::sort(indices.begin(), indices.end(), [this, wanted](qsizetype one, qsizetype two) {
+        const QByteArrayView first = bytesAt(one);
+        const QByteArrayView second = bytesAt(two);
+        return wanted == Order::Bytes ? first < second : order(first, second) < 0;
+    });
+    return indices;
 }
 
 QStringList PathList::toList() const

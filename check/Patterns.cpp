@@ -75,43 +75,48 @@ Patterns::KeptPattern Patterns::kept(const Pattern &pattern)
     return {pattern, static_cast<quint32>(pattern.value.size()), start};
 }
 
-const Patterns::Slot *Patterns::slot(quint64 state) const
+size_t Patterns::slotOf(quint64 state) const
 {
-    if (m_slots.empty())
-        return nullptr;
-    const size_t mask = m_slots.size() - 1;
-    for (size_t at = state & mask;; at = (at + 1) & mask) {
-        if (m_slots[at].state == state)
-            return &m_slots[at];
-        if (m_slots[at].state == 0)
-            return nullptr;
-    }
+    // its first half as a fraction of all, so that any number of slots does
+    size_t at = ((state >> 32) * m_states.size()) >> 32;
+    while (m_states[at] != 0 && m_states[at] != state)
+        at = at + 1 == m_states.size() ? 0 : at + 1;
+    return at;
 }
 
+std::optional<size_t> Patterns::slot(quint64 state) const
+{
+    if (m_states.empty())
+        return std::nullopt;
+    const size_t at = slotOf(state);
+    return m_states[at] == 0 ? std::nullopt : std::optional(at);
+}
+
+// By half, since memory for as many again would lie idle.
 void Patterns::grow()
 {
-    const std::vector<Slot> old =
-        std::exchange(m_slots, std::vector<Slot>(std::max<size_t>(64, m_slots.size() * 2)));
-    m_used = 0;
-    for (const Slot &slot : old) {
-        if (slot.state != 0)
-            makeSlot(slot.state) = slot;
+    const size_t size = std::max<size_t>(64, m_states.size() + m_states.size() / 2);
+    const auto states = std::exchange(m_states, std::vector<quint64>(size));
+    const auto patterns = std::exchange(m_patternOf, std::vector<quint32>(size, none));
+    const auto goesOn = std::exchange(m_goesOn, std::vector<bool>(size));
+    for (size_t i = 0; i < states.size(); ++i) {
+        if (states[i] == 0)
+            continue;
+        const size_t at = slotOf(states[i]);
+        m_states[at] = states[i];
+        m_patternOf[at] = patterns[i];
+        m_goesOn[at] = goesOn[i];
     }
 }
 
-Patterns::Slot &Patterns::makeSlot(quint64 state)
+size_t Patterns::makeSlot(quint64 state)
 {
-    if ((m_used + 1) * 2 > m_slots.size())
+    if ((m_used + 1) * 3 > m_states.size() * 2)
         grow();
-    const size_t mask = m_slots.size() - 1;
-    size_t at = state & mask;
-    while (m_slots[at].state != 0 && m_slots[at].state != state)
-        at = (at + 1) & mask;
-    if (m_slots[at].state == 0) {
-        m_slots[at].state = state;
-        ++m_used;
-    }
-    return m_slots[at];
+    const size_t at = slotOf(state);
+    m_used += m_states[at] == 0 ? 1 : 0;
+    m_states[at] = state;
+    return at;
 }
 
 quint32 &Patterns::patternOf(std::span<const Word> words)
@@ -119,9 +124,9 @@ quint32 &Patterns::patternOf(std::span<const Word> words)
     quint64 state = 0;
     for (size_t i = 0; i + 1 < words.size(); ++i) {
         state = mixed(state, words[i].hash);
-        makeSlot(state).longer = true;
+        m_goesOn[makeSlot(state)] = true;
     }
-    return makeSlot(mixed(state, words.back().hash)).pattern;
+    return m_patternOf[makeSlot(mixed(state, words.back().hash))];
 }
 
 quint32 Patterns::add(const Pattern &pattern, std::span<const Word> words)
@@ -168,9 +173,10 @@ void Patterns::findDatePrefix(const Word &word, size_t at, std::vector<Hit> &hit
 {
     if (word.datePrefix == 0)
         return;
-    const Slot *const found = slot(mixed(0, word.datePrefix));
-    if (found && found->pattern != none && m_patterns[found->pattern].valueClass == ValueClass::Date)
-        hits.push_back({found->pattern, at});
+    const std::optional<size_t> found = slot(mixed(0, word.datePrefix));
+    const quint32 pattern = found ? m_patternOf[*found] : none;
+    if (pattern != none && m_patterns[pattern].valueClass == ValueClass::Date)
+        hits.push_back({pattern, at});
 }
 
 std::vector<Patterns::Hit> Patterns::hits(std::span<const Word> words) const
@@ -181,12 +187,13 @@ std::vector<Patterns::Hit> Patterns::hits(std::span<const Word> words) const
         quint64 state = 0;
         for (size_t last = first; last < words.size(); ++last) {
             state = mixed(state, words[last].hash);
-            const Slot *const found = slot(state);
+            const std::optional<size_t> found = slot(state);
             if (!found)
                 break;
-            if (found->pattern != none && fits(m_patterns[found->pattern], words, first, last))
-                hits.push_back({found->pattern, last});
-            if (!found->longer)
+            const quint32 pattern = m_patternOf[*found];
+            if (pattern != none && fits(m_patterns[pattern], words, first, last))
+                hits.push_back({pattern, last});
+            if (!m_goesOn[*found])
                 break;
         }
     }

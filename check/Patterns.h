@@ -79,12 +79,6 @@ public:
     static constexpr quint32 none = 0xFFFFFFFFU;
 
 private:
-    struct Slot
-    {
-        quint64 state = 0; // 0: free
-        quint32 pattern = none;
-        bool longer = false; // some pattern goes on behind these words
-    };
     struct KeptPattern : PatternTraits
     {
         quint32 length = 0; // of the value
@@ -97,8 +91,11 @@ private:
     };
 
     [[nodiscard]] KeptPattern kept(const Pattern &pattern);
-    [[nodiscard]] const Slot *slot(quint64 state) const;
-    Slot &makeSlot(quint64 state);
+    // The slot of a state, or the free one where it belongs; there are some slots.
+    [[nodiscard]] size_t slotOf(quint64 state) const;
+    // The slot of a state, if it has one.
+    [[nodiscard]] std::optional<size_t> slot(quint64 state) const;
+    size_t makeSlot(quint64 state);
     void grow();
     quint32 &patternOf(std::span<const Word> words);
     [[nodiscard]] std::vector<Hit> hits(std::span<const Word> words) const;
@@ -109,7 +106,11 @@ private:
 
     std::deque<KeptPattern> m_patterns;
     QByteArray m_values; // of all of them, one behind the other
-    std::vector<Slot> m_slots;
+    // The words that patterns begin with: of each slot the state behind them, 0 when it is free, the pattern
+    // that they are, or none, and whether some pattern goes on behind them. Apart, so that no byte is lost.
+    std::vector<quint64> m_states;
+    std::vector<quint32> m_patternOf;
+    std::vector<bool> m_goesOn;
     size_t m_used = 0;
     std::unordered_map<quint64, quint32> m_pairs; // two components, the lower index first
     bool m_ideographs = false;

@@ -200,6 +200,9 @@ void TestChecking::pairsFiles()
     scratch.file(QStringLiteral("after/same"), "text");
     scratch.file(QStringLiteral("before/renamed"), object(instance));
     scratch.file(QStringLiteral("after/new name"), object(instance + patient));
+    const QByteArray twin = object(element(0x00080018, "UI", "1.2.3.5"));
+    scratch.file(QStringLiteral("before/moved"), twin);
+    scratch.file(QStringLiteral("after/a twin"), twin);
     scratch.file(QStringLiteral("before/pixels"), object(latin1 + pixels));
     scratch.file(QStringLiteral("after/other"), object(patient + pixels));
     scratch.file(QStringLiteral("before/lost"), "lost");
@@ -213,10 +216,11 @@ void TestChecking::pairsFiles()
             some.append(files[index]);
         return some;
     };
-    QCOMPARE(report.pairing.pairs, 3);
+    QCOMPARE(report.pairing.pairs, 4);
     QCOMPARE(names(report.pairing.missing, report.originalFiles), QStringList{QStringLiteral("lost")});
     QCOMPARE(names(report.pairing.added, report.resultFiles), QStringList{QStringLiteral("added")});
-    QCOMPARE(names(report.pairing.unchanged, report.resultFiles), QStringList{QStringLiteral("same")});
+    QCOMPARE(names(report.pairing.unchanged, report.resultFiles),
+             (QStringList{QStringLiteral("a twin"), QStringLiteral("same")}));
     QCOMPARE(report.pairing.pixelsChanged, QList<qsizetype>());
     QStringList unchecked;
     for (const UncheckedFile &file : report.unchecked)

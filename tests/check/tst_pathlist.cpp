@@ -14,6 +14,7 @@ class TestPathList : public QObject
 private Q_SLOTS:
     void givesPathsBackAsTheyWere();
     void findsPathsInOrder();
+    void tellsTheOrderOfTextsAndOfBytes();
     void listsATreeInTheOrderOfWholePaths();
 };
 
@@ -46,6 +47,18 @@ void TestPathList::findsPathsInOrder()
     for (const QString &path : {QString(), QStringLiteral("a/"), QStringLiteral("c"),
                                 QStringLiteral("b\u00e5"), QStringLiteral("b\uFF02"), fromBytes("\xff\xff")})
         QCOMPARE(list.indexOf(path), -1);
+}
+
+void TestPathList::tellsTheOrderOfTextsAndOfBytes()
+{
+    PathList list;
+    QVERIFY(list.sorted(PathList::Order::Texts).empty());
+    for (const QString &path : {QStringLiteral("b"), QStringLiteral("a\uFF01"), QStringLiteral("a\U0001F600"),
+                                QStringLiteral("a"), QStringLiteral("a/"), QStringLiteral("a-"), QString()})
+        list.append(path);
+    list.squeeze();
+    QCOMPARE(list.sorted(PathList::Order::Texts), (std::vector<qsizetype>{6, 3, 5, 4, 2, 1, 0}));
+    QCOMPARE(list.sorted(PathList::Order::Bytes), (std::vector<qsizetype>{6, 3, 5, 4, 1, 2, 0}));
 }
 
 void TestPathList::listsATreeInTheOrderOfWholePaths()
