@@ -124,9 +124,11 @@ private:
                     work.save();
                     tell(work.progress());
                 });
-            for (; m_casesDone < work.casesEnded() && !isToEnd(); ++m_casesDone)
+            for (; m_casesDone < work.casesEnded() && !isToEnd(); ++m_casesDone) {
                 if (!work.finishCase(m_casesDone, m_events.stop) || !isChecked(checks))
                     return;
+                work.leaveCase(m_casesDone);
+            }
         }
     }
 

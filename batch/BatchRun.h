@@ -57,7 +57,7 @@ struct BatchEvents
 // Carries the list out and checks each case by value, or goes on where an earlier call was. Sources are only
 // read. A result gets its name when its bytes are safe on the disk; the journal knows it after that. Evidence
 // (batch/Evidence.h) is written at the end, unless the call was stopped or failed. Two calls with one run
-// folder exclude each other.
+// folder exclude each other, and so do two with one destination while its case is done and checked.
 [[nodiscard]] BatchOutcome runBatch(const BatchOptions &options, const BatchEvents &events);
 
 } // namespace dravolin

@@ -25,7 +25,7 @@ struct Column
 
 constexpr std::array<Column, 10> columns = {{
     {"source", &CaseRow::source, true, true},
-    {"destination", &CaseRow::destination, true, true, true},
+    {"destination", &CaseRow::destination, true, true},
     {"case_id", &CaseRow::caseId, true, false, true},
     {"diagnosis", &CaseRow::diagnosis},
     {"keywords", &CaseRow::keywords},

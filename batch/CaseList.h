@@ -36,7 +36,7 @@ struct CaseRow
 struct CaseList
 {
     QList<CaseRow> rows;
-    QList<ListProblem> problems; // of the text alone: columns, missing values, values that must differ
+    QList<ListProblem> problems; // of the text alone: columns, missing values, ids that are there twice
 };
 
 // The list in `text`; relative paths begin at `folder`. The first line names the columns, in any order. Pure.

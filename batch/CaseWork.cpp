@@ -24,19 +24,16 @@ CaseWork::CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &op
 {
     const auto count = static_cast<size_t>(plan.cases.size());
     m_treatments.reserve(count); // rules are pointed to
-    m_counts.resize(plan.cases.size());
+    m_locks.resize(count);
     m_progress.allCases = plan.cases.size();
     nameStudies();
-    const bool isBegun = m_journal.together([this, count] {
-        bool done = true;
-        for (size_t i = 0; i < count; ++i)
-            done = beginCase(i) && done;
-        return done;
-    });
-    if (!isBegun)
-        fail(Texts::tr("the journal cannot be written"));
-    else
-        makeDestinations();
+    for (const PlannedCase &planned : plan.cases) {
+        m_counts.emplaceBack().caseId = planned.row.caseId;
+        m_treatments.push_back(treatmentOf(planned));
+        m_sources.push_back(planned.sourceFolder());
+        m_progress.allFiles += planned.files;
+    }
+    makeDestinations();
 }
 
 void CaseWork::nameStudies()
@@ -48,18 +45,7 @@ void CaseWork::nameStudies()
                     m_studies.insert(study, planned.studyUid);
 }
 
-bool CaseWork::beginCase(size_t index)
-{
-    const PlannedCase &planned = m_plan.cases.at(static_cast<qsizetype>(index));
-    m_counts[static_cast<qsizetype>(index)].caseId = planned.row.caseId;
-    m_treatments.push_back(treatmentOf(planned));
-    m_sources.push_back(planned.sourceFolder());
-    const QByteArray rules = rulesHash(m_treatments.back().rules, planned.table, m_options, planned.studyUid);
-    m_progress.allFiles += planned.files;
-    return m_journal.begin(planned.row, rules);
-}
-
-// The journal knows them by now: a later call takes them for its own.
+// All of them before the first one gets a result: what cannot be made is told at once.
 void CaseWork::makeDestinations()
 {
     for (const PlannedCase &planned : m_plan.cases)
@@ -88,15 +74,31 @@ bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
 
 void CaseWork::beginRound()
 {
-    constexpr size_t enoughFiles = 2000;
-    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
     m_tasks.clear();
     m_bytes = 0;
-    while (m_ended < m_plan.cases.size()) {
+    const bool isSafe = m_journal.together([this] {
+        takeRound();
+        return !m_failed;
+    });
+    if (!isSafe && !m_failed)
+        fail(Texts::tr("the journal cannot be written"));
+    if (!m_files.isGood())
+        fail(Texts::tr("the folder %1 cannot be written to").arg(m_options.runFolder()));
+}
+
+void CaseWork::takeRound()
+{
+    constexpr size_t enoughFiles = 2000;
+    constexpr quint64 enoughBytes = 256 * 1024 * 1024;
+    constexpr qsizetype enoughCases =
+        500; // each keeps a folder open, and a process may often open 1024 files
+    const qsizetype lastCase = m_ended + enoughCases;
+    while (m_ended < m_plan.cases.size() && !m_failed) {
         if (m_open && m_open->left == 0) {
             m_open.reset();
             ++m_ended;
-        } else if (m_tasks.size() >= enoughFiles || (m_bytes >= enoughBytes && !m_open)) {
+        } else if (m_tasks.size() >= enoughFiles ||
+                   (!m_open && (m_bytes >= enoughBytes || m_ended == lastCase))) {
             break; // within a case a round would only make workers wait for each other
         } else if (m_open) {
             takeFile();
@@ -104,18 +106,33 @@ void CaseWork::beginRound()
             openCase();
         }
     }
-    if (!m_files.isGood())
-        fail(Texts::tr("the folder %1 cannot be written to").arg(m_options.runFolder()));
 }
 
 void CaseWork::openCase()
 {
     const PlannedCase &planned = m_plan.cases.at(m_ended);
+    if (!beginCase())
+        return;
     removeStale(planned);
     m_open.emplace(OpenCase{planned.firstFile,
                             planned.files,
                             {m_key, planned.directory.has_value()},
                             {m_journal, planned.row.caseId}});
+}
+
+// The journal knows the case before it has a result: a later call takes the destination for its own.
+bool CaseWork::beginCase()
+{
+    const PlannedCase &planned = m_plan.cases.at(m_ended);
+    const auto index = static_cast<size_t>(m_ended);
+    QString problem;
+    m_locks[index] = takeDestination(planned.row.destination, m_journal.knows(planned.row), &problem);
+    const QByteArray rules = rulesHash(m_treatments[index].rules, planned.table, m_options, planned.studyUid);
+    if (problem.isEmpty() && !m_journal.begin(planned.row, rules))
+        problem = Texts::tr("the journal cannot be written");
+    if (!problem.isEmpty())
+        fail(problem);
+    return problem.isEmpty();
 }
 
 void CaseWork::takeFile()

@@ -16,16 +16,18 @@
 namespace dravolin {
 
 // The files of a run that are still to be done, and what becomes of them. They come in rounds: enough of them
-// for all workers, but no more cases than the system may still have in memory when the check reads them.
+// for all workers, but no more cases than the system may still have in memory when the check reads them. From
+// its first round until it is left a case keeps other calls out of its destination.
 class CaseWork
 {
 public:
-    // Begins all cases, or goes on with them. All arguments have to outlive it.
+    // Makes the destinations. All arguments have to outlive it.
     CaseWork(const Plan &plan, PlannedFiles &files, const BatchOptions &options, const ProjectKey &key,
              Journal &journal);
 
     // Takes the next files, in the order of their cases and paths, but those that the journal says were done,
-    // when neither source nor rules have changed. The last round is the one that ends all cases.
+    // when neither source nor rules have changed. The last round is the one that ends all cases. Fails at a
+    // destination that another call works in, or has filled since the list was judged.
     void beginRound();
     [[nodiscard]] qsizetype filesOfRound() const { return static_cast<qsizetype>(m_tasks.size()); }
     // How many cases, from the first one on, have no file behind this round.
@@ -41,6 +43,8 @@ public:
     void save();
     // Adds to the results of a case, all of which are saved, what it needs besides; false after a failure.
     [[nodiscard]] bool finishCase(qsizetype index, const std::function<bool()> &stop);
+    // Lets other calls into the destination of a case, which is finished and checked.
+    void leaveCase(qsizetype index) { m_locks[static_cast<size_t>(index)] = Descriptor(); }
     [[nodiscard]] QString failure() const { return m_failure; }
     [[nodiscard]] BatchProgress progress() const { return m_progress; }
     [[nodiscard]] QList<CaseCounts> counts() const { return m_counts; }
@@ -70,9 +74,10 @@ private:
     };
 
     void nameStudies();
-    [[nodiscard]] bool beginCase(size_t index);
     void makeDestinations();
+    void takeRound();
     void openCase();
+    [[nodiscard]] bool beginCase();
     void takeFile();
     [[nodiscard]] bool isDone(const FileRecord &known, const PlannedFile &file, const QString &result) const;
     void removeStale(const PlannedCase &planned);
@@ -91,6 +96,7 @@ private:
     Journal &m_journal;
     std::vector<Treatment> m_treatments; // of the cases
     std::vector<QString> m_sources;      // their folders
+    std::vector<Descriptor> m_locks;     // of their destinations
     std::vector<Task> m_tasks;           // of the round
     quint64 m_bytes = 0;                 // of them
     qsizetype m_taken = 0;               // into all rounds

@@ -3,11 +3,11 @@
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
-#include "dicom/SourceFile.h"
 
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -32,10 +32,25 @@ QString makeDestination(const QString &path)
     SystemError error;
     if (!createFolder(path, &error))
         return Texts::tr("the destination %1 cannot be made: %2").arg(path, error.text);
+    return {};
+}
+
+Descriptor takeDestination(const QString &path, bool isBegun, QString *problem)
+{
+    Descriptor folder(::open(systemPath(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen())
+        *problem = Texts::tr("the destination %1 cannot be opened: %2")
+                       .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
+    else if (::flock(folder.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        *problem = Texts::tr("another call is at work in %1").arg(path);
+    else if (!isBegun && !listNames(path).isEmpty())
+        *problem = Texts::tr("the destination %1 is in use").arg(path);
+    if (!problem->isEmpty())
+        return Descriptor();
     for (const QString &name : listNames(path))
         if (isTemporaryName(name))
             removeFile(joinPath(path, name));
-    return {};
+    return folder;
 }
 
 QString syncFolders(const QSet<QString> &folders)

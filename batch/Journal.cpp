@@ -96,10 +96,11 @@ bool Journal::knows(const CaseRow &row) const
 
 bool Journal::begin(const CaseRow &row, const QByteArray &rules)
 {
-    QSqlQuery query =
-        prepared(database(), QStringLiteral("SELECT rules FROM cases WHERE id = ?"), {row.caseId});
-    const bool same = query.next() && query.value(0).toByteArray() == rules;
-    query.finish();
+    const bool same =
+        prepared(database(),
+                 QStringLiteral("SELECT 1 FROM cases WHERE id = ? AND destination = ? AND rules = ?"),
+                 {row.caseId, toBytes(row.destination), rules})
+            .next();
     return same || (run(QStringLiteral("UPDATE files SET modified = -1 WHERE id = ?"), {row.caseId}) &&
                     run(QStringLiteral("INSERT OR REPLACE INTO cases VALUES (?, ?, ?)"),
                         {row.caseId, toBytes(row.destination), rules}));

@@ -42,8 +42,8 @@ public:
 
     // Whether a case with that id and destination was begun.
     [[nodiscard]] bool knows(const CaseRow &row) const;
-    // Begins a case, or goes on with it. With other rules than last time, said by their hash, its files count
-    // as to be done anew.
+    // Begins a case, or goes on with it. With other rules than last time, said by their hash, or another
+    // destination its files count as to be done anew.
     bool begin(const CaseRow &row, const QByteArray &rules);
     // Takes a file out.
     bool remove(const QString &caseId, const QString &path);

@@ -5,6 +5,7 @@
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "batch/ConfigurationLines.h"
+#include "batch/Places.h"
 #include "check/Check.h"
 #include "identifiers/UidRoot.h"
 #include "processing/Edits.h"
@@ -25,31 +26,6 @@ constexpr TagNumber studyTag = 0x0020000d;
 constexpr TagNumber identityRemovedTag = 0x00120062;
 constexpr TagNumber methodTag = 0x00120063;
 constexpr TagNumber datesModifiedTag = 0x00280303;
-
-// Whether `inner` is `outer` or lies in it. A path that is missing is told elsewhere.
-bool isInside(const QString &inner, const QString &outer)
-{
-    if (inner.isEmpty() || outer.isEmpty())
-        return false;
-    return inner == outer || inner.startsWith(joinPath(outer, QString()));
-}
-
-// Places that the run writes to.
-QString overlap(const CaseRow &row, const QList<CaseRow> &rows, const QString &runFolder)
-{
-    if (isInside(runFolder, row.source))
-        return Texts::tr("the source holds the run's own folder");
-    if (isInside(runFolder, row.destination) || isInside(row.destination, runFolder))
-        return Texts::tr("the destination and the run's own folder lie one inside the other");
-    for (const CaseRow &other : rows) {
-        if (isInside(row.destination, other.source) || isInside(other.source, row.destination))
-            return Texts::tr("the destination and the source of line %1 lie one inside the other")
-                .arg(other.line);
-        if (row.destination != other.destination && isInside(row.destination, other.destination))
-            return Texts::tr("the destination lies inside that of line %1").arg(other.line);
-    }
-    return {};
-}
 
 QString markerOf(const CaseRow &row)
 {
@@ -200,8 +176,6 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
         const bool isOurs = options.shard.holds(row.caseId);
         if (isOurs && isInUse(row.destination) && !isOwn(row))
             problems.append(Texts::tr("the destination %1 is in use").arg(row.destination));
-        if (const QString problem = overlap(row, list.rows, options.wholeFolder); !problem.isEmpty())
-            problems.append(problem);
         if (!row.uidRoot.isEmpty()) {
             const QByteArray study = studyUidOf(row);
             const auto line = studyLines.value(study, row.line);
@@ -218,6 +192,7 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
         else if (!row.uidRoot.isEmpty())
             plan.others.append(planned);
     }
+    plan.problems.append(placeProblems(list.rows, options));
     std::stable_sort(plan.problems.begin(), plan.problems.end(),
                      [](const ListProblem &one, const ListProblem &other) { return one.line < other.line; });
     return plan;

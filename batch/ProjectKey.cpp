@@ -77,7 +77,10 @@ std::optional<ProjectKey> ProjectKey::readOrMake(const QString &path, QString *p
                        .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
         return std::nullopt;
     }
-    return read(path, problem);
+    std::optional<ProjectKey> key = read(path, problem);
+    if (!key && problem->isEmpty()) // a link that leads nowhere
+        *problem = Texts::tr("the key file %1 cannot be read").arg(path);
+    return key;
 }
 
 QString ProjectKey::shortName(const QByteArray &uid) const

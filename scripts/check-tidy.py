@@ -22,8 +22,9 @@ PROCESSES = 2
 
 
 def prepare():
-    """The compile commands and the headers that are made from layouts."""
-    for command in (["cmake", "--preset", "tidy"], ["cmake", "--build", BUILD, "--target", "autogen"]):
+    """The compile commands, and what is made for the compiler: headers from layouts, a table of attributes."""
+    for command in (["cmake", "--preset", "tidy"],
+                    ["cmake", "--build", BUILD, "--target", "autogen", "dictionary_table"]):
         subprocess.run(command, cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
 
 

@@ -211,6 +211,26 @@ class Run(unittest.TestCase):
             self.assertIn(text, printed)
         self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["list.csv", "rules.txt"])
 
+    def test_writes_nothing_to_places_that_are_another_by_a_link(self):
+        for name in ("s1", "s2", "real"):
+            (self.folder / name).mkdir()
+        (self.folder / "s1alias").symlink_to("s1")
+        (self.folder / "alias").symlink_to("real")
+        (self.folder / "nowhere").symlink_to("none")
+        before = tree(self.folder)
+        self.write_list(("s1", "real/17", "1", "rules.txt", "", ""), ("s2", "alias/17", "2", "rules.txt", "", ""),
+                        ("s2", "s1alias/out", "3", "rules.txt", "", ""))
+        printed = self.call("run", "list.csv", "--folder", "s1alias/run", "--key", "s1alias/newkey", status=2)
+        for text in ("line 2: the source holds the run's own folder",
+                     f"line 2: the key {self.folder}/s1alias/newkey lies in the source",
+                     "line 3: has the destination of line 2",
+                     "line 4: the destination and the source of line 2 lie one inside the other"):
+            self.assertIn(text, printed)
+        (self.folder / "list.csv").unlink()
+        self.assertEqual((tree(self.folder), os.listdir(self.folder / "real")), (before, []))
+        self.write_list(("s1", "out", "1", "rules.txt", "", ""))
+        self.assertIn("cannot be read", self.call("run", "list.csv", "--key", "nowhere", status=2))
+
     def test_refuses_a_second_call_and_another_key(self):
         make("mixed", self.folder / "in", "--count", "3", "--no-directory")
         self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
@@ -220,6 +240,46 @@ class Run(unittest.TestCase):
         with open(self.folder / "list.run/lock", "rb") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
             self.assertIn("another call is at work", self.call("run", "list.csv", status=2))
+
+    def test_leaves_a_destination_to_the_call_that_works_in_it(self):
+        make("mixed", self.folder / "in", "--count", "3", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        (self.folder / "out").mkdir()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        other = os.open(self.folder / "out", os.O_RDONLY)
+        self.addCleanup(os.close, other)
+        fcntl.flock(other, fcntl.LOCK_EX)
+        printed = self.call("run", "list.csv", status=1)
+        self.assertIn(f"another call is at work in {self.folder}/out", printed)
+        self.assertEqual(os.listdir(self.folder / "out"), [])
+        fcntl.flock(other, fcntl.LOCK_UN)
+        self.call("run", "list.csv")
+
+    def test_mixes_no_two_runs_in_one_destination(self):
+        make("mixed", self.folder / "in", "--count", "100", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        with untouched(self.folder):
+            calls = {name: subprocess.Popen([CLI, "run", "list.csv", "--folder", name], cwd=self.folder, text=True,
+                                            stdout=subprocess.PIPE, stderr=subprocess.STDOUT) for name in ("fa", "fb")}
+            printed = {name: call.communicate()[0] for name, call in calls.items()}
+        winners = [name for name, call in calls.items() if call.returncode == 0]
+        self.assertEqual(len(winners), 1, printed)
+        loser, = calls.keys() - winners
+        self.assertRegex(printed[loser], "another call is at work in|is in use")
+        self.assertIn(calls[loser].returncode, (1, 2))
+        rows = (self.folder / winners[0] / "evidence/files.csv").read_text(encoding="utf-8").splitlines()[1:]
+        self.assertEqual(tree(self.folder / "out"), {row.split(",")[1]: row.split(",")[3] for row in rows})
+
+    def test_goes_on_in_another_destination_of_the_list(self):
+        make("mixed", self.folder / "in", "--count", "3", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        self.write_list(("in", "out", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        self.write_list(("in", "elsewhere", "17", "rules.txt", "Case", ""))
+        self.call("run", "list.csv")
+        self.assertEqual(tree(self.folder / "elsewhere"), tree(self.folder / "out"))
+        self.assertIn("Nothing is left to be done.", self.call("run", "list.csv"))
 
     def set_journal_version(self, version):
         with contextlib.closing(sqlite3.connect(self.folder / "list.run/journal.sqlite")) as journal:
