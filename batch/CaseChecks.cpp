@@ -19,20 +19,26 @@ namespace dravolin {
 namespace {
 
 // What the run itself writes into results.
-QStringList setValues(const PlannedCase &planned, const BatchOptions &batch)
+QStringList setValues(const PlannedCase &planned)
 {
     const CaseRow &row = planned.row;
-    QStringList values = {row.caseId,
-                          row.diagnosis,
-                          row.keywords,
-                          row.credits,
-                          row.uidRoot,
-                          QString::fromLatin1(planned.studyUid),
-                          deidentificationMethod(batch)};
+    QStringList values = {row.caseId,  row.diagnosis, row.keywords,
+                          row.credits, row.uidRoot,   QString::fromLatin1(planned.studyUid)};
     for (const QString &value : planned.table)
         values.append(value);
     values.sort(); // a table has no order
     return values;
+}
+
+// The default configuration comes with the program, and what it says about itself as well.
+check::OwnTexts ownTextsFor(const PlannedCase &planned, const BatchOptions &batch)
+{
+    constexpr TagNumber method = 0x00120063;
+    check::OwnTexts texts = ownTexts(batch);
+    const QString ofDefault = planned.configuration.newValueDict.value(QStringLiteral("0012,0063"));
+    if (planned.row.configuration.isEmpty() && !ofDefault.isEmpty())
+        texts.insert(method, ofDefault);
+    return texts;
 }
 
 check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &batch, const Journal &journal)
@@ -41,7 +47,8 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     options.originals = planned.row.source;
     options.result = planned.row.destination;
     options.identifiers = planned.identifiers;
-    options.setValues = setValues(planned, batch);
+    options.setValues = setValues(planned);
+    options.ownTexts = ownTextsFor(planned, batch);
     options.renamed = [&journal, caseId = planned.row.caseId](const check::RenamedVisit &visit) {
         journal.forEachName(caseId, visit);
     };
@@ -61,7 +68,8 @@ QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &opti
         add(line);
     for (auto rule = options.rules->newValueDict.begin(); rule != options.rules->newValueDict.end(); ++rule)
         add(rule.key() + u'\t' + rule.value());
-    for (const QString &line : options.rules->allTagsToAnonymize + options.identifiers + options.setValues)
+    for (const QString &line : options.rules->allTagsToAnonymize + options.identifiers + options.setValues +
+                                   options.ownTexts.values())
         add(line);
     hash.addData(planned.listing);
     journal.forEachResult(planned.row.caseId, [&add](const FileRecord &record) {

@@ -4,6 +4,7 @@
 #include "base/NOXUtils.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "batch/ConfigurationLines.h"
 #include "batch/Places.h"
 #include "check/Check.h"
 #include "identifiers/UidRoot.h"
@@ -85,7 +86,7 @@ private:
         m_case.configuration = parseConfiguration(*text);
         for (const QString &tag : edits(m_case.configuration, {}).malformedTags)
             m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(tag));
-        QStringList problems;
+        QStringList problems = linesOfNoEffect(*text);
         (void)rulesOf(m_case, m_options, &problems);
         for (const QString &problem : problems)
             m_problems.append(Texts::tr("the configuration has a line that does nothing: %1").arg(problem));
@@ -109,7 +110,7 @@ private:
 
     void loadTable()
     {
-        const std::optional<LutTable> table = loadLut(m_case.row.table);
+        const std::optional<LutTable> table = loadLut(m_case.row.table, MissingText::AsWritten);
         if (!table)
             m_problems.append(
                 Texts::tr("the table %1 cannot be read, or is not UTF-8").arg(m_case.row.table));
@@ -203,11 +204,18 @@ QByteArray studyUidOf(const CaseRow &row)
     return studyInstanceUid(root, row.caseId).toLatin1();
 }
 
-QString deidentificationMethod(const BatchOptions &options)
+QMap<TagNumber, QString> ownTexts(const BatchOptions &options)
 {
-    // with the dates it has the 64 characters that the attribute holds
-    const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
-    return options.moveDates ? method + QStringLiteral(", dates") : method;
+    QMap<TagNumber, QString> texts;
+    if (options.removePrivate && options.mapUids) {
+        // with the dates it has the 64 characters that the attribute holds
+        const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
+        texts.insert(methodTag, options.moveDates ? method + QStringLiteral(", dates") : method);
+        texts.insert(identityRemovedTag, QStringLiteral("YES"));
+    }
+    if (options.moveDates)
+        texts.insert(datesModifiedTag, QStringLiteral("MODIFIED"));
+    return texts;
 }
 
 AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, QStringList *problems)
@@ -221,12 +229,10 @@ AttributeRules rulesOf(const PlannedCase &planned, const BatchOptions &options, 
         result.remove(studyTag); // the empty text would erase it
     else if (options.mapUids && result.value(studyTag).copies == AttributeRule::Copies::Set)
         result[studyTag].copies = AttributeRule::Copies::AsWithoutRule; // they may name other studies
-    if (options.removePrivate && options.mapUids && !result.contains(identityRemovedTag))
-        result.insert(identityRemovedTag, {AttributeRule::Kind::Set, QStringLiteral("YES")});
-    if (options.moveDates && !result.contains(datesModifiedTag))
-        result.insert(datesModifiedTag, {AttributeRule::Kind::Set, QStringLiteral("MODIFIED")});
-    if (options.removePrivate && options.mapUids && !result.contains(methodTag))
-        result.insert(methodTag, {AttributeRule::Kind::Set, deidentificationMethod(options)});
+    const QMap<TagNumber, QString> texts = ownTexts(options);
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        if (!result.contains(text.key()))
+            result.insert(text.key(), {AttributeRule::Kind::Set, text.value()});
     return result;
 }
 

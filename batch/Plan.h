@@ -93,8 +93,8 @@ struct Plan
 // path, "./" for the source, and with the reason. `stop` ends it early.
 void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::function<bool()> &stop);
 
-// What results say about how they were made.
-[[nodiscard]] QString deidentificationMethod(const BatchOptions &options);
+// What results say about how they were made, by attribute, unless the configuration decides it.
+[[nodiscard]] QMap<TagNumber, QString> ownTexts(const BatchOptions &options);
 
 // The rules of a case, the five fixed attributes and what tells that an object was treated among them.
 // Problems with lines of the configuration are added to `problems`.

@@ -193,7 +193,7 @@ private:
         const Patterns &patterns = m_values->patterns();
         m_groups.emplace(patterns);
         const auto makeSearcher = [&] {
-            return Searcher(patterns, m_rules ? &*m_rules : nullptr, m_options.pixels);
+            return Searcher(patterns, m_rules ? &*m_rules : nullptr, m_options.pixels, m_options.ownTexts);
         };
         const auto makeWorker = [&] {
             return [&, searcher = makeSearcher()](qsizetype index) mutable {

@@ -27,6 +27,7 @@ struct CheckOptions
     bool backups = false;    // the originals are the NAME.bak beside the results NAME
     QStringList identifiers; // values to be searched for besides
     QStringList setValues;   // written by whoever made the result: they tell nothing
+    OwnTexts ownTexts;       // they tell nothing, whatever words are in them
     // Calls its argument with each original that was renamed, once, and what its result is called; both
     // relative. These names were made for the result and tell nothing. May be null.
     std::function<void(const RenamedVisit &)> renamed;

@@ -55,8 +55,8 @@ bool isInDirectory(const Element &element)
 
 } // namespace
 
-Searcher::Searcher(const Patterns &patterns, const Rules *rules, bool searchPixels)
-    : m_patterns(patterns), m_rules(rules), m_searchPixels(searchPixels)
+Searcher::Searcher(const Patterns &patterns, const Rules *rules, bool searchPixels, OwnTexts ownTexts)
+    : m_patterns(patterns), m_rules(rules), m_searchPixels(searchPixels), m_ownTexts(std::move(ownTexts))
 {
 }
 
@@ -109,6 +109,12 @@ void Searcher::searchPiece(QByteArrayView bytes, const QByteArray &escapes, cons
     }
 }
 
+bool Searcher::isOwnText(Tag tag, const QString &text) const
+{
+    const auto own = m_ownTexts.constFind(tag);
+    return own != m_ownTexts.constEnd() && text.trimmed() == *own;
+}
+
 void Searcher::searchElement(const Element &element, SearchedFile &result)
 {
     const qsizetype known = result.findings.size();
@@ -124,6 +130,8 @@ void Searcher::searchElement(const Element &element, SearchedFile &result)
         if (hasHighBytes(element.bytes))
             searchText(decodeGuessing(element.bytes), TextKind::Text);
         takeMatches(placeOf(element), result.findings);
+        if (result.findings.size() > known && isOwnText(element.tag, text))
+            result.findings.resize(known);
         if (result.findings.size() == known && classOf(element.tag) && (m_words.empty() || isDummy(m_words)))
             ++result.emptied;
     }

@@ -104,14 +104,16 @@ qsizetype blockLength(QByteArrayView bytes)
     return newline < 0 ? bytes.size() : newline + 1;
 }
 
-void tidyMissingValue(LutTable &table)
+void tidyMissingValue(LutTable &table, MissingText wanted)
 {
     const auto missing = table.find(missingValue);
     if (missing == table.end())
         return;
-    // intended: every replacement text comes in lower case, keywords and names too
     const QString text = missing.value().toLower();
-    missing.value() = text == missingTemplate.toLower() ? QStringLiteral("Unknown") : text;
+    if (text == missingTemplate.toLower())
+        missing.value() = QStringLiteral("Unknown");
+    else if (wanted == MissingText::LowerCase)
+        missing.value() = text; // intended: keywords and names too
 }
 
 void appendRow(QString &text, QStringView value, qsizetype position)
@@ -129,7 +131,7 @@ void appendRow(QString &text, QStringView value, qsizetype position)
 
 } // namespace
 
-std::optional<LutTable> parseLut(const QByteArray &bytes)
+std::optional<LutTable> parseLut(const QByteArray &bytes, MissingText missing)
 {
     QByteArrayView rest(bytes);
     if (!rest.isValidUtf8())
@@ -150,14 +152,14 @@ std::optional<LutTable> parseLut(const QByteArray &bytes)
         addLines(table, block);
         rest = rest.sliced(length);
     }
-    tidyMissingValue(table);
+    tidyMissingValue(table, missing);
     return table;
 }
 
-std::optional<LutTable> loadLut(const QString &path)
+std::optional<LutTable> loadLut(const QString &path, MissingText missing)
 {
     const std::optional<QByteArray> bytes = readBytes(path);
-    return bytes ? parseLut(*bytes) : std::nullopt;
+    return bytes ? parseLut(*bytes, missing) : std::nullopt;
 }
 
 QString lutText(const QString &tag, const QStringList &values)

@@ -18,14 +18,19 @@ inline const QString missingValue = QStringLiteral("<missing>");
 // The new value that leaves a file as it is.
 inline const QString skippedValue = QStringLiteral("<skip>");
 
+// How the new value of "<missing>" comes.
+enum class MissingText { LowerCase, AsWritten };
+
 // The table in the bytes of a file: lines that begin with "#" are comments, those with one field are ignored,
 // fields between the first and the last as well, a later line of the same key wins. The new value of
-// "<missing>" comes in lower case, "Unknown" when it is still the text that lutText() writes. May be empty;
-// nothing when there is no text or when it is not UTF-8.
-[[nodiscard]] std::optional<LutTable> parseLut(const QByteArray &bytes);
+// "<missing>" is "Unknown" when it is still the text that lutText() writes. May be empty; nothing when there
+// is no text or when it is not UTF-8.
+[[nodiscard]] std::optional<LutTable> parseLut(const QByteArray &bytes,
+                                               MissingText missing = MissingText::LowerCase);
 
 // The same for the file at `path`; nothing, too, when it cannot be read.
-[[nodiscard]] std::optional<LutTable> loadLut(const QString &path);
+[[nodiscard]] std::optional<LutTable> loadLut(const QString &path,
+                                              MissingText missing = MissingText::LowerCase);
 
 // A table file as the program writes it: the explanation with the attribute `tag` (gggg,eeee), then one row
 // for each of `values`, which become Subject_001, Subject_002 and so on.

@@ -23,6 +23,11 @@ QString valueOf(const Edit &edit)
     return edit.value == QStringLiteral("\"\"") ? QString() : edit.value;
 }
 
+bool isPixelData(TagNumber tag)
+{
+    return tag == 0x7fe00008 || tag == 0x7fe00009 || tag == 0x7fe00010; // of floats, of doubles, of integers
+}
+
 // What makes a rule one that cannot be carried out; "" when nothing does.
 QString problemWith(TagNumber tag, const Edit &edit)
 {
@@ -32,6 +37,8 @@ QString problemWith(TagNumber tag, const Edit &edit)
         return Texts::tr("%1 cannot be the same in all files").arg(tagText(tag));
     if (groupOf(tag) <= 2 || elementOf(tag) == 0)
         return Texts::tr("%1 is written anew in every file").arg(tagText(tag));
+    if (isPixelData(tag))
+        return Texts::tr("%1 is pixel data, which is never altered").arg(tagText(tag));
     if (edit.kind == Edit::Kind::EraseEverywhere)
         return {};
     const Vr representation = dictionaryVr(tag);

@@ -22,6 +22,32 @@ constexpr TagNumber trailingPadding = 0xfffcfffc;
 constexpr quint64 longestValue = 4 * 1024 * 1024;
 const char registeredPrefix[] = "1.2.840.10008.";
 
+// Whether that value representation is one of characters, or of bytes that may be some.
+bool mayHoldCharacters(Vr written)
+{
+    switch (written) {
+    case vr('A', 'E'):
+    case vr('A', 'S'):
+    case vr('C', 'S'):
+    case vr('D', 'A'):
+    case vr('D', 'S'):
+    case vr('D', 'T'):
+    case vr('I', 'S'):
+    case vr('O', 'B'):
+    case vr('T', 'M'):
+    case vr('U', 'R'): return true;
+    default: return isText(written);
+    }
+}
+
+// UI, DA or DT for what is a UID or a date, even where the file calls it something else.
+Vr meaningOf(const Element &element)
+{
+    const Vr known = mayHoldCharacters(element.written) ? dictionaryVr(element.tag) : Vr(0);
+    const bool decides = known == vr('U', 'I') || known == vr('D', 'A') || known == vr('D', 'T');
+    return decides ? known : element.representation;
+}
+
 ValueChange::Result problem(const QString &text)
 {
     ValueChange::Result result;
@@ -72,9 +98,10 @@ ValueChange::Result ValueChange::apply(ElementReader &reader, const Element &ele
         if (!isCopy || rule->copies == Copies::Set)
             return byRule(reader, element, *rule, around.characterSet);
     }
-    if (m_treatment.newUid && element.representation == vr('U', 'I') && !namesNoInstance(element.tag))
+    const Vr meaning = meaningOf(element);
+    if (m_treatment.newUid && meaning == vr('U', 'I') && !namesNoInstance(element.tag))
         return mappedUids(reader, element);
-    if (m_daysBack != 0 && isDateOfAnEvent(element.tag, element.representation))
+    if (m_daysBack != 0 && isDateOfAnEvent(element.tag, meaning))
         return movedDates(reader, element);
     if (m_toUtf8 && isText(element.representation))
         return movedText(reader, element, around.characterSet);

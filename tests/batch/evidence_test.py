@@ -8,6 +8,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import signal
 import subprocess
 import sys
@@ -114,6 +115,36 @@ class Evidence(unittest.TestCase):
         subprocess.run(["dcmodify", "-nb", "-i", "(0010,0020)=17-KLM-93", "-i", "(0008,1030)=Knee", source],
                        check=True)
         self.run_list({**self.row("in", "17-KLM-93"), "diagnosis": "Knee"})
+
+    def test_does_not_find_the_words_of_its_own_texts(self):
+        for name, words in ("UIDs", "In^Private"), ("private attributes", "Configured^MODIFIED"):
+            self.make("in/" + name, count=1)
+            source = next(path for path in (self.folder / "in" / name).rglob("*") if path.is_file())
+            subprocess.run(["dcmodify", "-nb", "-i", "(0010,0010)=" + words, source], check=True)
+            source.rename(source.with_name(name))
+        self.write_rules("012,0063")
+        for more in {}, {"configuration": "rules.txt"}:
+            for options in (), ("--shift-dates",):
+                self.assertIn("nothing found", self.run_list(self.row("in", "17", **more), options=options))
+                shutil.rmtree(self.folder / "out17")
+                shutil.rmtree(self.folder / "list.run")
+
+    def test_finds_a_name_inside_a_rule_of_a_configuration(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0010,0010)=Quastenbart^Ilse", source], check=True)
+        self.write_rules("012,0063")
+        with open(self.folder / "rules.txt", "a", encoding="utf-8") as rules:
+            rules.write("0012,0063\tMethod\tthat of Quastenbart\n")
+        self.assertIn("De-identification Method (0012,0063)",
+                      self.run_list(self.row("in", "17", configuration="rules.txt"), status=1))
+
+    def test_finds_a_name_inside_the_diagnosis(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0010,0010)=Quastenbart^Ilse", source], check=True)
+        row = {**self.row("in", "17"), "diagnosis": "Knee of Quastenbart"}
+        self.assertIn("Patient's Name (0010,0010)", self.run_list(row, status=1))
 
     def test_searches_the_identifiers_of_the_list(self):
         self.make("in", count=1)

@@ -88,6 +88,19 @@ class Run(unittest.TestCase):
                                or not line.startswith(" ")]  # nested copies are replaced here, not there
         self.assertEqual(sorted(map(plain, found)), sorted(map(plain, expected)))
 
+    def test_takes_what_is_missing_from_the_table_as_it_is_written(self):
+        make("mixed", self.folder / "in", "--count", "1", "--no-directory")
+        (self.folder / "in/planted.json").unlink()
+        (self.folder / "rules.txt").write_text(RULES.replace("0020,0010\tStudy ID", "0020,0010\tStudy ID\t<LUT_x>"),
+                                               encoding="utf-8")
+        source = self.results("in")[0]
+        subprocess.run(["dcmodify", "-nb", "-i", "(0020,0010)=4711", str(source)], check=True)
+        (self.folder / "x.txt").write_text("4712\tOne\n<missing>\tMixed Case Value\n", encoding="utf-8")
+        (self.folder / "list.csv").write_text("source,destination,case_id,configuration,table\n"
+                                              "in,out,17,rules.txt,x.txt\n", encoding="utf-8")
+        self.call("run", "list.csv", "--at-least", "certain")
+        self.assertIn("(0020,0010) SH [Mixed Case Value]", dump(self.results("out")[0]))
+
     def test_takes_private_attributes_and_uids_out(self):
         make("mixed", self.folder / "in", "--count", "40")
         (self.folder / "in/planted.json").unlink()

@@ -33,8 +33,10 @@ void TestPlan::init()
     m_scratch->folder(QStringLiteral("empty"));
     m_scratch->folder(QStringLiteral("used"));
     m_scratch->file(QStringLiteral("used/x"));
-    m_scratch->file(QStringLiteral("good.txt"), "0010,0010\tName\n");
-    m_scratch->file(QStringLiteral("bad.txt"), "0010,0010\tName\n10,10\tName\n0010,9999\tx\ty\n");
+    m_scratch->file(QStringLiteral("good.txt"), "0010,0030\tDate\n");
+    m_scratch->file(QStringLiteral("bad.txt"),
+                    "0010,0010\tName\n10,10\tName\n0010,9999\tx\ty\n7fe0,0010\tPixel Data\n"
+                    "0010,0040\tSex\tM\n0010,0040\tSex\tF\n");
     m_scratch->file(QStringLiteral("marked.txt"), "0010,0030\tDate\t<LUT_Names>\n");
     m_scratch->file(QStringLiteral("AnonymizationLUT_Names.txt"), "<missing>\tx\n");
     m_scratch->file(QStringLiteral("AnonymizationLUT_Other.txt"), "<missing>\tx\n");
@@ -90,9 +92,15 @@ void TestPlan::judgesRows_data()
     QTest::newRow("lines that do nothing")
         << QByteArray("in,out,1,bad.txt,,\n")
         << lines("2: the configuration has a line that does nothing: 10,10\n"
+                 "2: the configuration has a line that does nothing: (0010,0010) in line 1 is set by the run "
+                 "itself\n"
+                 "2: the configuration has a line that does nothing: (0010,0040) in line 5 is decided by "
+                 "line 6\n"
                  "2: the configuration has a line that does nothing: (0010,9999) is not known, so no value "
                  "can be "
-                 "written for it");
+                 "written for it\n"
+                 "2: the configuration has a line that does nothing: (7fe0,0010) is pixel data, which is "
+                 "never altered");
     QTest::newRow("missing configuration")
         << QByteArray("in,out,1,none.txt,,\n")
         << lines("2: the configuration @/none.txt cannot be read, or is not UTF-8");

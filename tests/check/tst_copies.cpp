@@ -21,6 +21,8 @@ private Q_SLOTS:
     void init();
     void knowsWhatWasSet_data();
     void knowsWhatWasSet();
+    void findsNothingInOwnTexts_data();
+    void findsNothingInOwnTexts();
     void pairsRenamedFiles();
     void takesOneFileForOriginals();
     void comparesNumbersWithAConfiguration_data();
@@ -90,6 +92,33 @@ void TestCopies::knowsWhatWasSet()
         };
     (void)checkNow();
     m_found.removeAll(QStringLiteral("(0002,0003) 1.2.3.999.1")); // of every test object
+    QTEST(m_found, "found");
+}
+
+void TestCopies::findsNothingInOwnTexts_data()
+{
+    QTest::addColumn<quint32>("tag");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("the text") << 0x00120063U << QByteArray("without Meierhof") << QStringList();
+    QTest::newRow("padded") << 0x00120063U << QByteArray("without Meierhof  ") << QStringList();
+    QTest::newRow("more than the text") << 0x00120063U << QByteArray("without Meierhof 2")
+                                        << QStringList{QStringLiteral("(0012,0063) Meierhof")};
+    QTest::newRow("one of two values") << 0x00120063U << QByteArray("without Meierhof\\x ")
+                                       << QStringList{QStringLiteral("(0012,0063) Meierhof")};
+    QTest::newRow("in another attribute") << 0x00104000U << QByteArray("without Meierhof")
+                                          << QStringList{QStringLiteral("(0010,4000) Meierhof")};
+}
+
+void TestCopies::findsNothingInOwnTexts()
+{
+    QFETCH(const quint32, tag);
+    QFETCH(const QByteArray, value);
+    m_scratch->file(QStringLiteral("before/1"), object(element(0x00100010, "PN", "Meierhof")));
+    m_scratch->file(QStringLiteral("after/1"), object(element(tag, "LO", value)));
+    m_options.uids = false;
+    m_options.ownTexts = {{0x00120063, QStringLiteral("without Meierhof")}};
+    (void)checkNow();
     QTEST(m_found, "found");
 }
 

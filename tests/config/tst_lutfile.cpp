@@ -29,6 +29,8 @@ private Q_SLOTS:
     void readsTheLines();
     void tidiesTheMissingText_data();
     void tidiesTheMissingText();
+    void takesTheMissingTextAsWritten_data();
+    void takesTheMissingTextAsWritten();
     void hasNoTableWithoutText_data();
     void hasNoTableWithoutText();
     void unreadableFilesHaveNoTable();
@@ -147,6 +149,23 @@ void TestLutFile::tidiesTheMissingText()
     QFETCH(QByteArray, content);
     QFETCH(QString, table);
     QCOMPARE(described(parseLut(content)), table);
+}
+
+void TestLutFile::takesTheMissingTextAsWritten_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("table");
+    row("capital letters", "A\tB\n<missing>\tMixed Case Value\n", "<missing>=Mixed Case Value|A=B");
+    row("the keyword in another case is any value", "<missing>\t<SKIP>", "<missing>=<SKIP>");
+    row("untouched but for its case", "<missing>\t<SUPPLY missing value replacement, eg: unknown>",
+        "<missing>=Unknown");
+}
+
+void TestLutFile::takesTheMissingTextAsWritten()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, table);
+    QCOMPARE(described(parseLut(content, MissingText::AsWritten)), table);
 }
 
 void TestLutFile::hasNoTableWithoutText_data()

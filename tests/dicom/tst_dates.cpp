@@ -64,6 +64,12 @@ void TestDates::movesDatesOfObjects_data()
         << QByteArray("(0008,0020) DA [20240301]\n(0008,002a) DT [20240301101112]\n(0008,0030) TM [101112]\n"
                       "(0008,0201) SH [+0100]\n");
     QTest::newRow("nested") << item << QByteArray(item).replace("20240102", "20231223");
+    QTest::newRow("written as text") << QByteArray(
+                                            "(0008,0020) LO [20240311]\n(0008,002a) SH [20240311101112]\n"
+                                            "(0008,0107) LO [20240311]\n(0008,0201) SH [20240311]\n")
+                                     << QByteArray(
+                                            "(0008,0020) LO [20240301]\n(0008,002a) SH [20240301101112]\n"
+                                            "(0008,0107) LO [20240311]\n(0008,0201) SH [20240311]\n");
     QTest::newRow("a rule is stronger")
         << QByteArray("(0008,0021) DA [20240311]\n") << QByteArray("(0008,0021) DA [19000101]\n");
     QTest::newRow("versions of code tables stay")

@@ -201,6 +201,17 @@ void TestRewriting::replacesUids_data()
     QTest::newRow("a rule is stronger") << QStringLiteral("0020,000d\t\t2.25.7")
                                         << QByteArray("(0020,000d) UI [1.2.3]\n(0020,000e) UI [1.3]\n")
                                         << QByteArray("(0020,000d) UI [2.25.7]\n(0020,000e) UI [9.3.1]\n");
+    for (const char *type : {"LO", "SH", "UT", "OB"}) {
+        const QByteArray written(type);
+        const QByteArray old = written == "OB" ? "31\\2e\\32\\2e\\33\\34" : "[1.2.34]";
+        const QByteArray mapped = written == "OB" ? "39\\2e\\34\\33\\2e\\32\\2e\\31" : "[9.43.2.1]";
+        QTest::addRow("written as %s", type)
+            << QString()
+            << sequence("(0008,1140)", "(0008,1155) " + written + ' ' + old + '\n') + "(0020,000d) " +
+                   written + ' ' + old + "\n(0020,0011) " + written + ' ' + old + '\n'
+            << sequence("(0008,1140)", "(0008,1155) " + written + ' ' + mapped + '\n') + "(0020,000d) " +
+                   written + ' ' + mapped + "\n(0020,0011) " + written + ' ' + old + '\n';
+    }
     QTest::newRow("empty") << QString() << QByteArray("(0020,000d) UI\n") << QByteArray("(0020,000d) UI\n");
 }
 

@@ -74,6 +74,13 @@ void TestTreatment::namesEditsThatDoNothing_data()
                                          << QStringLiteral("\"x\" is no value for (0008,1140)");
     QTest::newRow("the object's own UID") << QStringLiteral("0008,0018") << QString()
                                           << QStringLiteral("(0008,0018) cannot be the same in all files");
+    for (const char *tag : {"7fe0,0008", "7FE0,0009", "7fe0,0010"}) {
+        const QString written = QString::fromLatin1(tag);
+        const QString problem =
+            QStringLiteral("(%1) is pixel data, which is never altered").arg(written.toLower());
+        QTest::addRow("erases %s", tag) << written << QString() << problem;
+        QTest::addRow("sets %s", tag) << written << QStringLiteral("0") << problem;
+    }
     QTest::newRow("file meta information") << QStringLiteral("0002,0016") << QString()
                                            << QStringLiteral("(0002,0016) is written anew in every file");
 }
