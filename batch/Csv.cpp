@@ -49,7 +49,7 @@ private:
     {
         if (m_at == m_text.size() || m_text.at(m_at) != quote)
             return parsePlain();
-        const QString value = parseQuoted();
+        QString value = parseQuoted();
         const int end = m_line;
         if (!parsePlain().isEmpty())
             complain(Texts::tr("there is text behind a closing quotation mark in line %1").arg(end));

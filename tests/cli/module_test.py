@@ -59,8 +59,8 @@ class Module(unittest.TestCase):
 
     def test_a_run_without_it_is_not_clean_and_goes_on_with_it(self):
         status, printed, errors = self.call("run", "list.csv")
-        self.assertEqual((status, errors), (1, self.failure("run", "cannot be read")))
-        self.assertRegex(printed, r"\Acase 17: 3 done, 0 not done\nThe check took [0-9.]+ s\.\n\Z")
+        self.assertEqual((status, printed, errors),
+                         (1, "case 17: 3 done, 0 not done\n", self.failure("run", "cannot be read")))
         evidence = self.folder / "list.run/evidence"
         self.assertEqual([path for path in evidence.rglob("*") if not path.is_dir()], [])
         shutil.copy(MODULE, self.module)
