@@ -33,11 +33,10 @@ QStringList setValues(const PlannedCase &planned)
 // The default configuration comes with the program, and what it says about itself as well.
 check::OwnTexts ownTextsFor(const PlannedCase &planned, const BatchOptions &batch)
 {
-    constexpr TagNumber method = 0x00120063;
     check::OwnTexts texts = ownTexts(batch);
     const QString ofDefault = planned.configuration.newValueDict.value(QStringLiteral("0012,0063"));
     if (planned.row.configuration.isEmpty() && !ofDefault.isEmpty())
-        texts.insert(method, ofDefault);
+        texts.insert(deidentificationMethodTag, ofDefault);
     return texts;
 }
 

@@ -93,12 +93,20 @@ bool removeOtherReports(const QStringList &caseIds, const QString &evidence)
     QSet<QString> kept;
     for (const QString &caseId : caseIds)
         kept.insert(lastPathComponent(caseReports(caseId)));
-    const QString folder = joinPath(evidence, QStringLiteral("cases"));
-    std::error_code error;
-    for (const QString &name : listNames(folder))
-        if (!kept.contains(name) && !error)
-            std::filesystem::remove_all(systemPath(joinPath(folder, name)).toStdString(), error);
-    return !error;
+    const QString cases = joinPath(evidence, QStringLiteral("cases"));
+    bool done = true;
+    for (const QString &name : listNames(cases)) {
+        const QString other = joinPath(cases, name);
+        if (kept.contains(name) || !isFolder(other))
+            continue;
+        for (const QString &report : {QStringLiteral("report.json"), QStringLiteral("report.html")}) {
+            removeFile(joinPath(other, report));
+            done = done && !pathExists(joinPath(other, report));
+        }
+        std::error_code notEmpty; // somebody's own files stay
+        std::filesystem::remove(systemPath(other).toStdString(), notEmpty);
+    }
+    return done;
 }
 
 bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)

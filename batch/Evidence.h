@@ -29,7 +29,8 @@ struct EvidenceSources
 // not be written.
 [[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
 
-// Removes the reports of cases that are not among these from a folder of evidence. False when one stays.
+// Removes the reports of cases that are not among these from a folder of evidence, and nothing else that lies
+// there. False when one stays.
 [[nodiscard]] bool removeOtherReports(const QStringList &caseIds, const QString &evidence);
 
 // Writes both reports into a folder, with the time of now.

@@ -24,7 +24,6 @@ namespace {
 
 constexpr TagNumber studyTag = 0x0020000d;
 constexpr TagNumber identityRemovedTag = 0x00120062;
-constexpr TagNumber methodTag = 0x00120063;
 constexpr TagNumber datesModifiedTag = 0x00280303;
 
 QString markerOf(const CaseRow &row)
@@ -210,7 +209,8 @@ QMap<TagNumber, QString> ownTexts(const BatchOptions &options)
     if (options.removePrivate && options.mapUids) {
         // with the dates it has the 64 characters that the attribute holds
         const QString method = QStringLiteral("Dravolin: configured attributes, private attributes, UIDs");
-        texts.insert(methodTag, options.moveDates ? method + QStringLiteral(", dates") : method);
+        texts.insert(deidentificationMethodTag,
+                     options.moveDates ? method + QStringLiteral(", dates") : method);
         texts.insert(identityRemovedTag, QStringLiteral("YES"));
     }
     if (options.moveDates)

@@ -93,6 +93,8 @@ struct Plan
 // path, "./" for the source, and with the reason. `stop` ends it early.
 void scanSources(Plan &plan, int workers, PlannedFiles *files, const std::function<bool()> &stop);
 
+inline constexpr TagNumber deidentificationMethodTag = 0x00120063;
+
 // What results say about how they were made, by attribute, unless the configuration decides it.
 [[nodiscard]] QMap<TagNumber, QString> ownTexts(const BatchOptions &options);
 

@@ -188,6 +188,17 @@ class Evidence(unittest.TestCase):
         self.assertEqual([path.name for path in (self.folder / "list.run/evidence/cases").iterdir()], ["18"])
         self.assertEqual([case["caseId"] for case in self.report()["cases"]], ["18"])
 
+    def test_leaves_what_is_not_its_own_in_the_evidence(self):
+        self.make("first")
+        self.make("second", seed=2)
+        self.run_list(self.row("first", "17"), self.row("second", "18"))
+        cases = self.folder / "list.run/evidence/cases"
+        (cases / "letter.txt").write_text("signed", encoding="utf-8")
+        (cases / "17/remarks.txt").write_text("seen", encoding="utf-8")
+        self.run_list(self.row("second", "18"))
+        self.assertEqual(sorted(path.relative_to(cases).as_posix() for path in cases.rglob("*") if path.is_file()),
+                         ["17/remarks.txt", "18/report.html", "18/report.json", "letter.txt"])
+
     def test_takes_back_the_result_of_a_file_that_is_gone(self):
         self.make("in", count=3)
         self.run_list(self.row("in", "17"))
