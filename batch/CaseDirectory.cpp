@@ -20,6 +20,28 @@ QByteArray noteOf(const QByteArray &content, qsizetype leftOut)
     return content + ' ' + QByteArray::number(leftOut);
 }
 
+// The results of a case that a directory may name.
+struct Contents
+{
+    QStringList results;
+    QByteArray digits; // of a hash of them all
+};
+
+Contents contentsOf(const QString &caseId, const Journal &journal)
+{
+    Contents contents;
+    Sha256 hash;
+    for (KnownFiles known(journal, caseId); known.current(); known.pass()) {
+        const FileRecord &record = *known.current();
+        if (record.result.isEmpty() || record.result == QLatin1String(mediaDirectoryName))
+            continue;
+        contents.results.append(record.result);
+        hash.add(toBytes(record.result) + ' ' + record.hashAfter + '\n');
+    }
+    contents.digits = hash.digits();
+    return contents;
+}
+
 QByteArray safeHash(const QString &path, bool sync)
 {
     QString problem;
@@ -39,17 +61,8 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
     if (!source || stop())
         return {};
     const QString &caseId = planned.row.caseId;
-    QStringList results;
-    Sha256 content;
+    const auto [results, digits] = contentsOf(caseId, journal);
     const QString name = QString::fromLatin1(mediaDirectoryName);
-    for (KnownFiles known(journal, caseId); known.current(); known.pass()) {
-        const FileRecord &record = *known.current();
-        if (record.result.isEmpty() || record.result == name)
-            continue;
-        results.append(record.result);
-        content.add(toBytes(record.result) + ' ' + record.hashAfter + '\n');
-    }
-    const QByteArray digits = content.digits();
     const QString target = joinPath(planned.row.destination, name);
     const QString noteName = QStringLiteral("directory of ") + caseId;
     const QByteArray known = journal.value(noteName);
