@@ -8,6 +8,7 @@
 #include "batch/Evidence.h"
 #include "batch/ProjectKey.h"
 #include "batch/Workers.h"
+#include "dicom/LibraryLog.h"
 #include "dicom/SourceFile.h"
 
 #include <QElapsedTimer>
@@ -67,6 +68,7 @@ public:
 
     BatchOutcome run()
     {
+        silenceLibrary();
         Plan plan = judgeList(m_options, [this](const CaseRow &row) { return m_journal.knows(row); });
         m_outcome.problems = plan.problems;
         const std::optional<ProjectKey> key = plan.problems.isEmpty() ? openKey() : std::nullopt;

@@ -115,10 +115,12 @@ void CaseWork::openCase()
     if (!beginCase())
         return;
     removeStale(planned);
-    m_open.emplace(OpenCase{planned.firstFile,
-                            planned.files,
-                            {m_key, planned.directory.has_value()},
-                            {m_journal, planned.row.caseId}});
+    KnownFiles known(m_journal, planned.row.caseId);
+    if (planned.files == 0 && known.current()) // a share that is not mounted, as a rule
+        m_counts[m_ended].notDone.append(
+            {QStringLiteral("./"), 0, 0, {}, {}, {}, Texts::tr("is empty now; what was made of it stays")});
+    m_open.emplace(
+        OpenCase{planned.firstFile, planned.files, {m_key, planned.directory.has_value()}, std::move(known)});
 }
 
 // The journal knows the case before it has a result: a later call takes the destination for its own.
@@ -237,8 +239,10 @@ FileRecord CaseWork::nameResult(const Treated &treated)
             Texts::tr("cannot be given its name: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
         removeFile(treated.temporary);
     }
-    if (!record.problem.isEmpty())
+    if (!record.problem.isEmpty()) {
+        removeFile(target); // of other rules, or of what the source was
         record.result.clear();
+    }
     return record;
 }
 

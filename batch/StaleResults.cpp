@@ -7,11 +7,13 @@
 #include <QHash>
 
 #include <functional>
+#include <utility>
 
 namespace dravolin {
 
 namespace {
 
+// The name is "" for a file that cannot be done.
 using NameVisit = std::function<void(const PlannedFile &file, const QString &result)>;
 
 void forEachName(const PlannedCase &planned, PlannedFiles &files, const ProjectKey &key,
@@ -21,9 +23,44 @@ void forEachName(const PlannedCase &planned, PlannedFiles &files, const ProjectK
     qint64 place = planned.firstFile;
     for (qsizetype i = 0; i < planned.files && files.isGood(); ++i) {
         const PlannedFile file = files.read(&place);
-        if (file.problem.isEmpty())
+        if (!file.problem.isEmpty())
+            visit(file, QString());
+        else
             visit(file, file.isDirectory ? QString::fromLatin1(mediaDirectoryName) : names.next(file));
     }
+}
+
+// What the journal knows of a case beside what its source holds now.
+struct Comparison
+{
+    QSet<QString> renamed;          // results
+    QHash<QString, QString> gone;   // results by paths
+    QHash<QString, QString> unseen; // the same of files that may be as they were
+};
+
+Comparison compared(const PlannedCase &planned, PlannedFiles &files, const ProjectKey &key, KnownFiles &known)
+{
+    Comparison found;
+    const auto pass = [&](QHash<QString, QString> &results) {
+        results.insert(known.current()->path, known.current()->result);
+        known.pass();
+    };
+    forEachName(planned, files, key, [&](const PlannedFile &file, const QString &result) {
+        while (known.current() && comesBefore(known.current()->path, file.path))
+            pass(found.gone);
+        if (!known.current() || known.current()->path != file.path)
+            return;
+        const FileRecord &record = *known.current();
+        if (!file.problem.isEmpty())
+            return pass(record.size == file.size && record.modified == file.modified ? found.unseen
+                                                                                     : found.gone);
+        if (record.result != result)
+            found.renamed.insert(record.result);
+        known.pass();
+    });
+    while (known.current())
+        pass(found.gone);
+    return found;
 }
 
 } // namespace
@@ -31,40 +68,29 @@ void forEachName(const PlannedCase &planned, PlannedFiles &files, const ProjectK
 StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files, const ProjectKey &key,
                           const Journal &journal)
 {
-    StaleResults stale;
     KnownFiles known(journal, planned.row.caseId);
     if (!known.current())
-        return stale;
-    QHash<QString, QString> gone; // results by paths
-    const auto takeAsGone = [&] {
-        gone.insert(known.current()->path, known.current()->result);
-        stale.results.insert(known.current()->result);
-        known.pass();
-    };
-    forEachName(planned, files, key, [&](const PlannedFile &file, const QString &result) {
-        while (known.current() && comesBefore(known.current()->path, file.path))
-            takeAsGone();
-        if (!known.current() || known.current()->path != file.path)
-            return;
-        if (known.current()->result != result)
-            stale.results.insert(known.current()->result);
-        known.pass();
-    });
-    while (known.current())
-        takeAsGone();
-    stale.gone = gone.keys();
+        return {};
+    Comparison found = compared(planned, files, key, known);
+    if (planned.isIncomplete || planned.files == 0) {
+        found.renamed.clear();
+        found.unseen.insert(std::exchange(found.gone, {}));
+    }
+    StaleResults stale = {found.renamed, found.gone.keys()};
+    for (const QString &result : std::as_const(found.gone))
+        stale.results.insert(result);
     stale.results.remove(QString());
-    QSet<QString> taken; // by other files
-    if (!stale.results.isEmpty())
+    const QSet<QString> unseen(found.unseen.cbegin(), found.unseen.cend());
+    QSet<QString> taken; // of these, by other files: what they overwrite is to be done anew then
+    if (!stale.results.isEmpty() || !unseen.isEmpty())
         forEachName(planned, files, key, [&](const PlannedFile &, const QString &result) {
-            if (stale.results.remove(result))
+            stale.results.remove(result);
+            if (!result.isEmpty() && unseen.contains(result))
                 taken.insert(result);
         });
-    if (planned.isIncomplete) {
-        // what was not seen may be there; but what another file overwrites is to be done anew then
-        stale.results.clear();
-        stale.gone.removeIf([&](const QString &path) { return !taken.contains(gone.value(path)); });
-    }
+    for (auto file = found.unseen.cbegin(); file != found.unseen.cend(); ++file)
+        if (taken.contains(*file))
+            stale.gone.append(file.key());
     return files.isGood() ? stale : StaleResults();
 }
 

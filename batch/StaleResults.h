@@ -18,8 +18,9 @@ struct StaleResults
 
 // Goes through a case's files, and through what the journal knows of it: results that had another name, and
 // those of files that are gone, unless another file's result has that name now. Few are, as a rule: these
-// alone are kept. Of a case that could not be listed completely no result is stale, and gone are only files
-// whose result goes to another one. Nothing when `files` cannot be read.
+// alone are kept. The result of a file that cannot be read now, and is what it was when the result was made,
+// is not stale; of a case that could not be listed completely, or whose source is empty all of a sudden, none
+// is. Then gone are only files whose result goes to another one. Nothing when `files` cannot be read.
 [[nodiscard]] StaleResults staleResults(const PlannedCase &planned, PlannedFiles &files,
                                         const ProjectKey &key, const Journal &journal);
 

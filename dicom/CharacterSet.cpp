@@ -1,5 +1,6 @@
 #include "dicom/CharacterSet.h"
 
+#include "base/CharacterSets.h"
 #include "dicom/Syntax.h"
 
 #include <dcmtk/config/osconfig.h>
@@ -20,22 +21,38 @@ bool isAscii(const QByteArray &bytes)
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return c > 0 && c != escape; });
 }
 
+bool hasHighBytes(const QByteArray &bytes)
+{
+    return std::any_of(bytes.begin(), bytes.end(), [](char c) { return c < 0; });
+}
+
 // The first of several, by its name without code extensions.
 QByteArray firstOf(const QByteArray &characterSet)
 {
     return characterSet.split('\\').first().trimmed().replace("ISO 2022 IR", "ISO_IR");
 }
 
-std::optional<QByteArray> converted(const QByteArray &bytes, const QByteArray &from, const QByteArray &to,
+// Nothing when they do not fit.
+std::optional<QByteArray> converted(DcmSpecificCharacterSet &conversion, const QByteArray &bytes,
                                     const char *delimiters)
 {
-    DcmSpecificCharacterSet conversion;
     OFString result;
-    if (conversion.selectCharacterSet(from.constData(), to.constData()).bad() ||
-        conversion.convertString(bytes.constData(), static_cast<size_t>(bytes.size()), result, delimiters)
+    if (conversion.convertString(bytes.constData(), static_cast<size_t>(bytes.size()), result, delimiters)
             .bad())
         return std::nullopt;
     return QByteArray(result.data(), static_cast<qsizetype>(result.size()));
+}
+
+// For what DCMTK has no conversion for.
+std::optional<QByteArray> decoded(const QByteArray &value, const QByteArray &characterSet)
+{
+    const QByteArray first = firstOf(characterSet);
+    const bool beginsWithAscii = first.isEmpty() || first == "ISO_IR 6";
+    const CharacterSets sets(characterSet);
+    if (!sets.areKnown() || (beginsWithAscii && hasHighBytes(value)))
+        return std::nullopt;
+    const QString text = sets.decode(value);
+    return text.contains(QChar::ReplacementCharacter) ? std::nullopt : std::optional(text.toUtf8());
 }
 
 } // namespace
@@ -48,14 +65,20 @@ std::optional<QByteArray> encodeText(const QString &text, const QByteArray &char
         return utf8;
     if (target.isEmpty())
         return std::nullopt;
-    return converted(utf8, utf8CharacterSet, target, "");
+    DcmSpecificCharacterSet conversion;
+    return conversion.selectCharacterSet(utf8CharacterSet, target.constData()).good()
+               ? converted(conversion, utf8, "")
+               : std::nullopt;
 }
 
 std::optional<QByteArray> utf8Text(const QByteArray &value, const QByteArray &characterSet, bool isName)
 {
     if (isAscii(value))
         return value;
-    return converted(value, characterSet, utf8CharacterSet, isName ? "\\^=" : "\\");
+    DcmSpecificCharacterSet conversion;
+    return conversion.selectCharacterSet(characterSet.constData(), utf8CharacterSet).good()
+               ? converted(conversion, value, isName ? "\\^=" : "\\")
+               : decoded(value, characterSet);
 }
 
 } // namespace dravolin

@@ -5,8 +5,9 @@
 
 #include <optional>
 
-// Text in the character sets of DICOM (Specific Character Set, PS3.3 C.12.1.1.2), converted by DCMTK. Pure
-// functions, any thread.
+// Text in the character sets of DICOM (Specific Character Set, PS3.3 C.12.1.1.2), converted by DCMTK, or,
+// where it knows a set but cannot convert it, as with Japanese ones, by base/CharacterSets.h. Pure functions,
+// any thread.
 namespace dravolin {
 
 inline constexpr char utf8CharacterSet[] = "ISO_IR 192";

@@ -11,7 +11,6 @@
 #include <dcmtk/dcmdata/dcdeftag.h>
 #include <dcmtk/dcmdata/dcdict.h>
 #include <dcmtk/dcmdata/dcmetinf.h>
-#include <dcmtk/oflog/oflog.h>
 
 namespace dravolin {
 
@@ -20,7 +19,6 @@ namespace {
 // An index of what there is: neither the kind of a medium nor the completeness of objects is judged.
 void takeEverything(DicomDirInterface &directory)
 {
-    OFLog::configure(OFLogger::OFF_LOG_LEVEL); // it would tell about each file on standard error
     directory.disableBackupMode();
     directory.disableEncodingCheck();
     directory.disableResolutionCheck();

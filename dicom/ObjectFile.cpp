@@ -1,5 +1,6 @@
 #include "dicom/ObjectFile.h"
 
+#include "base/FileStamps.h"
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
@@ -138,8 +139,13 @@ ObjectFacts readFacts(const QString &path)
     ObjectFacts facts;
     const std::optional<OpenObject> object =
         openObject(path, QString::fromLocal8Bit(P_tmpdir), &facts.problem);
-    if (!object)
+    if (!object) {
+        if (const std::optional<FileStamp> stamp = fileStamp(path)) {
+            facts.size = static_cast<quint64>(stamp->size);
+            facts.modified = stamp->written;
+        }
         return facts;
+    }
     facts = factsOf(*object);
     if (!facts.isDirectory)
         facts.problem = readNames(*object, facts.names);

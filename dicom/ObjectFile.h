@@ -14,7 +14,7 @@ struct ObjectFacts
     QString problem; // why the file cannot be treated, a text for people; "" when it can
     // a directory of other files (DICOMDIR), whatever its name: not an object that can be treated
     bool isDirectory = false;
-    quint64 size = 0;    // of the file
+    quint64 size = 0;    // of the file, even of one that cannot be opened
     qint64 modified = 0; // nanoseconds since 1970
     ObjectNames names;   // the class is that of the file meta information when the data set has none
 };

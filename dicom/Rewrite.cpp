@@ -24,7 +24,7 @@ class Rewriter
 public:
     Rewriter(ElementReader &reader, const Notation &notation, const ValueChange &change)
         : m_reader(reader), m_notation(notation), m_levels(notation), m_change(change),
-          m_toInsert(m_change.insertions())
+          m_rules(m_change.rules()), m_next(m_rules.constBegin())
     {
     }
 
@@ -46,7 +46,8 @@ private:
     Notation m_notation;
     Levels m_levels;
     ValueChange m_change;
-    AttributeRules m_toInsert; // what the top level still lacks
+    const AttributeRules m_rules;
+    AttributeRules::const_iterator m_next; // the first one whose place has not been passed
     QSet<TagNumber> m_inserted;
     Rewriting m_result;
 };
@@ -84,9 +85,8 @@ bool Rewriter::stepElement()
     const Element element = m_reader.current();
     if (m_levels.isTop() && !insertBefore(element.tag, element.start))
         return false;
-    if (m_levels.isTop())
-        m_toInsert.remove(
-            element.tag); // it is there; a sequence of that tag makes way for what is to be inserted
+    if (m_levels.isTop() && m_next != m_rules.constEnd() && m_next.key() == element.tag)
+        ++m_next; // it is there; a sequence of that tag makes way for what is to be inserted
     m_levels.enterGroup(groupOf(element.tag));
     noteSurroundings(element);
     return changeElement(element);
@@ -146,11 +146,12 @@ bool Rewriter::changeElement(const Element &element)
 
 bool Rewriter::insertBefore(TagNumber tag, quint64 offset)
 {
-    while (!m_toInsert.isEmpty() && m_toInsert.firstKey() < tag) {
-        const TagNumber added = m_toInsert.firstKey();
-        const AttributeRule rule = m_toInsert.take(added);
+    for (; m_next != m_rules.constEnd() && m_next.key() < tag; ++m_next) {
+        if (m_next->kind != AttributeRule::Kind::Set)
+            continue;
+        const TagNumber added = m_next.key();
         const ValueChange::Result change =
-            m_change.inserted(added, rule, m_notation, m_levels.surroundings().characterSet);
+            m_change.inserted(added, *m_next, m_notation, m_levels.surroundings().characterSet);
         if (!change.problem.isEmpty())
             return fail(change.problem);
         m_levels.enterGroup(groupOf(added));

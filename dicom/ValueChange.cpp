@@ -73,15 +73,12 @@ ValueChange::Result erased()
 
 } // namespace
 
-AttributeRules ValueChange::insertions() const
+AttributeRules ValueChange::rules() const
 {
-    AttributeRules wanted;
-    for (auto rule = m_treatment.rules.begin(); rule != m_treatment.rules.end(); ++rule)
-        if (rule->kind == Kind::Set)
-            wanted.insert(rule.key(), *rule);
+    AttributeRules rules = m_treatment.rules;
     if (m_toUtf8)
-        wanted.insert(characterSetTag, {Kind::Set, QString::fromLatin1(utf8CharacterSet)});
-    return wanted;
+        rules.insert(characterSetTag, {Kind::Set, QString::fromLatin1(utf8CharacterSet)});
+    return rules;
 }
 
 ValueChange::Result ValueChange::apply(ElementReader &reader, const Element &element,

@@ -28,8 +28,8 @@ public:
     {
     }
 
-    // What the top level has to have; the caller takes out what it meets.
-    [[nodiscard]] AttributeRules insertions() const;
+    // The rules of the top level: it has to have what is set by them.
+    [[nodiscard]] AttributeRules rules() const;
     // What becomes of the element that the reader stands at.
     [[nodiscard]] Result apply(ElementReader &reader, const Element &element, const Surroundings &around);
     [[nodiscard]] Result inserted(TagNumber tag, const AttributeRule &rule, const Notation &notation,

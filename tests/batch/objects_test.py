@@ -310,6 +310,42 @@ class Objects(unittest.TestCase):
         self.assertIn("case 17: 3 done, 0 not done;", self.run_list(**user))
         self.assertEqual(self.contents(), made)
 
+    def test_keeps_the_result_of_a_file_that_cannot_be_read_for_a_while(self):
+        self.make("mixed", "--count", "3", "--no-directory")
+        user = self.as_ordinary_user()
+        self.run_list(**user)
+        made = self.contents()
+        one = sorted(path for path in self.source.rglob("*") if path.is_file())[0]
+        name = str(one.relative_to(self.source))
+        one.chmod(0)
+        printed = self.run_list(status=(1,), **user)
+        self.assertIn("case 17: 2 done, 1 not done;", printed)
+        self.assertEqual(self.not_done(), {name: "cannot be opened: Permission denied"})
+        self.assertEqual(self.contents(), made)
+        one.chmod(0o644)
+        self.assertIn("case 17: 3 done, 0 not done;", self.run_list(**user))
+        self.assertEqual(self.contents(), made)
+        one.write_bytes(b"another file")  # what was made of the one before is nobody's result any more
+        one.chmod(0)
+        self.run_list(status=(1,), **user)
+        self.assertEqual(len(self.contents()), len(made) - 1)
+
+    def test_keeps_results_while_their_source_is_empty(self):
+        self.make("mixed", "--count", "3", "--no-directory")
+        self.run_list()
+        made = self.contents()
+        away = self.folder / "away"
+        self.source.rename(away)
+        self.source.mkdir()
+        printed = self.run_list(status=(1,))
+        self.assertIn("case 17: 0 done, 1 not done;", printed)
+        self.assertEqual(self.not_done(), {"./": "is empty now; what was made of it stays"})
+        self.assertEqual(self.contents(), made)
+        self.source.rmdir()
+        away.rename(self.source)
+        self.assertIn("case 17: 3 done, 0 not done;", self.run_list())
+        self.assertEqual(self.contents(), made)
+
     def test_does_a_result_anew_whose_name_went_to_another_file_meanwhile(self):
         self.make("mixed", "--count", "1", "--no-directory")
         one = next(path for path in self.source.rglob("*") if path.is_file())

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void encodesInTheObjectsCharacterSet();
     void writesTexts_data();
     void writesTexts();
+    void refusesTextThatCannotBeMoved_data();
     void refusesTextThatCannotBeMoved();
 };
 
@@ -67,6 +68,24 @@ void TestTexts::writesTexts_data()
     QTest::newRow("moves from no character set")
         << QStringLiteral("\u00D6") << QByteArray("(0008,0080) LO [x]\n(0010,0010) PN [Doe]\n")
         << QByteArray("(0008,0005) CS [ISO_IR 192]\n(0008,0080) LO [x]\n(0010,0010) PN [\xc3\x96]\n") << true;
+    // the example of DICOM PS3.5, H.3.1
+    const QByteArray kanji = "\x1b$B;3ED\x1b(B^\x1b$BB@O:\x1b(B";
+    const QByteArray wideKanji = QStringLiteral("\u5C71\u7530^\u592A\u90CE").toUtf8();
+    for (const char *sets : {"\\ISO 2022 IR 87", "ISO 2022 IR 6\\ISO 2022 IR 87",
+                             "ISO 2022 IR 13\\ISO 2022 IR 87", "\\ISO 2022 IR 159\\ISO 2022 IR 87"})
+        QTest::addRow("moves from %s", sets)
+            << QStringLiteral("\u00D6")
+            << "(0008,0005) CS [" + QByteArray(sets) + "]\n(0008,1050) PN [Yamada^Tarou=" + kanji +
+                   "]\n(0010,0010) PN [Doe]\n"
+            << "(0008,0005) CS [ISO_IR 192]\n(0008,1050) PN [Yamada^Tarou=" + wideKanji +
+                   "]\n(0010,0010) PN [\xc3\x96]\n"
+            << true;
+    QTest::newRow("moves from Latin-9")
+        << QStringLiteral("\u6F22")
+        << QByteArray("(0008,0005) CS [ISO_IR 203]\n(0008,0080) LO [\xa4]\n(0010,0010) PN [Doe]\n")
+        << QByteArray("(0008,0005) CS [ISO_IR 192]\n(0008,0080) LO [\xe2\x82\xac]\n(0010,0010) PN "
+                      "[\xe6\xbc\xa2]\n")
+        << true;
 }
 
 void TestTexts::writesTexts()
@@ -89,11 +108,26 @@ void TestTexts::writesTexts()
     }
 }
 
+void TestTexts::refusesTextThatCannotBeMoved_data()
+{
+    QTest::addColumn<QByteArray>("characterSet");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("unknown set") << QByteArray("ISO_IR 9") << QByteArray("M\xfcnchen");
+    QTest::newRow("unknown beside a Japanese one")
+        << QByteArray("ISO_IR 9\\ISO 2022 IR 87") << QByteArray("M\xfcnchen");
+    QTest::newRow("not of its set") << QByteArray("\\ISO 2022 IR 87") << QByteArray("M\xfcnchen");
+    QTest::newRow("no letter of its set") << QByteArray("\\ISO 2022 IR 87") << QByteArray("\x1b$B))\x1b(B");
+    QTest::newRow("half a letter") << QByteArray("\\ISO 2022 IR 87") << QByteArray("\x1b$B;3E\x1b(B");
+}
+
 void TestTexts::refusesTextThatCannotBeMoved()
 {
+    QFETCH(QByteArray, characterSet);
+    QFETCH(QByteArray, text);
     const ScratchFolder folder;
-    const QString from = test::objectFile(folder, QStringLiteral("source"),
-                                          "(0008,0005) CS [ISO_IR 9]\n(0008,0080) LO [M\xfcnchen]\n");
+    const QString from =
+        test::objectFile(folder, QStringLiteral("source"),
+                         "(0008,0005) CS [" + characterSet + "]\n(0008,0080) LO [" + text + "]\n");
     Treatment treatment;
     treatment.rules = test::rulesOf(QStringLiteral("0010,0010\t\t\u6F22"));
     QCOMPARE(treatFile(from, folder.path(QStringLiteral("result")), treatment).facts.problem,

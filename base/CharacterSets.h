@@ -6,7 +6,7 @@
 #include <vector>
 
 // Texts of DICOM's character sets (PS3.5 6.1, PS3.3 C.12.1.1.2), decoded by the system's iconv.
-namespace dravolin::check {
+namespace dravolin {
 
 // The character sets in force for a data set or an item.
 class CharacterSets
@@ -21,11 +21,15 @@ public:
     // that mean nothing in their set become U+FFFD.
     [[nodiscard]] QString decode(QByteArrayView bytes) const;
 
+    // False when a defined term is unknown.
+    [[nodiscard]] bool areKnown() const { return m_known; }
+
     // Bytes above 127 mean something that neither UTF-8 nor Latin-1 says.
     [[nodiscard]] bool isOfItsOwn() const { return m_ofItsOwn; }
 
 private:
     const char *m_initial = "ISO-8859-1"; // iconv's name of what bytes mean before any escape sequence
+    bool m_known = true;
     bool m_ofItsOwn = false;
 };
 
@@ -39,4 +43,4 @@ private:
 enum class ByteOrder { LittleEndian, BigEndian };
 [[nodiscard]] QString decodeUtf16(QByteArrayView bytes, qsizetype offset, ByteOrder order);
 
-} // namespace dravolin::check
+} // namespace dravolin

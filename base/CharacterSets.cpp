@@ -1,7 +1,7 @@
-#include "check/CharacterSets.h"
+#include "base/CharacterSets.h"
 
 #include <QByteArray>
-#include <QList>
+#include <QByteArrayList>
 #include <QtEndian>
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 #include <map>
 #include <string>
 
-namespace dravolin::check {
+namespace dravolin {
 
 namespace {
 
@@ -98,6 +98,24 @@ QString convert(const char *name, const QByteArray &bytes)
     return converters.try_emplace(name, name).first->second.convert(bytes);
 }
 
+// Null for a term that is unknown, or that means something only behind an escape sequence.
+const char *iconvNameOf(const QByteArray &definedTerm)
+{
+    if (definedTerm == "GB18030" || definedTerm == "GBK")
+        return definedTerm == "GBK" ? "GBK" : "GB18030";
+    const qsizetype end = std::max(definedTerm.lastIndexOf(' '), definedTerm.lastIndexOf('_'));
+    const auto *const term =
+        std::find_if(std::begin(terms), std::end(terms),
+                     [number = definedTerm.mid(end + 1)](const Term &one) { return number == one.number; });
+    return term != std::end(terms) && definedTerm.startsWith("ISO") ? term->iconvName : nullptr;
+}
+
+bool isKnown(const QByteArray &definedTerm)
+{
+    return definedTerm.isEmpty() || definedTerm == "ISO 2022 IR 87" || definedTerm == "ISO 2022 IR 159" ||
+           iconvNameOf(definedTerm);
+}
+
 bool isHigh(char byte)
 {
     return static_cast<unsigned char>(byte) >= 0x80;
@@ -181,16 +199,11 @@ QString decodeWithEscapes(QByteArrayView bytes, const char *initial)
 
 CharacterSets::CharacterSets(QByteArrayView definedTerms)
 {
-    QByteArray first = definedTerms.toByteArray().split('\\').first().trimmed();
-    if (first == "GB18030" || first == "GBK") {
-        m_initial = first == "GBK" ? "GBK" : "GB18030";
-    } else {
-        const QByteArray number = first.mid(std::max(first.lastIndexOf(' '), first.lastIndexOf('_')) + 1);
-        for (const Term &term : terms) {
-            if (number == term.number && first.startsWith("ISO"))
-                m_initial = term.iconvName;
-        }
-    }
+    const QByteArrayList defined = definedTerms.toByteArray().split('\\');
+    for (const QByteArray &one : defined)
+        m_known = m_known && isKnown(one.trimmed());
+    if (const char *initial = iconvNameOf(defined.first().trimmed()))
+        m_initial = initial;
     m_ofItsOwn = qstrcmp(m_initial, "ISO-8859-1") != 0 && qstrcmp(m_initial, "UTF-8") != 0;
 }
 
@@ -255,4 +268,4 @@ QString decodeUtf16(QByteArrayView bytes, qsizetype offset, ByteOrder order)
     return text;
 }
 
-} // namespace dravolin::check
+} // namespace dravolin

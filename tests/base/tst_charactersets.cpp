@@ -1,9 +1,9 @@
-#include "check/CharacterSets.h"
+#include "base/CharacterSets.h"
 #include "support/TestEntry.h"
 
 #include <QTest>
 
-using namespace dravolin::check;
+using namespace dravolin;
 
 class TestCharacterSets : public QObject
 {
