@@ -67,7 +67,7 @@ private:
     {
         QByteArray path;       // ends with a slash; "" is the source
         check::PathList names; // those of folders end with one: it has a place in the order, too
-        std::vector<qsizetype> order;
+        std::vector<quint32> order;
         size_t next = 0;
     };
 
@@ -105,7 +105,7 @@ private:
 
     void open(const QByteArray &path, check::PathList names)
     {
-        std::vector<qsizetype> order = names.sorted(check::PathList::Order::Bytes);
+        std::vector<quint32> order = names.sorted(check::PathList::Order::Bytes);
         m_open.push_back({path, std::move(names), std::move(order)});
     }
 

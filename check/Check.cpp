@@ -24,8 +24,8 @@ struct Trees
 {
     FileTree originals;
     FileTree results;
-    std::vector<qsizetype> named; // the result that has an original's name, for each original
-    std::vector<bool> isMade;     // whether a result's name was made for it
+    std::vector<qint32> named; // the result that has an original's name, for each original
+    std::vector<bool> isMade;  // whether a result's name was made for it
 };
 
 void moveBackups(Trees &trees)
@@ -49,7 +49,7 @@ void noteRenamed(Trees &trees, const CheckOptions &options)
             trees.isMade[static_cast<size_t>(to)] = true;
         if (from == nobody)
             return;
-        trees.named[static_cast<size_t>(from)] = to;
+        trees.named[static_cast<size_t>(from)] = static_cast<qint32>(to);
         isRenamed[static_cast<size_t>(from)] = true;
     };
     if (options.renamed)
@@ -58,8 +58,8 @@ void noteRenamed(Trees &trees, const CheckOptions &options)
         if (isRenamed[i])
             continue;
         const QString file = trees.originals.files[static_cast<qsizetype>(i)];
-        trees.named[i] =
-            trees.results.files.indexOf(options.backups ? file.chopped(backupSuffix.size()) : file);
+        trees.named[i] = static_cast<qint32>(
+            trees.results.files.indexOf(options.backups ? file.chopped(backupSuffix.size()) : file));
     }
 }
 

@@ -50,7 +50,7 @@ PathList namesIn(FileTree &tree, const QString &folder)
 void list(FileTree &tree, const QString &folder)
 {
     const PathList names = namesIn(tree, folder);
-    for (const qsizetype index : names.sorted(PathList::Order::Texts)) {
+    for (const quint32 index : names.sorted(PathList::Order::Texts)) {
         const QString name = names[index];
         if (name.endsWith(u'/'))
             list(tree, below(folder, name.chopped(1)));
@@ -70,7 +70,6 @@ FileTree listTree(const QString &root)
         return tree;
     }
     list(tree, QString());
-    tree.files.squeeze();
     std::sort(tree.others.begin(), tree.others.end());
     std::sort(tree.unlisted.begin(), tree.unlisted.end());
     std::sort(tree.links.begin(), tree.links.end(),

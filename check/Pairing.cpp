@@ -14,7 +14,7 @@ constexpr quint64 objectBit = 1;
 
 } // namespace
 
-Pairs::Pairs(const std::vector<qsizetype> &named, qsizetype results)
+Pairs::Pairs(const std::vector<qint32> &named, qsizetype results)
     : m_originalOf(static_cast<size_t>(results), nobody), m_isTaken(named.size(), false)
 {
     m_originals.reserve(named.size());
@@ -26,7 +26,7 @@ Pairs::Pairs(const std::vector<qsizetype> &named, qsizetype results)
 
 void Pairs::join(qsizetype original, qsizetype result)
 {
-    m_originalOf[static_cast<size_t>(result)] = original;
+    m_originalOf[static_cast<size_t>(result)] = static_cast<qint32>(original);
     m_isTaken[static_cast<size_t>(original)] = true;
 }
 

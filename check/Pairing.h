@@ -19,7 +19,7 @@ struct Pairing
     qsizetype pairs = 0;
 };
 
-constexpr qsizetype nobody = -1;
+constexpr qint32 nobody = -1;
 
 // Pairs by name, then by SOP Instance UID, then by pixel data; each file once. One thread at a time.
 class Pairs
@@ -27,7 +27,7 @@ class Pairs
 public:
     // `named` has the index of the result that has an original's name, or nobody, for each original. A result
     // that several originals name belongs to the first one.
-    Pairs(const std::vector<qsizetype> &named, qsizetype results);
+    Pairs(const std::vector<qint32> &named, qsizetype results);
 
     // All originals in their order, then all results.
     void addOriginal(const FileRecord &record);
@@ -59,8 +59,8 @@ private:
     void compare(const Kept &original, const Free &result);
 
     std::vector<Kept> m_originals;
-    std::vector<qsizetype> m_originalOf; // of each result
-    std::vector<bool> m_isTaken;         // of each original
+    std::vector<qint32> m_originalOf; // of each result
+    std::vector<bool> m_isTaken;      // of each original
     std::vector<Free> m_freeOriginals;
     std::vector<Free> m_freeResults;
     qsizetype m_results = 0; // so far

@@ -49,14 +49,20 @@ int order(QByteArrayView bytes, const Path &other)
 
 void PathList::appendBytes(QByteArrayView path)
 {
-    m_bytes += path;
-    m_ends.push_back(m_bytes.size());
+    if (m_blocks.empty() || m_blocks.back().ends.size() == pathsInBlock)
+        m_blocks.emplace_back();
+    Block &block = m_blocks.back();
+    block.bytes += path;
+    block.ends.push_back(static_cast<quint32>(block.bytes.size()));
+    if (block.ends.size() == pathsInBlock)
+        block.bytes.squeeze();
 }
 
-void PathList::squeeze()
+qsizetype PathList::size() const
 {
-    m_bytes.squeeze();
-    m_ends.shrink_to_fit();
+    const size_t size =
+        m_blocks.empty() ? 0 : (m_blocks.size() - 1) * pathsInBlock + m_blocks.back().ends.size();
+    return static_cast<qsizetype>(size);
 }
 
 QString PathList::operator[](qsizetype index) const
@@ -66,9 +72,10 @@ QString PathList::operator[](qsizetype index) const
 
 QByteArrayView PathList::bytesAt(qsizetype index) const
 {
-    const auto at = static_cast<size_t>(index);
-    const qsizetype start = at == 0 ? 0 : m_ends[at - 1];
-    return QByteArrayView(m_bytes).sliced(start, m_ends[at] - start);
+    const Block &block = m_blocks[static_cast<size_t>(index) / pathsInBlock];
+    const size_t at = static_cast<size_t>(index) % pathsInBlock;
+    const quint32 start = at == 0 ? 0 : block.ends[at - 1];
+    return QByteArrayView(block.bytes).sliced(start, block.ends[at] - start);
 }
 
 qsizetype PathList::indexOf(const QString &path) const
@@ -84,11 +91,11 @@ qsizetype PathList::indexOf(const QString &path) const
     return -1;
 }
 
-std::vector<qsizetype> PathList::sorted(Order wanted) const
+std::vector<quint32> PathList::sorted(Order wanted) const
 {
-    std::vector<qsizetype> indices(m_ends.size());
+    std::vector<quint32> indices(static_cast<size_t>(size()));
     std::iota(indices.begin(), indices.end(), 0);
-    std::sort(indices.begin(), indices.end(), [this, wanted](qsizetype one, qsizetype two) {
+    std::sort(indices.begin(), indices.end(), [this, wanted](quint32 one, quint32 two) {
         const QByteArrayView first = bytesAt(one);
         const QByteArrayView second = bytesAt(two);
         return wanted == Order::Bytes ? first < second : order(first, second) < 0;

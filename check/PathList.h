@@ -17,10 +17,8 @@ class PathList
 public:
     void append(const QString &path) { appendBytes(toBytes(path)); }
     void appendBytes(QByteArrayView path);
-    // Gives back the memory for more paths.
-    void squeeze();
-    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(m_ends.size()); }
-    [[nodiscard]] bool isEmpty() const { return m_ends.empty(); }
+    [[nodiscard]] qsizetype size() const;
+    [[nodiscard]] bool isEmpty() const { return m_blocks.empty(); }
     [[nodiscard]] QString operator[](qsizetype index) const;
     // Its bytes, as long as nothing is appended.
     [[nodiscard]] QByteArrayView bytesAt(qsizetype index) const;
@@ -28,12 +26,19 @@ public:
     [[nodiscard]] qsizetype indexOf(const QString &path) const;
     // The indices of all, in ascending order of the paths as texts, or as bytes.
     enum class Order { Texts, Bytes };
-    [[nodiscard]] std::vector<qsizetype> sorted(Order order) const;
+    [[nodiscard]] std::vector<quint32> sorted(Order order) const;
     [[nodiscard]] QStringList toList() const;
 
 private:
-    QByteArray m_bytes;            // of all, one behind the other
-    std::vector<qsizetype> m_ends; // in them
+    // So many paths, or fewer in the last one: a list that grows leaves the others where they are.
+    static constexpr size_t pathsInBlock = 256;
+    struct Block
+    {
+        QByteArray bytes;          // of all, one behind the other
+        std::vector<quint32> ends; // in them
+    };
+
+    std::vector<Block> m_blocks;
 };
 
 } // namespace dravolin::check
