@@ -65,58 +65,15 @@ std::optional<Grade> gradeNamed(const QString &name)
 Pattern Patterns::at(quint32 index) const
 {
     const KeptPattern &pattern = m_patterns[index];
-    return {pattern, m_values.sliced(pattern.start, pattern.length)};
+    return {pattern, QByteArray(pattern.value, pattern.length)};
 }
 
 Patterns::KeptPattern Patterns::kept(const Pattern &pattern)
 {
-    const qsizetype start = m_values.size();
-    m_values += pattern.value;
-    return {pattern, static_cast<quint32>(pattern.value.size()), start};
-}
-
-size_t Patterns::slotOf(quint64 state) const
-{
-    // its first half as a fraction of all, so that any number of slots does
-    size_t at = ((state >> 32) * m_states.size()) >> 32;
-    while (m_states[at] != 0 && m_states[at] != state)
-        at = at + 1 == m_states.size() ? 0 : at + 1;
-    return at;
-}
-
-std::optional<size_t> Patterns::slot(quint64 state) const
-{
-    if (m_states.empty())
-        return std::nullopt;
-    const size_t at = slotOf(state);
-    return m_states[at] == 0 ? std::nullopt : std::optional(at);
-}
-
-// By half, since memory for as many again would lie idle.
-void Patterns::grow()
-{
-    const size_t size = std::max<size_t>(64, m_states.size() + m_states.size() / 2);
-    const auto states = std::exchange(m_states, std::vector<quint64>(size));
-    const auto patterns = std::exchange(m_patternOf, std::vector<quint32>(size, none));
-    const auto goesOn = std::exchange(m_goesOn, std::vector<bool>(size));
-    for (size_t i = 0; i < states.size(); ++i) {
-        if (states[i] == 0)
-            continue;
-        const size_t at = slotOf(states[i]);
-        m_states[at] = states[i];
-        m_patternOf[at] = patterns[i];
-        m_goesOn[at] = goesOn[i];
-    }
-}
-
-size_t Patterns::makeSlot(quint64 state)
-{
-    if ((m_used + 1) * 3 > m_states.size() * 2)
-        grow();
-    const size_t at = slotOf(state);
-    m_used += m_states[at] == 0 ? 1 : 0;
-    m_states[at] = state;
-    return at;
+    const auto length = static_cast<quint32>(pattern.value.size());
+    char *const value = static_cast<char *>(m_values.allocate(length, alignof(char)));
+    std::copy_n(pattern.value.cbegin(), length, value);
+    return {pattern, length, value};
 }
 
 quint32 &Patterns::patternOf(std::span<const Word> words)
@@ -124,9 +81,9 @@ quint32 &Patterns::patternOf(std::span<const Word> words)
     quint64 state = 0;
     for (size_t i = 0; i + 1 < words.size(); ++i) {
         state = mixed(state, words[i].hash);
-        m_goesOn[makeSlot(state)] = true;
+        m_words.goOn(state);
     }
-    return m_patternOf[makeSlot(mixed(state, words.back().hash))];
+    return m_words.patternOf(mixed(state, words.back().hash));
 }
 
 quint32 Patterns::add(const Pattern &pattern, std::span<const Word> words)
@@ -173,8 +130,7 @@ void Patterns::findDatePrefix(const Word &word, size_t at, std::vector<Hit> &hit
 {
     if (word.datePrefix == 0)
         return;
-    const std::optional<size_t> found = slot(mixed(0, word.datePrefix));
-    const quint32 pattern = found ? m_patternOf[*found] : none;
+    const quint32 pattern = m_words.find(mixed(0, word.datePrefix)).value_or(WordTable::Entry()).pattern;
     if (pattern != none && m_patterns[pattern].valueClass == ValueClass::Date)
         hits.push_back({pattern, at});
 }
@@ -187,13 +143,12 @@ std::vector<Patterns::Hit> Patterns::hits(std::span<const Word> words) const
         quint64 state = 0;
         for (size_t last = first; last < words.size(); ++last) {
             state = mixed(state, words[last].hash);
-            const std::optional<size_t> found = slot(state);
+            const std::optional<WordTable::Entry> found = m_words.find(state);
             if (!found)
                 break;
-            const quint32 pattern = m_patternOf[*found];
-            if (pattern != none && fits(m_patterns[pattern], words, first, last))
-                hits.push_back({pattern, last});
-            if (!m_goesOn[*found])
+            if (found->pattern != none && fits(m_patterns[found->pattern], words, first, last))
+                hits.push_back({found->pattern, last});
+            if (!found->goesOn)
                 break;
         }
     }

@@ -2,11 +2,13 @@
 
 #include "check/Folding.h"
 #include "check/IdentifyingAttributes.h"
+#include "check/WordTable.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <deque>
+#include <memory_resource>
 #include <optional>
 #include <span>
 #include <unordered_map>
@@ -27,11 +29,11 @@ struct PatternTraits
 {
     ValueClass valueClass = ValueClass::FreeText;
     Grade grade = Grade::Possible;
-    bool digits = false; // nothing else
-    bool ideographs = false;
-    bool component = false; // a part of a person's name
-    Tag source = 0;         // the attribute that the value came from; 0 for none
-    quint32 letters = 0;    // folded letters and digits
+    bool digits : 1 = false; // nothing else
+    bool ideographs : 1 = false;
+    bool component : 1 = false; // a part of a person's name
+    Tag source = 0;             // the attribute that the value came from; 0 for none
+    quint32 letters = 0;        // folded letters and digits
 };
 
 // A value that is searched for, or a part of it.
@@ -76,13 +78,13 @@ public:
     [[nodiscard]] size_t size() const { return m_patterns.size(); }
     [[nodiscard]] bool hasIdeographs() const { return m_ideographs; }
 
-    static constexpr quint32 none = 0xFFFFFFFFU;
+    static constexpr quint32 none = WordTable::none;
 
 private:
     struct KeptPattern : PatternTraits
     {
         quint32 length = 0; // of the value
-        qsizetype start = 0;
+        const char *value = nullptr;
     };
     struct Hit
     {
@@ -91,12 +93,6 @@ private:
     };
 
     [[nodiscard]] KeptPattern kept(const Pattern &pattern);
-    // The slot of a state, or the free one where it belongs; there are some slots.
-    [[nodiscard]] size_t slotOf(quint64 state) const;
-    // The slot of a state, if it has one.
-    [[nodiscard]] std::optional<size_t> slot(quint64 state) const;
-    size_t makeSlot(quint64 state);
-    void grow();
     quint32 &patternOf(std::span<const Word> words);
     [[nodiscard]] std::vector<Hit> hits(std::span<const Word> words) const;
     [[nodiscard]] bool fits(const PatternTraits &pattern, std::span<const Word> words, size_t first,
@@ -105,13 +101,8 @@ private:
     void findDatePrefix(const Word &word, size_t at, std::vector<Hit> &hits) const;
 
     std::deque<KeptPattern> m_patterns;
-    QByteArray m_values; // of all of them, one behind the other
-    // The words that patterns begin with: of each slot the state behind them, 0 when it is free, the pattern
-    // that they are, or none, and whether some pattern goes on behind them. Apart, so that no byte is lost.
-    std::vector<quint64> m_states;
-    std::vector<quint32> m_patternOf;
-    std::vector<bool> m_goesOn;
-    size_t m_used = 0;
+    std::pmr::monotonic_buffer_resource m_values; // of all of them; they stay where they are
+    WordTable m_words;
     std::unordered_map<quint64, quint32> m_pairs; // two components, the lower index first
     bool m_ideographs = false;
 };

@@ -13,6 +13,7 @@ class TestPathList : public QObject
 
 private Q_SLOTS:
     void givesPathsBackAsTheyWere();
+    void keepsAnyNumberOfPaths();
     void findsPathsInOrder();
     void tellsTheOrderOfTextsAndOfBytes();
     void listsATreeInTheOrderOfWholePaths();
@@ -29,6 +30,27 @@ void TestPathList::givesPathsBackAsTheyWere()
     QCOMPARE(list.size(), 4);
     QCOMPARE(list[3], paths[3]);
     QCOMPARE(list.toList(), paths);
+}
+
+void TestPathList::keepsAnyNumberOfPaths()
+{
+    PathList list;
+    QStringList paths; // of unequal lengths, in order
+    std::vector<quint32> backwards;
+    for (int i = 0; i < 1000; ++i) {
+        paths.append(QStringLiteral("%1").arg(i, 4, 10, QLatin1Char('0')) + QString(i % 7, u'x'));
+        backwards.insert(backwards.begin(), static_cast<quint32>(i));
+        list.append(paths.last());
+        QCOMPARE(list.size(), paths.size());
+    }
+    QCOMPARE(list.toList(), paths);
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        QCOMPARE(list.indexOf(paths[i]), i);
+    PathList reversed;
+    for (auto path = paths.crbegin(); path != paths.crend(); ++path)
+        reversed.append(*path);
+    QCOMPARE(reversed.sorted(PathList::Order::Texts), backwards);
+    QCOMPARE(reversed.sorted(PathList::Order::Bytes), backwards);
 }
 
 void TestPathList::findsPathsInOrder()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void leavesOutWhatRulesSet();
     void takesTheStrongestClassOfAValue();
     void countsValuesThatAreTooShort();
+    void findsEachOfManyValues();
     void looksForWordsOfPaths_data();
     void looksForWordsOfPaths();
 };
@@ -139,6 +140,20 @@ void TestValues::countsValuesThatAreTooShort()
     QCOMPARE(values.tooShort(), quint64{1});
     QCOMPARE(values.searched(), quint64{1});
     QCOMPARE(values.searched(ValueClass::Identifier), quint64{1});
+}
+
+void TestValues::findsEachOfManyValues()
+{
+    constexpr int count = 20000;
+    const auto value = [](int number) { return QStringLiteral("PID-%1 Z%2").arg(number).arg(number % 7); };
+    Values values;
+    for (int i = 0; i < count; ++i)
+        values.add(ValueClass::Identifier, 0x00100020, value(i));
+    QCOMPARE(values.patterns().size(), size_t{count});
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(told(values.patterns(), value(i), TextKind::Text), QStringLiteral("certain ") + value(i));
+    for (int i = count; i < 2 * count; ++i)
+        QCOMPARE(told(values.patterns(), value(i), TextKind::Text), QString());
 }
 
 void TestValues::looksForWordsOfPaths_data()
