@@ -86,9 +86,14 @@ private:
     std::optional<ProjectKey> openKey()
     {
         QString problem;
-        std::optional<ProjectKey> key = ProjectKey::readOrMake(m_options.key, &problem);
         const QString name = QStringLiteral("key");
         const QByteArray known = m_journal.value(name);
+        std::optional<ProjectKey> key;
+        if (known.isEmpty() || pathExists(m_options.key))
+            key = ProjectKey::readOrMake(m_options.key, &problem);
+        else
+            problem = Texts::tr("the run was begun with another key than %1, which does not exist")
+                          .arg(m_options.key);
         if (key && !known.isEmpty() && known != fingerprint(*key))
             problem = Texts::tr("the run was begun with another key than %1").arg(m_options.key);
         if (key && known.isEmpty() && !m_journal.setValue(name, fingerprint(*key)))

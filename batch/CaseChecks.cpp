@@ -1,9 +1,11 @@
 #include "batch/CaseChecks.h"
 
+#include "base/FileStamps.h"
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
 #include "batch/Evidence.h"
+#include "check/FileTree.h"
 #include "check/ObjectReader.h"
 #include "check/Report.h"
 
@@ -57,6 +59,21 @@ check::CheckOptions optionsFor(const PlannedCase &planned, const BatchOptions &b
     return options;
 }
 
+// Names, sizes and times: what somebody has changed, added or taken away since a check is checked again.
+void addWhatLiesIn(const QString &folder, QCryptographicHash &hash)
+{
+    const check::FileTree tree = check::listTree(folder);
+    for (qsizetype i = 0; i < tree.files.size(); ++i) {
+        const QString file = tree.files[i];
+        const FileStamp stamp = fileStamp(joinPath(folder, file)).value_or(FileStamp());
+        hash.addData(toBytes(file) + '\t' + QByteArray::number(stamp.size) + '\t' +
+                     QByteArray::number(stamp.written) + '\n');
+    }
+    for (const check::FileTree::Link &link : tree.links)
+        hash.addData(toBytes(link.path + u'\t' + link.target) + '\n');
+    hash.addData(toBytes((tree.others + tree.unlisted).join(u'\n')));
+}
+
 // Everything that decides what a check finds, in one hash.
 QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &options, const Journal &journal)
 {
@@ -71,6 +88,7 @@ QByteArray subjectOf(const PlannedCase &planned, const check::CheckOptions &opti
                                    options.ownTexts.values())
         add(line);
     hash.addData(planned.listing);
+    addWhatLiesIn(options.result, hash);
     journal.forEachResult(planned.row.caseId, [&add](const FileRecord &record) {
         add(record.path + u'\t' + record.result + u'\t' + QString::fromLatin1(record.hashAfter));
     });
@@ -100,9 +118,9 @@ bool CaseChecks::check(qsizetype index)
     const check::CheckOptions options = optionsFor(planned, m_options, m_journal);
     const QByteArray subject = subjectOf(planned, options, m_journal);
     const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId));
-    const QByteArray known = pathExists(joinPath(folder, QStringLiteral("report.html")))
-                                 ? m_journal.checked(caseId, subject)
-                                 : QByteArray();
+    const bool hasReports = pathExists(joinPath(folder, QStringLiteral("report.html"))) &&
+                            pathExists(joinPath(folder, QStringLiteral("report.json")));
+    const QByteArray known = hasReports ? m_journal.checked(caseId, subject) : QByteArray();
     if (!known.isEmpty()) {
         m_findings[index] = findingsFrom(QJsonDocument::fromJson(known).object());
         return true;

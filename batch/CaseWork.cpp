@@ -6,6 +6,7 @@
 #include "batch/CaseDirectory.h"
 #include "batch/CaseRules.h"
 #include "batch/Destination.h"
+#include "batch/Evidence.h"
 #include "batch/StaleResults.h"
 
 #include <QMutexLocker>
@@ -56,6 +57,8 @@ void CaseWork::makeDestinations()
 void CaseWork::removeStale(const PlannedCase &planned)
 {
     const StaleResults stale = staleResults(planned, m_files, m_key, m_journal);
+    if (!stale.results.isEmpty())
+        withdrawReports(planned.row.caseId, evidenceFolder(m_options.runFolder()));
     for (const QString &result : stale.results)
         removeFile(joinPath(planned.row.destination, result));
     for (const QString &path : stale.gone)
@@ -115,6 +118,9 @@ void CaseWork::openCase()
     if (!beginCase())
         return;
     removeStale(planned);
+    for (const QByteArray &study : planned.studies)
+        if (!planned.studyUid.isEmpty())
+            m_uids.insert(study, planned.studyUid);
     KnownFiles known(m_journal, planned.row.caseId);
     if (planned.files == 0 && known.current()) // a share that is not mounted, as a rule
         m_counts[m_ended].notDone.append(
@@ -152,6 +158,8 @@ void CaseWork::takeFile()
         countKnown(index, known);
         return;
     }
+    if (!std::exchange(m_open->changes, true))
+        withdrawReports(m_plan.cases.at(m_ended).row.caseId, evidenceFolder(m_options.runFolder()));
     m_bytes += file.size;
     m_tasks.push_back({index, file, result, m_taken++});
 }
@@ -274,7 +282,8 @@ void CaseWork::countKnown(size_t index, const FileRecord &record)
 void CaseWork::countTreated(const Treated &treated, const FileRecord &record)
 {
     countKnown(treated.task->ofCase, record);
-    m_counts[static_cast<qsizetype>(treated.task->ofCase)].movedToUtf8 += treated.file.movedToUtf8 ? 1 : 0;
+    const bool isMoved = treated.file.movedToUtf8 && record.problem.isEmpty();
+    m_counts[static_cast<qsizetype>(treated.task->ofCase)].movedToUtf8 += isMoved ? 1 : 0;
     m_progress.bytes += treated.file.sizeBefore;
 }
 

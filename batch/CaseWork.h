@@ -71,6 +71,7 @@ private:
         qsizetype left;
         ResultNames names;
         KnownFiles known;
+        bool changes = false; // what it had is not all that it will have
     };
 
     void nameStudies();

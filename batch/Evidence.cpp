@@ -16,9 +16,16 @@ namespace dravolin {
 
 namespace {
 
+const QString reportNames[] = {QStringLiteral("report.html"), QStringLiteral("report.json")};
+const QString filesName = QStringLiteral("files.csv");
+const QString uidMapName = QStringLiteral("uid_map.csv");
+const QString patientMapName = QStringLiteral("patient_map.csv");
+const QString notDoneName = QStringLiteral("not_done.csv");
+const QString secretNames[] = {uidMapName, patientMapName, notDoneName};
+
 bool writeFiles(const EvidenceSources &sources, const QString &folder)
 {
-    TableFile table(joinPath(folder, QStringLiteral("files.csv")), 0644);
+    TableFile table(joinPath(folder, filesName), 0644);
     table.addLine({QStringLiteral("case_id"), QStringLiteral("result"), QStringLiteral("sha256_before"),
                    QStringLiteral("sha256_after")});
     for (const PlannedCase &planned : sources.plan.cases) {
@@ -35,7 +42,7 @@ const QStringList mapHead = {QStringLiteral("id_old"), QStringLiteral("id_new")}
 
 bool writeUidMap(const QString &folder, const Journal &journal)
 {
-    TableFile table(joinPath(folder, QStringLiteral("uid_map.csv")), 0600);
+    TableFile table(joinPath(folder, uidMapName), 0600);
     table.addLine(mapHead);
     journal.forEachUid([&table](const QByteArray &old, const QByteArray &replacement) {
         table.addLine({QString::fromLatin1(old), QString::fromLatin1(replacement)});
@@ -45,7 +52,7 @@ bool writeUidMap(const QString &folder, const Journal &journal)
 
 bool writePatientMap(const Plan &plan, const QString &folder)
 {
-    TableFile table(joinPath(folder, QStringLiteral("patient_map.csv")), 0600);
+    TableFile table(joinPath(folder, patientMapName), 0600);
     table.addLine(mapHead);
     for (const PlannedCase &planned : plan.cases) {
         QList<QByteArray> patients = planned.patients.values();
@@ -58,12 +65,21 @@ bool writePatientMap(const Plan &plan, const QString &folder)
 
 bool writeNotDone(const QList<CaseCounts> &counts, const QString &folder)
 {
-    TableFile table(joinPath(folder, QStringLiteral("not_done.csv")), 0600);
+    TableFile table(joinPath(folder, notDoneName), 0600);
     table.addLine({QStringLiteral("case_id"), QStringLiteral("source"), QStringLiteral("reason")});
     for (const CaseCounts &count : counts)
         for (const FileRecord &record : count.notDone)
             table.addLine({count.caseId, record.path, record.problem});
     return table.finish();
+}
+
+bool isWhole(const QString &evidence, const QString &secret)
+{
+    const auto isThere = [](const QString &folder) {
+        return [folder](const QString &name) { return pathExists(joinPath(folder, name)); };
+    };
+    return std::ranges::all_of(reportNames, isThere(evidence)) && isThere(evidence)(filesName) &&
+           std::ranges::all_of(secretNames, isThere(secret));
 }
 
 } // namespace
@@ -88,6 +104,15 @@ bool writeReports(QJsonObject report, const QString &folder)
     return json.finish() && page.finish();
 }
 
+void withdrawReports(const QString &caseId, const QString &evidence)
+{
+    for (const QString &name : reportNames) {
+        removeFile(joinPath(evidence, name));
+        removeFile(joinPath(joinPath(evidence, caseReports(caseId)), name));
+    }
+    removeFile(joinPath(evidence, filesName));
+}
+
 bool removeOtherReports(const QStringList &caseIds, const QString &evidence)
 {
     QSet<QString> kept;
@@ -99,7 +124,7 @@ bool removeOtherReports(const QStringList &caseIds, const QString &evidence)
         const QString other = joinPath(cases, name);
         if (kept.contains(name) || !isFolder(other))
             continue;
-        for (const QString &report : {QStringLiteral("report.json"), QStringLiteral("report.html")}) {
+        for (const QString &report : reportNames) {
             removeFile(joinPath(other, report));
             done = done && !pathExists(joinPath(other, report));
         }
@@ -122,8 +147,7 @@ bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
     const QJsonObject report = evidenceReport(sources, outcome);
     const QByteArray hash =
         QCryptographicHash::hash(QJsonDocument(report).toJson(), QCryptographicHash::Sha256);
-    if (outcome.nothingToDo && sources.journal.value(written) == hash &&
-        pathExists(joinPath(evidence, QStringLiteral("report.html"))))
+    if (outcome.nothingToDo && sources.journal.value(written) == hash && isWhole(evidence, secret))
         return true;
     return sources.journal.setValue(written, {}) && createFolder(evidence) && writeFiles(sources, evidence) &&
            writeReports(report, evidence) && writeUidMap(secret, sources.journal) &&

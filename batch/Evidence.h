@@ -29,6 +29,10 @@ struct EvidenceSources
 // not be written.
 [[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
 
+// Removes what says that all is done, before results of a case are no longer what it speaks of: the run's
+// reports and files.csv, and the reports of the case.
+void withdrawReports(const QString &caseId, const QString &evidence);
+
 // Removes the reports of cases that are not among these from a folder of evidence, and nothing else that lies
 // there. False when one stays.
 [[nodiscard]] bool removeOtherReports(const QStringList &caseIds, const QString &evidence);

@@ -148,7 +148,7 @@ private:
         shown = shown.first(std::min(shown.size(), mostCases));
         QList<QStringList> rows;
         for (const QJsonObject &object : shown)
-            rows.append(row(textIn(object, "caseId"), numberIn(object, "done"), numberIn(object, "notDone"),
+            rows.append(row(nameOf(object), numberIn(object, "done"), numberIn(object, "notDone"),
                             findingsOf(object)));
         rows.append(row(Texts::tr("all"), sum("done"), sum("notDone"), m_findings));
         m_page.heading(Texts::tr("Cases"));
@@ -166,6 +166,13 @@ private:
         m_page.paragraph(
             Texts::tr("The reports of each case are in the folder cases, the hashes of every file "
                       "before and after in files.csv."));
+    }
+
+    // A case that no machine has done has nothing but its id.
+    static QString nameOf(const QJsonObject &object)
+    {
+        const QString caseId = textIn(object, "caseId");
+        return object.size() > 1 ? caseId : Texts::tr("%1 (in no part: nothing is known of it)").arg(caseId);
     }
 
     [[nodiscard]] qint64 sum(const char *name) const

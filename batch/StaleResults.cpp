@@ -51,9 +51,12 @@ Comparison compared(const PlannedCase &planned, PlannedFiles &files, const Proje
         if (!known.current() || known.current()->path != file.path)
             return;
         const FileRecord &record = *known.current();
-        if (!file.problem.isEmpty())
-            return pass(record.size == file.size && record.modified == file.modified ? found.unseen
-                                                                                     : found.gone);
+        if (!file.problem.isEmpty()) {
+            // without a directory in the source all names are others
+            const bool isAsBefore = record.size == file.size && record.modified == file.modified &&
+                                    record.result != QLatin1String(mediaDirectoryName);
+            return pass(isAsBefore ? found.unseen : found.gone);
+        }
         if (record.result != result)
             found.renamed.insert(record.result);
         known.pass();

@@ -10,12 +10,12 @@
 
 namespace dravolin::cli {
 
-namespace {
-
 QString counted(const QString &text, qsizetype count)
 {
     return text.arg(QString::number(count), NOXUtils::pluralSuffix(static_cast<quint64>(count)));
 }
+
+namespace {
 
 QString numbers(qsizetype files, qsizetype folders, quint64 bytes)
 {
@@ -126,7 +126,9 @@ QString planText(const Plan &plan)
 
 QString outcomeText(const BatchOutcome &outcome)
 {
-    QString text = outcome.nothingToDo ? Texts::tr("Nothing is left to be done.\n") : QString();
+    const bool isAllDone = std::all_of(outcome.cases.begin(), outcome.cases.end(),
+                                       [](const CaseCounts &counts) { return counts.notDone.isEmpty(); });
+    QString text = outcome.nothingToDo && isAllDone ? Texts::tr("Nothing is left to be done.\n") : QString();
     QList<CaseFindings> findings;
     for (qsizetype i = 0; i < outcome.cases.size(); ++i) {
         if (!outcome.failure.isEmpty() && isUntouched(outcome.cases.at(i)))

@@ -7,6 +7,8 @@
 // What `dravolin-cli plan` and `dravolin-cli run` tell. Pure functions.
 namespace dravolin::cli {
 
+// With %1 the number, and with %2 what makes its noun a plural.
+[[nodiscard]] QString counted(const QString &text, qsizetype count);
 // A line for each problem, in their order.
 [[nodiscard]] QString problemsText(const QList<ListProblem> &problems);
 // A line for each case, and one for all.

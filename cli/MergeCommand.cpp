@@ -23,7 +23,7 @@ int report(const MergeOutcome &outcome, const MergeCall &call)
     for (const QString &caseId : outcome.missing)
         printError(Texts::tr("dravolin-cli merge: the case %1 is in no part\n").arg(caseId));
     if (!call.quiet)
-        print(Texts::tr("%1 parts\n").arg(outcome.parts) + mergeText(outcome.report) +
+        print(counted(Texts::tr("%1 part%2"), outcome.parts) + u'\n' + mergeText(outcome.report) +
               Texts::tr("Report: %1\n")
                   .arg(joinPath(evidenceFolder(call.folder), QStringLiteral("report.html"))));
     return verdictOf(outcome.report) == check::Verdict::Clean ? nothingFound : somethingFound;

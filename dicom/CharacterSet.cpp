@@ -43,7 +43,7 @@ std::optional<QByteArray> converted(DcmSpecificCharacterSet &conversion, const Q
     return QByteArray(result.data(), static_cast<qsizetype>(result.size()));
 }
 
-// For what DCMTK has no conversion for.
+// For what DCMTK has no conversion for, or a wrong one.
 std::optional<QByteArray> decoded(const QByteArray &value, const QByteArray &characterSet)
 {
     const QByteArray first = firstOf(characterSet);
@@ -76,7 +76,9 @@ std::optional<QByteArray> utf8Text(const QByteArray &value, const QByteArray &ch
     if (isAscii(value))
         return value;
     DcmSpecificCharacterSet conversion;
-    return conversion.selectCharacterSet(characterSet.constData(), utf8CharacterSet).good()
+    // DCMTK makes a yen sign of what divides values there
+    const bool isJapanese = firstOf(characterSet) == "ISO_IR 13";
+    return !isJapanese && conversion.selectCharacterSet(characterSet.constData(), utf8CharacterSet).good()
                ? converted(conversion, value, isName ? "\\^=" : "\\")
                : decoded(value, characterSet);
 }

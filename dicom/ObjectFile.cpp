@@ -4,6 +4,7 @@
 #include "base/Files.h"
 #include "base/PathText.h"
 #include "base/Texts.h"
+#include "dicom/CharacterSet.h"
 #include "dicom/Deflation.h"
 #include "dicom/FileSink.h"
 #include "dicom/MediaDirectory.h"
@@ -21,6 +22,7 @@ namespace {
 
 constexpr quint64 longestName = 1024;
 constexpr TagNumber lastName = 0x0020000e;
+constexpr TagNumber characterSetTag = 0x00080005;
 
 // A source that was opened, with its data set where it can be walked over.
 struct OpenObject
@@ -52,19 +54,25 @@ std::optional<OpenObject> openObject(const QString &path, const QString &folder,
     return object.inflatedFile ? std::optional(std::move(object)) : std::nullopt;
 }
 
-// The names in the data set; a problem when it is damaged before the last of them.
+// The names in the data set; a problem when it is damaged before the last of them. The same Patient ID is the
+// same bytes, whatever the character set, where it can be read.
 QString readNames(const OpenObject &object, ObjectNames &names)
 {
     using Token = ElementReader::Token;
     SourceFile &file = object.dataSet();
     ElementReader reader(file, object.begin(), file.size(), object.prologue.syntax.notation);
+    QByteArray characterSet;
     while (true) {
         const Token token = reader.next();
-        if (token == Token::End || (token == Token::Element && reader.current().tag > lastName))
+        if (token == Token::End || (token == Token::Element && reader.current().tag > lastName)) {
+            names.patientId = utf8Text(names.patientId, characterSet, false).value_or(names.patientId);
             return {};
+        }
         if (token == Token::Damaged || (token == Token::Sequence && !reader.leaveSequence()))
             return reader.problem();
         QByteArray *field = token == Token::Element ? names.field(reader.current().tag) : nullptr;
+        if (token == Token::Element && reader.current().tag == characterSetTag)
+            field = &characterSet;
         if (field && reader.current().length <= longestName)
             *field = withoutPadding(reader.value());
     }

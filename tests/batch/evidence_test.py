@@ -36,16 +36,20 @@ class Evidence(unittest.TestCase):
         planted.unlink()
         return {value["value"] for one in described["files"] for value in one["planted"]}
 
-    def run_list(self, *rows, options=(), status=0):
-        """Carries out a list of the columns that the rows name, and gives what was printed."""
+    def write_list(self, *rows):
         with open(self.folder / "list.csv", "w", encoding="utf-8", newline="") as file:
             table = csv.DictWriter(file, rows[0].keys())
             table.writeheader()
             table.writerows(rows)
+
+    def run_list(self, *rows, options=(), status=0):
+        """Carries out a list of the columns that the rows name, and gives what was printed."""
+        self.write_list(*rows)
         with untouched(self.folder):
             done = subprocess.run([CLI, "run", "list.csv", *options], cwd=self.folder, capture_output=True,
                                   text=True, check=False)
-        self.assertEqual(done.returncode, status, done.stdout + done.stderr)
+        if status is not None:
+            self.assertEqual(done.returncode, status, done.stdout + done.stderr)
         return done.stdout
 
     def report(self):
@@ -100,6 +104,87 @@ class Evidence(unittest.TestCase):
         self.assertIn("0020,0010\tStudy ID", printed)
         again = self.run_list(row, status=1)
         self.assertEqual(again, "Nothing is left to be done.\n" + re.sub("The check took .*\n", "", printed))
+
+    def test_checks_again_what_somebody_has_changed(self):
+        self.make("in")
+        row = self.row("in", "17")
+        self.run_list(row)
+        result = sorted((self.folder / "out17").rglob("*.dcm"))[0]
+        original = sorted(path for path in (self.folder / "in").rglob("*") if path.is_file())[0]
+        made = result.read_bytes()
+        result.write_bytes(original.read_bytes())
+        self.assertIn("certain", self.run_list(row, status=1))
+        self.assertNotIn("none of the originals", self.page())
+        result.unlink()  # it is made again
+        self.run_list(row)
+        self.assertEqual(result.read_bytes(), made)
+        extra = result.with_name("extra")
+        shutil.copyfile(original, extra)
+        self.assertIn("certain", self.run_list(row, status=1))
+        extra.unlink()
+        self.run_list(row)
+
+    def page(self):
+        return html.unescape((self.folder / "list.run/evidence/report.html").read_text(encoding="utf-8"))
+
+    def test_says_nothing_of_results_that_change_until_all_have(self):
+        for number in range(40):
+            self.make(f"many/{number}", seed=number, count=5)
+        self.make("in", seed=41)
+        rows = [self.row("in", "17"), self.row("many", "18")]
+        self.run_list(*rows)
+        evidence = self.folder / "list.run/evidence"
+        self.assertTrue((evidence / "cases/17/report.html").exists())
+        rows = [{**row, "diagnosis": "Another"} for row in rows]
+        self.write_list(*rows)
+        with subprocess.Popen([CLI, "run", "list.csv", "--workers", "1", "--quiet"], cwd=self.folder,
+                              stdout=subprocess.DEVNULL) as call:
+            while call.poll() is None and (evidence / "files.csv").exists():  # goes last
+                time.sleep(0.001)
+            call.send_signal(signal.SIGKILL)
+        self.assertEqual(call.returncode, -signal.SIGKILL)
+        left = {path.name for path in evidence.iterdir()}
+        self.assertEqual(left & {"report.html", "report.json", "files.csv"}, set())
+        self.run_list(*rows)
+        self.assertIn("none of the originals' values was found", self.page())
+
+    def test_writes_again_what_is_missing(self):
+        self.make("in")
+        row = self.row("in", "17")
+        self.run_list(row)
+        run = self.folder / "list.run"
+        for name in ("evidence/report.json", "evidence/files.csv", "evidence/cases/17/report.json",
+                     "secret/uid_map.csv", "secret/patient_map.csv", "secret/not_done.csv"):
+            before = (run / name).read_bytes()
+            (run / name).unlink()
+            self.run_list(row)
+            if name.endswith(".csv"):
+                self.assertEqual((run / name).read_bytes(), before)
+            self.assertTrue((run / name).exists(), name)
+
+    def test_links_the_study_of_a_root_to_its_new_uid(self):
+        self.make("in", count=1)
+        source = next(path for path in (self.folder / "in").rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0020,000d)=1.2.50", source], check=True)
+        root = "1.2.826.0.1.3680043.8.498.12345"
+        for options in ((), ("--keep-uids",)):
+            self.run_list(self.row("in", "777", uid_root=root), options=options, status=None)
+            with open(self.folder / "list.run/secret/uid_map.csv", encoding="utf-8", newline="") as file:
+                self.assertEqual({line["id_old"]: line["id_new"] for line in csv.DictReader(file)}["1.2.50"],
+                                 root + ".777")
+            shutil.rmtree(self.folder / "list.run")
+            shutil.rmtree(self.folder / "out777")
+
+    def test_makes_no_other_key_for_one_that_is_missing(self):
+        self.make("in")
+        row = self.row("in", "17")
+        self.run_list(row)
+        key = self.folder / "list.run/secret/project.key"
+        key.rename(self.folder / "away")
+        self.run_list(row, status=2)
+        self.assertFalse(key.exists())
+        (self.folder / "away").rename(key)
+        self.assertIn("Nothing is left to be done.", self.run_list(row))
 
     def test_lets_a_grade_decide(self):
         self.make("in")

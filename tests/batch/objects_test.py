@@ -330,6 +330,20 @@ class Objects(unittest.TestCase):
         self.run_list(status=(1,), **user)
         self.assertEqual(len(self.contents()), len(made) - 1)
 
+    def test_makes_no_directory_while_that_of_the_source_cannot_be_read(self):
+        self.make("mixed", "--count", "3")
+        user = self.as_ordinary_user()
+        self.run_list(**user)
+        made = self.contents()
+        directory = next(self.source.rglob("DICOMDIR"))
+        directory.chmod(0)
+        printed = self.run_list(status=(1,), **user)
+        self.assertIn("case 17: 3 done, 1 not done;", printed)
+        self.assertEqual({name for name in self.contents() if "DICOMDIR" in str(name)}, set())
+        directory.chmod(0o644)
+        self.run_list(**user)
+        self.assertEqual(self.contents().keys(), made.keys())
+
     def test_keeps_results_while_their_source_is_empty(self):
         self.make("mixed", "--count", "3", "--no-directory")
         self.run_list()

@@ -138,8 +138,11 @@ class Parts(unittest.TestCase):
         missing = {str(number + 1) for number in range(CASES)} - {case["caseId"] for case in done["cases"]}
         self.assertTrue(missing)
         printed = self.call("merge", "some.csv", status=1)
+        self.assertIn("1 part\n", printed)
+        page = (self.folder / "some.run/evidence/report.html").read_text(encoding="utf-8")
         for case_id in missing:
             self.assertIn(f"the case {case_id} is in no part", printed)
+            self.assertIn(f"{case_id} (in no part: nothing is known of it)", page)
 
     def test_refuses_parts_that_do_not_belong_together(self):
         self.write_list("mixed.csv", "mixed")

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void init() { m_scratch = std::make_unique<ScratchFolder>(); }
     void readsNames_data();
     void readsNames();
+    void readsOnePatientIdInAnyCharacterSet_data();
+    void readsOnePatientIdInAnyCharacterSet();
     void writesThePrologueAnew();
     void keepsUnknownSyntaxesByteForByte_data();
     void keepsUnknownSyntaxesByteForByte();
@@ -59,6 +61,29 @@ void TestObjectFile::readsNames()
     QVERIFY(!facts.isDirectory);
     QCOMPARE(facts.names,
              (ObjectNames{"1.2.840.10008.5.1.4.1.1.2", "1.2.3.4.1", "1.2.3.4", "1.2.3", "4711"}));
+}
+
+void TestObjectFile::readsOnePatientIdInAnyCharacterSet_data()
+{
+    QTest::addColumn<QByteArray>("characterSet");
+    QTest::addColumn<QByteArray>("written");
+    QTest::addColumn<QByteArray>("read");
+    const QByteArray utf8 = "\xc3\x84-1";
+    QTest::newRow("Latin-1") << QByteArray("ISO_IR 100") << QByteArray("\xc4-1") << utf8;
+    QTest::newRow("UTF-8") << QByteArray("ISO_IR 192") << utf8 << utf8;
+    QTest::newRow("unknown: as it is")
+        << QByteArray("ISO_IR 9") << QByteArray("\xc4-1") << QByteArray("\xc4-1");
+}
+
+void TestObjectFile::readsOnePatientIdInAnyCharacterSet()
+{
+    QFETCH(QByteArray, characterSet);
+    QFETCH(QByteArray, written);
+    QFETCH(QByteArray, read);
+    const QString object =
+        test::objectFile(*m_scratch, QStringLiteral("object"),
+                         "(0008,0005) CS [" + characterSet + "]\n(0010,0020) LO [" + written + "]\n");
+    QCOMPARE(readFacts(object).names.patientId, read);
 }
 
 void TestObjectFile::writesThePrologueAnew()

@@ -80,6 +80,14 @@ void TestTexts::writesTexts_data()
             << "(0008,0005) CS [ISO_IR 192]\n(0008,1050) PN [Yamada^Tarou=" + wideKanji +
                    "]\n(0010,0010) PN [\xc3\x96]\n"
             << true;
+    for (const char *sets : {"ISO_IR 13", "ISO 2022 IR 13", "ISO 2022 IR 13\\ISO 2022 IR 87"})
+        QTest::addRow("keeps what divides values, from %s", sets)
+            << QStringLiteral("\u00D6")
+            << "(0008,0005) CS [" + QByteArray(sets) +
+                   "]\n(0010,0010) PN [Doe]\n(0018,1400) LO [\xd4\xcf\\x\xc0]\n"
+            << "(0008,0005) CS [ISO_IR 192]\n(0010,0010) PN [\xc3\x96]\n(0018,1400) LO [" +
+                   QStringLiteral("\uFF94\uFF8F\\x\uFF80").toUtf8() + "]\n"
+            << true;
     QTest::newRow("moves from Latin-9")
         << QStringLiteral("\u6F22")
         << QByteArray("(0008,0005) CS [ISO_IR 203]\n(0008,0080) LO [\xa4]\n(0010,0010) PN [Doe]\n")
