@@ -69,7 +69,8 @@ public:
     BatchOutcome run()
     {
         silenceLibrary();
-        Plan plan = judgeList(m_options, [this](const CaseRow &row) { return m_journal.knows(row); });
+        Plan plan = judgeList(m_options,
+                              [this](const QString &destination) { return m_journal.casesIn(destination); });
         m_outcome.problems = plan.problems;
         const std::optional<ProjectKey> key = plan.problems.isEmpty() ? openKey() : std::nullopt;
         if (!key)
@@ -187,7 +188,9 @@ Plan judgeBefore(const BatchOptions &options)
         plan.problems.append({0, problem});
         return plan;
     }
-    return judgeList(options, [&](const CaseRow &row) { return journal != nullptr && journal->knows(row); });
+    return judgeList(options, [&](const QString &destination) {
+        return journal ? journal->casesIn(destination) : QStringList();
+    });
 }
 
 } // namespace

@@ -67,7 +67,7 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
     const QString noteName = QStringLiteral("directory of ") + caseId;
     const QByteArray known = journal.value(noteName);
     if (known.startsWith(digits) && pathExists(target))
-        return {{}, true, known.sliced(digits.size()).trimmed().toInt()};
+        return {{}, true, false, known.sliced(digits.size()).trimmed().toInt()};
 
     const QString temporary = joinPath(planned.row.destination, QStringLiteral(".dravolin-directory.part"));
     const MediaDirectory made = makeMediaDirectory(temporary, planned.row.destination, results,
@@ -88,7 +88,7 @@ CaseDirectory makeDirectoryOf(const PlannedCase &planned, const ProjectKey &key,
     if (!named || !journal.add({{caseId, record}}, {}) ||
         !journal.setValue(noteName, noteOf(digits, made.leftOut.size())))
         return {Texts::tr("the DICOMDIR of case %1 cannot be written").arg(caseId)};
-    return {{}, true, made.leftOut.size()};
+    return {{}, true, true, made.leftOut.size()};
 }
 
 } // namespace dravolin

@@ -13,6 +13,7 @@ struct CaseDirectory
 {
     QString problem; // why it could not be made; "" when it is there, or was not asked for
     bool isThere = false;
+    bool isNew = false;    // made by this call
     qsizetype leftOut = 0; // results of kinds that have no place in a DICOMDIR
 };
 

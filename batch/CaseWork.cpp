@@ -71,6 +71,7 @@ bool CaseWork::finishCase(qsizetype index, const std::function<bool()> &stop)
     const CaseDirectory made = makeDirectoryOf(m_plan.cases.at(index), m_key, m_journal, stop);
     m_counts[index].hasDirectory = made.isThere;
     m_counts[index].notInDirectory = made.leftOut;
+    m_hasMade = m_hasMade || made.isNew;
     if (!made.problem.isEmpty())
         fail(made.problem);
     return !m_failed;
@@ -135,7 +136,8 @@ bool CaseWork::beginCase()
     const PlannedCase &planned = m_plan.cases.at(m_ended);
     const auto index = static_cast<size_t>(m_ended);
     QString problem;
-    m_locks[index] = takeDestination(planned.row.destination, m_journal.knows(planned.row), &problem);
+    const bool isOwn = m_journal.casesIn(planned.row.destination).contains(planned.row.caseId);
+    m_locks[index] = takeDestination(planned.row.destination, isOwn, &problem);
     const QByteArray rules = rulesHash(m_treatments[index].rules, planned.table, m_options, planned.studyUid);
     if (problem.isEmpty() && !m_journal.begin(planned.row, rules))
         problem = Texts::tr("the journal cannot be written");

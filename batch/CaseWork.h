@@ -32,8 +32,8 @@ public:
     [[nodiscard]] qsizetype filesOfRound() const { return static_cast<qsizetype>(m_tasks.size()); }
     // How many cases, from the first one on, have no file behind this round.
     [[nodiscard]] qsizetype casesEnded() const { return m_ended; }
-    // Whether any file had to be treated.
-    [[nodiscard]] bool hasTreated() const { return m_taken > 0; }
+    // Whether any file had to be treated, or a DICOMDIR to be made.
+    [[nodiscard]] bool hasTreated() const { return m_taken > 0 || m_hasMade; }
     // Treats a file of the round, from 0; any thread. The result has a temporary name afterwards.
     void treat(qsizetype number);
     [[nodiscard]] bool hasFailed() const { return m_failed; }
@@ -101,6 +101,7 @@ private:
     std::vector<Task> m_tasks;           // of the round
     quint64 m_bytes = 0;                 // of them
     qsizetype m_taken = 0;               // into all rounds
+    bool m_hasMade = false;              // a DICOMDIR
     qsizetype m_ended = 0;
     std::optional<OpenCase> m_open;          // whose files are being taken
     QHash<QByteArray, QByteArray> m_studies; // new UIDs of the studies that cases hold alone

@@ -31,7 +31,8 @@ QSqlQuery prepared(const QSqlDatabase &database, const QString &statement, const
 {
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    query.prepare(statement);
+    if (!query.prepare(statement))
+        return query;
     for (const QVariant &value : values)
         query.addBindValue(value);
     query.exec();
@@ -88,11 +89,14 @@ Journal::~Journal()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-bool Journal::knows(const CaseRow &row) const
+QStringList Journal::casesIn(const QString &destination) const
 {
-    return prepared(database(), QStringLiteral("SELECT 1 FROM cases WHERE id = ? AND destination = ?"),
-                    {row.caseId, toBytes(row.destination)})
-        .next();
+    QStringList ids;
+    QSqlQuery query = prepared(database(), QStringLiteral("SELECT id FROM cases WHERE destination = ?"),
+                               {toBytes(destination)});
+    while (query.next())
+        ids.append(query.value(0).toString());
+    return ids;
 }
 
 bool Journal::begin(const CaseRow &row, const QByteArray &rules)

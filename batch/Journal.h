@@ -8,6 +8,7 @@
 #include <QPair>
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -40,8 +41,8 @@ public:
     Journal(const Journal &) = delete;
     Journal &operator=(const Journal &) = delete;
 
-    // Whether a case with that id and destination was begun.
-    [[nodiscard]] bool knows(const CaseRow &row) const;
+    // The ids of the cases that were begun with that destination.
+    [[nodiscard]] QStringList casesIn(const QString &destination) const;
     // Begins a case, or goes on with it. With other rules than last time, said by their hash, or another
     // destination its files count as to be done anew.
     bool begin(const CaseRow &row, const QByteArray &rules);

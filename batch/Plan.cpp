@@ -137,6 +137,19 @@ private:
     QStringList m_problems;
 };
 
+// Of a destination that is not empty.
+QStringList problemsOfUse(const CaseRow &row, const QStringList &casesThere)
+{
+    if (casesThere.contains(row.caseId))
+        return {};
+    if (casesThere.isEmpty())
+        return {Texts::tr("the destination %1 is in use").arg(row.destination)};
+    return {
+        Texts::tr("the destination %1 holds what this run has made of the case %2; empty it first, or take "
+                  "another")
+            .arg(row.destination, casesThere.join(QStringLiteral(", ")))};
+}
+
 bool isInUse(const QString &destination)
 {
     return pathExists(destination) && (!isFolder(destination) || !listNames(destination).isEmpty());
@@ -162,7 +175,7 @@ QString PlannedCase::sourceFolder() const
     return isFolder(row.source) ? row.source : parentPath(row.source);
 }
 
-Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn)
+Plan judgeList(const BatchOptions &options, const CasesIn &casesIn)
 {
     const CaseList list = readCaseList(options.list);
     Plan plan;
@@ -173,8 +186,8 @@ Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseR
         planned.row = row;
         QStringList problems = RowJudge(options, planned).judge();
         const bool isOurs = options.shard.holds(row.caseId);
-        if (isOurs && isInUse(row.destination) && !isOwn(row))
-            problems.append(Texts::tr("the destination %1 is in use").arg(row.destination));
+        if (isOurs && isInUse(row.destination))
+            problems.append(problemsOfUse(row, casesIn(row.destination)));
         if (!row.uidRoot.isEmpty()) {
             const QByteArray study = studyUidOf(row);
             const auto line = studyLines.value(study, row.line);

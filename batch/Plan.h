@@ -80,10 +80,12 @@ struct Plan
     QList<ListProblem> problems;
 };
 
+// The ids of the cases that the same run has begun with a destination.
+using CasesIn = std::function<QStringList(const QString &destination)>;
+
 // Judges every row of the list, those of other shards included, without looking into the sources: all
-// problems at once. `isOwn` tells whether a destination that exists was begun by the same run; any other has
-// to be missing or empty. Writes nothing.
-[[nodiscard]] Plan judgeList(const BatchOptions &options, const std::function<bool(const CaseRow &)> &isOwn);
+// problems at once. A destination that exists has to be the same case's, or empty. Writes nothing.
+[[nodiscard]] Plan judgeList(const BatchOptions &options, const CasesIn &casesIn);
 
 // The Study Instance UID that the window would give a case with a root.
 [[nodiscard]] QByteArray studyUidOf(const CaseRow &row);

@@ -86,7 +86,7 @@ class Objects(unittest.TestCase):
         made = directory.read_bytes()
         self.run_list()
         directory.unlink()
-        self.run_list()
+        self.assertNotIn("Nothing is left to be done", self.run_list())
         self.assertEqual(directory.read_bytes(), made)
 
     def test_follows_a_changed_result_with_the_directory(self):

@@ -1,3 +1,4 @@
+#include "base/PathText.h"
 #include "batch/CaseWork.h"
 #include "support/ScratchFolder.h"
 #include "support/TestEntry.h"
@@ -29,7 +30,10 @@ public:
         const bool isMade = createFolder(m_options.wholeFolder);
         m_journal = Journal::open(scratch.path(folder + QStringLiteral("/journal")), &problem);
         m_files = std::make_unique<PlannedFiles>(m_options.wholeFolder);
-        m_plan = judgeList(m_options, [](const CaseRow &) { return true; });
+        // out1 is that of case 1
+        m_plan = judgeList(m_options, [](const QString &destination) {
+            return QStringList{lastPathComponent(destination).mid(3)};
+        });
         scanSources(m_plan, 1, m_files.get(), [] { return false; });
         if (!isMade || !m_journal || !m_plan.problems.isEmpty())
             QTest::qFail("the call cannot begin", __FILE__, __LINE__);

@@ -20,7 +20,7 @@ private Q_SLOTS:
     void writesNothing();
 
 private:
-    [[nodiscard]] Plan planOf(const QByteArray &rows, bool isOwn = false) const;
+    [[nodiscard]] Plan planOf(const QByteArray &rows, const QStringList &casesThere = {}) const;
     std::unique_ptr<ScratchFolder> m_scratch;
 };
 
@@ -43,14 +43,14 @@ void TestPlan::init()
     m_scratch->file(QStringLiteral("incomplete_Names.txt"), "a\tb\n");
 }
 
-Plan TestPlan::planOf(const QByteArray &rows, bool isOwn) const
+Plan TestPlan::planOf(const QByteArray &rows, const QStringList &casesThere) const
 {
     BatchOptions options;
     options.list = m_scratch->file(QStringLiteral("list.csv"),
                                    "source,destination,case_id,configuration,table,uid_root\n" + rows);
     options.wholeFolder = m_scratch->path(QStringLiteral("list.run"));
     options.defaultConfiguration = m_scratch->path(QStringLiteral("good.txt"));
-    return judgeList(options, [isOwn](const CaseRow &) { return isOwn; });
+    return judgeList(options, [&casesThere](const QString &) { return casesThere; });
 }
 
 void TestPlan::judgesRows_data()
@@ -132,7 +132,12 @@ void TestPlan::judgesRows()
 
 void TestPlan::leavesDestinationsOfItsOwnRun()
 {
-    QCOMPARE(planOf("in,used,1,,,\n", true).problems, QList<ListProblem>());
+    QCOMPARE(planOf("in,used,1,,,\n", {QStringLiteral("1")}).problems, QList<ListProblem>());
+    const QString other =
+        QStringLiteral("the destination %1 holds what this run has made of the case 2; empty it "
+                       "first, or take another")
+            .arg(m_scratch->path(QStringLiteral("used")));
+    QCOMPARE(planOf("in,used,1,,,\n", {QStringLiteral("2")}).problems, (QList<ListProblem>{{2, other}}));
 }
 
 void TestPlan::writesNothing()
