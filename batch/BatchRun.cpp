@@ -114,7 +114,8 @@ private:
         m_outcome.cases = work.counts();
         m_outcome.findings = checks.findings();
         m_outcome.failure = work.failure() + checks.failure();
-        m_outcome.nothingToDo = m_outcome.failure.isEmpty() && !work.hasTreated() && !checks.hasChecked();
+        m_outcome.nothingToDo =
+            m_outcome.failure.isEmpty() && !work.hasMadeAnything() && !checks.hasChecked();
         if (m_events.stop() || !m_outcome.failure.isEmpty())
             return;
         if (!writeEvidence({plan, m_options, m_journal, fingerprint(key)}, m_outcome))
@@ -197,6 +198,7 @@ Plan judgeBefore(const BatchOptions &options)
 
 Plan planBatch(const BatchOptions &options, const std::function<bool()> &stop)
 {
+    silenceLibrary();
     Plan plan = judgeBefore(options);
     if (plan.problems.isEmpty())
         scanSources(plan, options.workers, nullptr, stop);

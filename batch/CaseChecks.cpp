@@ -118,9 +118,7 @@ bool CaseChecks::check(qsizetype index)
     const check::CheckOptions options = optionsFor(planned, m_options, m_journal);
     const QByteArray subject = subjectOf(planned, options, m_journal);
     const QString folder = joinPath(evidenceFolder(m_options.runFolder()), caseReports(caseId));
-    const bool hasReports = pathExists(joinPath(folder, QStringLiteral("report.html"))) &&
-                            pathExists(joinPath(folder, QStringLiteral("report.json")));
-    const QByteArray known = hasReports ? m_journal.checked(caseId, subject) : QByteArray();
+    const QByteArray known = hasReports(folder) ? m_journal.checked(caseId, subject) : QByteArray();
     if (!known.isEmpty()) {
         m_findings[index] = findingsFrom(QJsonDocument::fromJson(known).object());
         return true;

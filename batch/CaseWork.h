@@ -33,7 +33,7 @@ public:
     // How many cases, from the first one on, have no file behind this round.
     [[nodiscard]] qsizetype casesEnded() const { return m_ended; }
     // Whether any file had to be treated, or a DICOMDIR to be made.
-    [[nodiscard]] bool hasTreated() const { return m_taken > 0 || m_hasMade; }
+    [[nodiscard]] bool hasMadeAnything() const { return m_taken > 0 || m_hasMade; }
     // Treats a file of the round, from 0; any thread. The result has a temporary name afterwards.
     void treat(qsizetype number);
     [[nodiscard]] bool hasFailed() const { return m_failed; }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 
 namespace dravolin {
 
@@ -21,6 +22,7 @@ const QString filesName = QStringLiteral("files.csv");
 const QString uidMapName = QStringLiteral("uid_map.csv");
 const QString patientMapName = QStringLiteral("patient_map.csv");
 const QString notDoneName = QStringLiteral("not_done.csv");
+const QString evidenceNames[] = {reportNames[0], reportNames[1], filesName};
 const QString secretNames[] = {uidMapName, patientMapName, notDoneName};
 
 bool writeFiles(const EvidenceSources &sources, const QString &folder)
@@ -73,13 +75,10 @@ bool writeNotDone(const QList<CaseCounts> &counts, const QString &folder)
     return table.finish();
 }
 
-bool isWhole(const QString &evidence, const QString &secret)
+bool areThere(const QString &folder, std::span<const QString> names)
 {
-    const auto isThere = [](const QString &folder) {
-        return [folder](const QString &name) { return pathExists(joinPath(folder, name)); };
-    };
-    return std::ranges::all_of(reportNames, isThere(evidence)) && isThere(evidence)(filesName) &&
-           std::ranges::all_of(secretNames, isThere(secret));
+    return std::ranges::all_of(names,
+                               [&](const QString &name) { return pathExists(joinPath(folder, name)); });
 }
 
 } // namespace
@@ -104,13 +103,17 @@ bool writeReports(QJsonObject report, const QString &folder)
     return json.finish() && page.finish();
 }
 
+bool hasReports(const QString &folder)
+{
+    return areThere(folder, reportNames);
+}
+
 void withdrawReports(const QString &caseId, const QString &evidence)
 {
-    for (const QString &name : reportNames) {
+    for (const QString &name : evidenceNames)
         removeFile(joinPath(evidence, name));
+    for (const QString &name : reportNames)
         removeFile(joinPath(joinPath(evidence, caseReports(caseId)), name));
-    }
-    removeFile(joinPath(evidence, filesName));
 }
 
 bool removeOtherReports(const QStringList &caseIds, const QString &evidence)
@@ -147,7 +150,8 @@ bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome)
     const QJsonObject report = evidenceReport(sources, outcome);
     const QByteArray hash =
         QCryptographicHash::hash(QJsonDocument(report).toJson(), QCryptographicHash::Sha256);
-    if (outcome.nothingToDo && sources.journal.value(written) == hash && isWhole(evidence, secret))
+    if (outcome.nothingToDo && sources.journal.value(written) == hash && areThere(evidence, evidenceNames) &&
+        areThere(secret, secretNames))
         return true;
     return sources.journal.setValue(written, {}) && createFolder(evidence) && writeFiles(sources, evidence) &&
            writeReports(report, evidence) && writeUidMap(secret, sources.journal) &&

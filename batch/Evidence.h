@@ -29,6 +29,9 @@ struct EvidenceSources
 // not be written.
 [[nodiscard]] bool writeEvidence(const EvidenceSources &sources, const BatchOutcome &outcome);
 
+// Whether both reports, of a run or of a case, are in a folder.
+[[nodiscard]] bool hasReports(const QString &folder);
+
 // Removes what says that all is done, before results of a case are no longer what it speaks of: the run's
 // reports and files.csv, and the reports of the case.
 void withdrawReports(const QString &caseId, const QString &evidence);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "check/ByteWalk.h"
 #include "base/CharacterSets.h"
+#include "check/ByteWalk.h"
 #include "check/GdcmModule.h"
 
 #include <QByteArrayView>

@@ -320,6 +320,7 @@ class Objects(unittest.TestCase):
         one.chmod(0)
         printed = self.run_list(status=(1,), **user)
         self.assertIn("case 17: 2 done, 1 not done;", printed)
+        self.assertNotIn("Nothing is left to be done", printed)
         self.assertEqual(self.not_done(), {name: "cannot be opened: Permission denied"})
         self.assertEqual(self.contents(), made)
         one.chmod(0o644)
@@ -329,6 +330,31 @@ class Objects(unittest.TestCase):
         one.chmod(0)
         self.run_list(status=(1,), **user)
         self.assertEqual(len(self.contents()), len(made) - 1)
+
+    def test_leaves_no_result_of_other_rules_for_what_cannot_be_done(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        one = next(path for path in self.source.rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0008,0005)=ISO_IR 9", "-i", b"(0008,0070)=M\xfcller", one],
+                       check=True)
+        (self.folder / "rules.txt").write_text("0010,0030\tBirth date\n", encoding="utf-8")
+        columns = "source,destination,case_id,configuration,diagnosis\n"
+        for diagnosis, done in (("Case", 1), ("\u0141\u00f3d\u017a", 0)):
+            (self.folder / "own.csv").write_text(f"{columns}in,out,17,rules.txt,{diagnosis}\n", encoding="utf-8")
+            printed = subprocess.run([CLI, "run", "own.csv"], cwd=self.folder, check=False, capture_output=True,
+                                     text=True).stdout
+            self.assertIn(f"case 17: {done} done, {1 - done} not done;", printed)
+            self.assertEqual(len(self.results()), done)
+
+    def test_prints_no_messages_of_the_library(self):
+        self.make("mixed", "--count", "1", "--no-directory")
+        one = next(path for path in self.source.rglob("*") if path.is_file())
+        subprocess.run(["dcmodify", "-nb", "-i", "(0008,0005)=\\ISO 2022 IR 87", "-i",
+                        b"(0010,0020)=\x1b$B;3\x1b(B", one], check=True)
+        (self.folder / "list.csv").write_text("source,destination,case_id\nin,out,17\n", encoding="utf-8")
+        for command in ("plan", "run"):
+            called = subprocess.run([CLI, command, "list.csv", *(["--quiet"] if command == "run" else [])],
+                                    cwd=self.folder, check=False, capture_output=True, text=True)
+            self.assertEqual(called.stderr, "")
 
     def test_makes_no_directory_while_that_of_the_source_cannot_be_read(self):
         self.make("mixed", "--count", "3")
